@@ -1,0 +1,55 @@
+# SPDX-FileCopyrightText: 2026 Korvanta contributors
+# SPDX-License-Identifier: MIT
+
+# One interface target carries what every target of ours is built with, so that warnings, sanitizers
+# and Qt's strictness are said once.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+add_library(zol_common INTERFACE)
+target_compile_options(zol_common INTERFACE
+    -Wall -Wextra -Wpedantic -Werror
+    -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
+    -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual)
+target_compile_definitions(zol_common INTERFACE
+    # GLib's headers use "signals" as a name, so Qt's keywords are off everywhere.
+    QT_NO_KEYWORDS
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
+    QT_NO_URL_CAST_FROM_STRING QT_NO_CAST_FROM_BYTEARRAY
+    QT_USE_QSTRINGBUILDER
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+target_include_directories(zol_common INTERFACE
+    "${PROJECT_SOURCE_DIR}/src")
+
+if(KORVANTA_SANITIZE)
+    target_compile_options(zol_common INTERFACE
+        -fsanitize=${KORVANTA_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(zol_common INTERFACE -fsanitize=${KORVANTA_SANITIZE})
+endif()
+
+# zol_library(NAME SOURCES ... LINKS ...): a static library of one floor of a subsystem. What it
+# links is the whole of what it may include; the layer check holds the includes against it.
+function(zol_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    add_library(korvanta::${name} ALIAS ${name})
+    target_link_libraries(${name} PUBLIC zol_common ${ARG_LINKS})
+endfunction()
+
+# zol_add_test(NAME SOURCES ... LINKS ...): one GoogleTest program a subsystem. The whole program is
+# one ctest entry per test case, found at test time; tests run without a display.
+function(zol_add_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE zol_common ${ARG_LINKS} GTest::gmock)
+    target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+    target_compile_definitions(${name} PRIVATE
+        KORVANTA_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
+        KORVANTA_BUILD_DATA_DIR="${PROJECT_BINARY_DIR}/share")
+    include(GoogleTest)
+    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST
+        PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8" TIMEOUT 120)
+endfunction()
