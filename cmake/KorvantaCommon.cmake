@@ -9,6 +9,11 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
+find_program(KORVANTA_CCACHE ccache)
+if(KORVANTA_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${KORVANTA_CCACHE}")
+endif()
+
 add_library(zol_common INTERFACE)
 target_compile_options(zol_common INTERFACE
     -Wall -Wextra -Wpedantic -Werror
@@ -39,8 +44,10 @@ function(zol_library name)
     target_link_libraries(${name} PUBLIC zol_common ${ARG_LINKS})
 endfunction()
 
-# zol_add_test(NAME SOURCES ... LINKS ...): one GoogleTest program a subsystem. The whole program is
-# one ctest entry per test case, found at test time; tests run without a display.
+# zol_add_test(NAME SOURCES ... LINKS ...): one GoogleTest program a subsystem. Every test
+# case is a ctest entry of its own, found at test time; tests run without a display. LINKS names what
+# is tested and where main comes from (GTest::gmock_main, or zol_gui_test_main for a
+# QGuiApplication).
 function(zol_add_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
