@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace zol {
+
+class Palette;
+class Pattern;
+
+enum class MessageIcon { None, Information, Question, Exclamation, Stop };
+enum class MessageButtons { Ok, YesNo, YesNoCancel };
+enum class MessageAnswer { Ok, Yes, No, Cancel };
+
+/// The way to the user for an operation that must tell or ask half-way and then go on. Everything
+/// else is a result that the caller words.
+class MessageDoor {
+public:
+    virtual ~MessageDoor() = default;
+    virtual void Tell(const std::string& text, MessageIcon icon, const std::string& title) = 0;
+    [[nodiscard]] virtual MessageAnswer Ask(const std::string& text, MessageIcon icon,
+                                            MessageButtons buttons, const std::string& title) = 0;
+};
+
+/// Progress of long work. MayGoOn is asked at fixed points; there a window lets events through.
+class ProgressDoor {
+public:
+    virtual ~ProgressDoor() = default;
+    virtual void StartStatus(const std::string& text, int maximum) = 0;
+    virtual void UpdateStatus(int value) = 0;
+    virtual void StopStatus() = 0;
+    /// False once the user has cancelled.
+    [[nodiscard]] virtual bool MayGoOn() = 0;
+};
+
+/// Asks for the symbol of a new palette entry. Nothing means that the user cancelled.
+class SymbolDoor {
+public:
+    virtual ~SymbolDoor() = default;
+    /// `palette` does not hold the new entry yet. The answer's first character is the symbol.
+    [[nodiscard]] virtual std::optional<std::string> ChooseSymbol(const Palette& palette) = 0;
+};
+
+/// Told of each square just before it changes. Owned by the undo machinery; the pattern only
+/// holds a pointer and the on/off flag.
+class UndoRecorder {
+public:
+    virtual ~UndoRecorder() = default;
+    virtual void RecordSquare(const Pattern& pattern, int x, int y) = 0;
+};
+
+/// Text values by section and name.
+class SettingsDoor {
+public:
+    virtual ~SettingsDoor() = default;
+    [[nodiscard]] virtual std::string ReadSetting(const std::string& section,
+                                                  const std::string& name,
+                                                  const std::string& defaultValue) const = 0;
+    virtual void WriteSetting(const std::string& section, const std::string& name,
+                              const std::string& value) = 0;
+};
+
+} // namespace zol
