@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+namespace zol {
+
+/// How large the squares of a grid are on a device: the ideal size of a square in twips, and the
+/// device's pixels. Edges of squares are found from it by GridViewport, which rounds each of them
+/// apart, so that errors never add up.
+struct GridScale {
+    double SquareTwipsX = 0;
+    double SquareTwipsY = 0;
+    double TwipsPerPixelX = 15;
+    double TwipsPerPixelY = 15;
+    double LineBaseTwips = 0; ///< the square's width that widths of lines are percentages of
+
+    /// On the screen: at 100 percent a square has its true size on cloth.
+    [[nodiscard]] static GridScale ForZoom(double percent, int clothCountX, int clothCountY,
+                                           double twipsPerPixelX = 15, double twipsPerPixelY = 15);
+    /// On paper: whole twips, `squaresPerInch` across and by the cloth's ratio down.
+    [[nodiscard]] static GridScale ForPrint(double squaresPerInch, int clothCountX, int clothCountY,
+                                            double twipsPerPixelX, double twipsPerPixelY);
+    /// In a picture: every square `pixels` wide and round(pixels x countX / countY) high, at
+    /// least 1.
+    [[nodiscard]] static GridScale ForPicture(int pixels, int clothCountX, int clothCountY);
+
+    friend bool operator==(const GridScale&, const GridScale&) = default;
+};
+
+} // namespace zol
