@@ -55,7 +55,9 @@ public:
     /// application folder. False if it is missing or unreadable, which leaves the empty object;
     /// nothing is shown.
     bool Initialize(const std::filesystem::path& fileName);
-    /// Reads header and rows from a stream; a short last record is dropped.
+    /// Reads header and rows from a stream, in the order of the file; a short last record is
+    /// dropped. Throws RunTimeError, with the object as it was, if the header is not whole or
+    /// there are more rows than can be counted.
     void Read(ByteReader& stream);
     /// An empty name means the catalogue's own; saving over it keeps the old file as ".BAK".
     /// False if nothing was written.
@@ -105,6 +107,9 @@ public:
     void SortByCategory(int order);
 
 private:
+    /// The row of that number, or null.
+    [[nodiscard]] const CatalogueRow* Find(int index) const;
+
     const ProgramContext* m_context;
     std::filesystem::path m_fileName;
     std::int16_t m_sortCategory = 0;

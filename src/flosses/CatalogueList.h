@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -16,10 +17,17 @@ struct CatalogueName {
     std::string Name;     ///< trimmed manufacturer name from the file's first 30 bytes
 };
 
-/// The catalogues of the application folder in directory order; names match ".col" in any case.
+/// The folder "Flosses" of the application folder, in any case of its letters.
+[[nodiscard]] std::filesystem::path CatalogueFolder(const ProgramContext& context);
+/// The file of that name there.
+[[nodiscard]] std::filesystem::path CataloguePath(const ProgramContext& context,
+                                                  const std::string& name);
+
+/// The catalogues of that folder by file name, as a folder is listed; names match ".col" in any
+/// case.
 [[nodiscard]] std::vector<CatalogueName> ListCatalogues(const ProgramContext& context);
 
-/// Splits the option "MapFlosses" at "|" and loads each named catalogue that can be read.
+/// The catalogue file names of the option "MapFlosses", which "|" separates.
 [[nodiscard]] std::vector<std::string> SplitMapFlosses(const std::string& option);
 
 } // namespace zol

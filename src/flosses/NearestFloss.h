@@ -28,6 +28,12 @@ public:
                                  const std::vector<std::int16_t>& used) const;
 
 private:
+    [[nodiscard]] int Search(int red, int green, int blue,
+                             const std::vector<std::int16_t>* used) const;
+    /// The search when no candidate lies within the range of the fast one.
+    [[nodiscard]] int SearchFar(int red, int green, int blue,
+                                const std::vector<std::int16_t>* used) const;
+
     int m_count = 0;
     // Channels on the match curve, each candidate's in its place, padded for the vector unit.
     std::vector<std::uint8_t> m_red;

@@ -113,6 +113,8 @@ public:
     [[nodiscard]] std::string GetNextAvailableSymbol() const;
     /// Code of the n-th symbol handed out, n from 1 to SymbolCount.
     [[nodiscard]] static int SymbolCode(int n);
+    /// Code of a text's first character in the symbol font; 0 for an empty text.
+    [[nodiscard]] static std::uint8_t SymbolCodeOf(std::string_view symbol);
     void SetSymbolFont(std::string_view name, bool bold, bool italic);
     [[nodiscard]] int GetFontCharSet() const { return m_symbolFontCharSet; }
     [[nodiscard]] const std::string& GetFontName() const { return m_symbolFontName; }
@@ -176,15 +178,40 @@ public:
 
 private:
     struct WithoutEntries {};
+    /// The arguments of AddPaletteEntry.
+    struct NewFloss {
+        Colour RGB;
+        std::string_view FlossID;
+        std::string_view Description;
+        std::string_view ManufacturerShort;
+        std::string_view Symbol;
+        int StitchStrands;
+        int BackStitchStrands;
+        int EntryTag;
+        std::int32_t MasterID;
+        int DefaultBSType;
+        std::string_view ManufacturerLong;
+    };
+
     Palette(ProgramContext& context, WithoutEntries);
 
     [[nodiscard]] bool InRange(int index) const;
     [[nodiscard]] PaletteEntry& At(int index);
     [[nodiscard]] const PaletteEntry& At(int index) const;
+    /// AddPaletteEntry without the sort, which whoever adds many runs once at the end.
+    PaletteAddStatus Append(const NewFloss& floss);
+    /// Appends the primary thread of an entry to `target`.
+    PaletteAddStatus AppendTo(Palette& target, int index, std::string_view symbol) const;
+    /// Nothing if the user was asked and cancelled.
+    [[nodiscard]] std::optional<std::uint8_t> SymbolOfNewEntry(std::string_view symbol) const;
     std::int16_t FindManufacturer(std::string_view shortName, std::string_view longName);
+    [[nodiscard]] std::vector<int> SortedPlaces() const;
+    void TakeStartupPalette(const Palette& startup);
     void AddBuiltInEntries();
+    void WriteBlock(ByteWriter& stream) const;
+    void ReadRel6(ByteReader& stream);
     void ReadRel5(ByteReader& stream);
-    bool ReadOldRecords(ByteReader& stream);
+    void ReadOldRecords(ByteReader& stream);
 
     ProgramContext* m_context;
     std::vector<PaletteEntry> m_entries;
@@ -199,5 +226,10 @@ private:
     bool m_changed = false;
     std::int16_t m_selectedEntry = -1;
 };
+
+/// Reads "Default.fls" of the application folder, in any case of its letters, into
+/// `context.StartupPalette`; without a palette there the built-in list serves. For whoever starts
+/// the program, once.
+void LoadStartupPalette(ProgramContext& context);
 
 } // namespace zol

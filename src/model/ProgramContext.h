@@ -44,6 +44,8 @@ struct ProgramContext {
     bool RecolorPatterns = false;
     /// The current catalogue; null until one is loaded.
     std::shared_ptr<AvailColors> CurrentCatalogue;
+    /// "dmc.col", from which old palettes take their master identities; null until one asks.
+    std::shared_ptr<AvailColors> MappingCatalogue;
     /// What "Default.fls" gave at the start; null: palettes start with the built-in list.
     std::shared_ptr<const Palette> StartupPalette;
 
