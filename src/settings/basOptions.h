@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "model/Doors.h"
+#include "model/ProgramContext.h"
+#include "settings/Options.h"
+
+namespace zol::basOptions {
+
+/// The record's built-in defaults: every row's own, with folders below `context.AppPath`.
+[[nodiscard]] Options BuiltInOptions(const ProgramContext& context);
+
+/// Reads every option from the store, section by section. The default floss file is loaded into
+/// `context.CurrentCatalogue` as soon as "Options" has named it, and the rest of the context
+/// takes its values at the end. No value is created by reading, except that the folders of
+/// custom stitches and stitched fonts come into being where they can.
+[[nodiscard]] Options LoadOptions(const SettingsDoor& store, ProgramContext& context);
+
+/// Gives the context what patterns and palettes need of the options.
+void ApplyOptions(const Options& options, ProgramContext& context);
+
+} // namespace zol::basOptions

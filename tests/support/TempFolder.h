@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace zol::test {
+
+/// A folder of its own for one test; gone with it.
+class TempFolder {
+public:
+    TempFolder() {
+        std::random_device source;
+        m_path = std::filesystem::temp_directory_path() /
+                 ("korvanta-test-" + std::to_string(source()) + std::to_string(source()));
+        std::filesystem::create_directories(m_path);
+    }
+    ~TempFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(m_path, ignored);
+    }
+    TempFolder(const TempFolder&) = delete;
+    TempFolder& operator=(const TempFolder&) = delete;
+
+    [[nodiscard]] const std::filesystem::path& Path() const { return m_path; }
+    [[nodiscard]] std::filesystem::path operator/(const std::string& name) const {
+        return m_path / name;
+    }
+
+private:
+    std::filesystem::path m_path;
+};
+
+inline std::string ReadFile(const std::filesystem::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+inline void WriteFile(const std::filesystem::path& path, const std::string& content) {
+    std::ofstream file(path, std::ios::binary);
+    file.write(content.data(), static_cast<std::streamsize>(content.size()));
+    ASSERT_TRUE(file.good()) << path;
+}
+
+} // namespace zol::test
