@@ -71,6 +71,20 @@ std::uint8_t ByteReader::ReadSlow() {
     return 0;
 }
 
+std::span<const std::uint8_t> ByteReader::Ahead(std::size_t wanted) {
+    const std::size_t left = m_cursor < m_window.size() ? m_window.size() - m_cursor : 0;
+    if (left >= wanted || m_stream == nullptr || Remaining() <= left) {
+        return m_window.last(left);
+    }
+    std::copy_n(m_window.end() - static_cast<std::ptrdiff_t>(left), left, m_buffer.begin());
+    m_windowStart += m_cursor;
+    m_cursor = 0;
+    m_stream->read(reinterpret_cast<char*>(m_buffer.data() + left),
+                   static_cast<std::streamsize>(m_buffer.size() - left));
+    m_window = std::span(m_buffer).first(left + static_cast<std::size_t>(m_stream->gcount()));
+    return m_window;
+}
+
 std::int16_t ByteReader::ReadI16() {
     const unsigned low = ReadU8();
     const unsigned high = ReadU8();

@@ -40,6 +40,11 @@ public:
     [[nodiscard]] std::int32_t ReadI32();
     [[nodiscard]] std::uint32_t ReadU32() { return static_cast<std::uint32_t>(ReadI32()); }
     [[nodiscard]] double ReadF64();
+    /// The bytes that lie ready from here on, at least `wanted` of them (up to 65536) unless the
+    /// stream ends before. They stand until the next call of anything but Skip.
+    [[nodiscard]] std::span<const std::uint8_t> Ahead(std::size_t wanted);
+    /// Goes past `count` of the bytes that Ahead gave.
+    void Skip(std::size_t count) { m_cursor += count; }
     /// Fills `target`; bytes past the end are zero.
     void ReadBytes(std::span<std::uint8_t> target);
     /// `length` bytes as they stand. A negative length, or one that passes the end, fails with

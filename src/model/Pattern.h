@@ -74,6 +74,11 @@ public:
     [[nodiscard]] bool IsInGrid(int x, int y) const {
         return x >= 1 && y >= 1 && x <= m_width && y <= m_height;
     }
+    /// Whether a knot can stand there: lattice points run from 1 to twice the size plus 1.
+    [[nodiscard]] bool IsOnLattice(LatticePos point) const {
+        return point.LX >= 1 && point.LX <= m_width * 2 + 1 && point.LY >= 1 &&
+               point.LY <= m_height * 2 + 1;
+    }
     [[nodiscard]] const KeyedTable<DupStitch>& DupStitches() const { return m_dupStitches; }
     [[nodiscard]] const KeyedTable<FrenchKnot>& FrenchKnots() const { return m_frenchKnots; }
 
@@ -206,18 +211,53 @@ private:
                static_cast<std::size_t>(y - 1);
     }
     [[nodiscard]] StitchCell& CellRef(int x, int y) { return m_grid[CellAt(x, y)]; }
+    /// What readers see at an index of a square; kind 255 and floss 0 past the end.
+    struct ListedStitch {
+        int kind = NoStitch;
+        int paletteIndex = 0;
+        int knotPosition = 0;
+        int orientation = 0;
+    };
+    /// The squares that a lattice point touches: 1, 2 or 4 of them, fewer at the grid's edge.
+    struct KnotSquares {
+        std::array<SquarePos, 4> squares;
+        std::size_t count = 0;
+    };
+    struct FlossRemoval;
+
+    static void CheckSize(int width, int height);
     void SizeGrid(int width, int height);
     void Record(int x, int y);
-    void SetKnot(int x, int y, int paletteIndex, int position);
+    /// False for a knot and for requests: SetStitch without a position does not store them.
+    [[nodiscard]] static bool IsStoredPlainly(int stitchType);
+    void PlaceStitch(int x, int y, std::uint8_t kind, std::uint8_t paletteIndex);
+    void AddToDup(int x, int y, std::uint8_t kind, std::uint8_t paletteIndex);
+    void SetKnot(LatticePos point, int paletteIndex);
     void DeleteOneKind(int x, int y, int stitchType);
     void DeleteAll(int x, int y);
+    void DeletePrimary(int x, int y);
+    [[nodiscard]] const DupStitch* DupAt(int x, int y) const;
+    [[nodiscard]] int ListedStitches(int x, int y) const;
+    [[nodiscard]] ListedStitch StitchAt(int x, int y, int index) const;
     [[nodiscard]] int GetFrenchKnotCount(int x, int y) const;
     [[nodiscard]] int CountKnotsAround(int x, int y) const;
     [[nodiscard]] const FrenchKnot* KnotAt(int x, int y, int index, int& position) const;
+    [[nodiscard]] KnotSquares SquaresOfKnot(int lx, int ly) const;
     void RefreshKnotFlag(int x, int y);
     void SetKnotFlags(int lx, int ly);
     void ClearKnotFlags(int lx, int ly);
-    [[nodiscard]] double GetStitchLength(int stitchType, double diagonal) const;
+    [[nodiscard]] static bool IsKnotInRange(const FrenchKnot& knot, const SquareRect& range);
+    /// Inches of one square's diagonal; 0 for a cloth without a count.
+    [[nodiscard]] double GetDiagonal() const;
+    [[nodiscard]] BackStitchLine* LineAt(int index);
+    [[nodiscard]] bool IsUsed(int x, int y) const;
+    [[nodiscard]] SquareRect GetStitchRect() const;
+    [[nodiscard]] bool IsColumnUsed(int x, int top, int bottom) const;
+    [[nodiscard]] SquareRect InGrid(const SquareRect& rect) const;
+    void MoveStitches(int x, int y, int toX, int toY);
+    [[nodiscard]] std::vector<FrenchKnot> TakeKnots(const SquareRect& area);
+    void RemoveFlosses(const FlossRemoval& removal);
+    void RemoveColorInRange(std::uint8_t paletteIndex, const SquareRect& range);
     /// Takes over what a reader filled; recorder, its flag and the context stay.
     void TakeContentOf(Pattern& fresh);
 
@@ -241,5 +281,9 @@ private:
     UndoRecorder* m_recorder = nullptr;
     bool m_recording = true;
 };
+
+/// Gives each entry of the pattern's palette the colour that the current catalogue has for its
+/// master identity. Without a catalogue nothing changes.
+void RefreshFlossColors(Pattern& pattern);
 
 } // namespace zol

@@ -172,6 +172,11 @@ int Replace(const fs::path& path, std::span<const std::uint8_t> bytes, const fs:
         const bool done = device.IsOpen() && device.Write(bytes) && device.Close();
         return done ? ErrNone : ErrorNumberOf(errno);
     }
+    if (fs::exists(status) && ::access(target.c_str(), W_OK) != 0) {
+        // The folder would let a rename replace it, but a file that was made read-only is meant
+        // to stay.
+        return ErrPermission;
+    }
     const fs::path fresh = NewNameBeside(target);
     OpenFile file(fresh, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC);
     if (!file.IsOpen()) {
