@@ -97,6 +97,34 @@ void Environment::LoadPattern(Pattern& pattern, const std::string& fileName) {
     pattern.GetPalette().Sort(m_options.PaletteSortOrder);
 }
 
+Palette Environment::LoadPalette(const std::string& fileName) {
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(PathOf(fileName), error)) {
+        throw CommandFailed(fileName + " cannot be read", RunTimeErrorText(ErrFileNotFound));
+    }
+    Palette palette = Palette::Empty(m_context);
+    const bool loaded = palette.LoadFromDisk(PathOf(fileName));
+    const std::string told = m_messages.Text();
+    // The oldest form is loaded and yet answered with a failure, without a word.
+    const bool oldForm = !loaded && told.empty() && palette.GetEntriesCount() > 0 &&
+                         std::filesystem::file_size(PathOf(fileName), error) % 37 == 0;
+    if (!loaded && !oldForm) {
+        throw CommandFailed(told.empty() ? fileName + " is no palette that can be read"
+                                         : told + " (" + fileName + ")");
+    }
+    palette.Sort(m_options.PaletteSortOrder);
+    return palette;
+}
+
+AvailColors Environment::LoadCatalogue(const std::string& fileName) {
+    AvailColors catalogue(m_context);
+    // A name without a folder would be looked for among the program's own catalogues.
+    if (!catalogue.Initialize(std::filesystem::absolute(PathOf(fileName)))) {
+        throw CommandFailed(fileName + " is no catalogue that can be read");
+    }
+    return catalogue;
+}
+
 void Environment::SavePattern(Pattern& pattern, const std::string& fileName) {
     int result = 0;
     if (fileName == "-") {

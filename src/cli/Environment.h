@@ -5,9 +5,12 @@
 
 #include <filesystem>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
+#include "flosses/AvailColors.h"
+#include "flosses/Palette.h"
 #include "model/Doors.h"
 #include "model/Pattern.h"
 #include "model/ProgramContext.h"
@@ -71,6 +74,9 @@ public:
     /// Throws CommandFailed with the words that a window would show last. "-" reads standard
     /// input.
     void LoadPattern(Pattern& pattern, const std::string& fileName);
+    /// Throws CommandFailed; old-form palettes count as loaded.
+    [[nodiscard]] Palette LoadPalette(const std::string& fileName);
+    [[nodiscard]] AvailColors LoadCatalogue(const std::string& fileName);
     /// "-" writes to standard output.
     void SavePattern(Pattern& pattern, const std::string& fileName);
 

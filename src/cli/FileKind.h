@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <string>
+
+namespace zol {
+
+enum class FileKind { Pattern, Palette, Catalogue, StitchedFont, Library };
+
+/// What a file is by its first bytes, or, where these say nothing, by its name's ending. A file
+/// with neither counts as a pattern, whose reader then says what is wrong.
+[[nodiscard]] FileKind KindOf(const std::string& fileName);
+
+} // namespace zol
