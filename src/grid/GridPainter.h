@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "grid/GridView.h"
+#include "grid/PaintColors.h"
 #include "grid/StitchImages.h"
 #include "grid/SymbolText.h"
 
@@ -69,8 +70,5 @@ private:
     std::unique_ptr<LineIndex> m_lines;
     std::unique_ptr<RasterGrid> m_raster;
 };
-
-/// Black where the mean of red, green and blue is 125 or more, white otherwise.
-[[nodiscard]] Colour GetContrastColor(Colour colour);
 
 } // namespace zol

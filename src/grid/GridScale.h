@@ -3,7 +3,16 @@
 
 #pragma once
 
+#include <cmath>
+
 namespace zol {
+
+/// The device pixel that a measure in twips falls into. A hair is added, so that twips which are
+/// whole pixels stay so where a pixel is no whole number of twips.
+[[nodiscard]] inline int ToPixel(double twips, double twipsPerPixel) {
+    const double pixels = twips / twipsPerPixel;
+    return static_cast<int>(std::trunc(pixels + std::copysign(1e-6, pixels)));
+}
 
 /// How large the squares of a grid are on a device: the ideal size of a square in twips, and the
 /// device's pixels. Edges of squares are found from it by GridViewport, which rounds each of them

@@ -4,7 +4,7 @@
 #pragma once
 
 #include <QColor>
-#include <QFont>
+#include <QGlyphRun>
 #include <QPainterPath>
 #include <QRawFont>
 #include <QRectF>
@@ -41,8 +41,8 @@ public:
         SetFont(palette.GetFontName(), palette.GetFontBold(), palette.GetFontItalic());
     }
 
-    /// The symbol as text: its em box is `scale` times the rectangle's height and centred in it.
-    /// Nothing for symbol 0.
+    /// The symbol as text: the font's height is `scale` times the rectangle's, and its cell is
+    /// centred in the rectangle. Nothing for symbol 0.
     void DrawText(QPainter& painter, const QRectF& rect, int symbol, const QColor& color,
                   double scale = 1);
     /// The symbol's outline as DrawText places it. With `snap` the edges of a small symbol fall on
@@ -50,15 +50,17 @@ public:
     [[nodiscard]] QPainterPath Outline(const QRectF& rect, int symbol, double scale, bool snap);
 
 private:
-    /// A glyph in the unit em box, its centre at (0, 0).
+    /// A glyph in a cell of height 1 whose centre is (0, 0).
     struct Glyph {
-        bool builtIn = false; ///< taken from the built-in font
+        const QRawFont* font = nullptr;
         quint32 index = 0;
         QPainterPath outline;
-        QPointF origin; ///< of the glyph's base line, in ems from the centre
+        QPointF origin;  ///< where its base line begins
+        double size = 0; ///< the font's pixel size at which the cell is 1 high
     };
     [[nodiscard]] const Glyph& GlyphOf(int symbol);
-    [[nodiscard]] static Glyph MakeGlyph(const QRawFont& font, char32_t character);
+    [[nodiscard]] static Glyph MakeGlyph(const QRawFont& font, quint32 index);
+    [[nodiscard]] const QGlyphRun& RunOf(int symbol, double pixelSize);
 
     std::string m_name;
     bool m_bold = false;
@@ -66,6 +68,10 @@ private:
     QRawFont m_font;
     QRawFont m_builtIn;
     std::array<std::optional<Glyph>, 256> m_glyphs;
+    double m_runSize = 0; ///< pixel size of the runs
+    std::array<std::optional<QGlyphRun>, 256> m_runs;
+    QRawFont m_sizedFont;
+    QRawFont m_sizedBuiltIn;
 };
 
 } // namespace zol

@@ -1,0 +1,137 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#include "grid/GridPainter.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+#include "grid/BackStitchLines.h"
+#include "grid/GridLines.h"
+#include "grid/LineIndex.h"
+#include "grid/RasterGrid.h"
+#include "grid/SquarePainter.h"
+
+namespace zol {
+
+namespace {
+
+SquareRect CutToPattern(const GridView& view, const SquareRect& rect) {
+    const SquareRect all = view.Everything();
+    return {std::max(rect.Left, all.Left), std::max(rect.Top, all.Top),
+            std::min(rect.Right, all.Right), std::min(rect.Bottom, all.Bottom)};
+}
+
+} // namespace
+
+GridPainter::GridPainter()
+    : m_images(std::make_unique<StitchImages>()),
+      m_symbols(std::make_unique<SymbolText>()),
+      m_lines(std::make_unique<LineIndex>()),
+      m_raster(std::make_unique<RasterGrid>(*m_images, *m_symbols)) {}
+
+GridPainter::~GridPainter() = default;
+
+void GridPainter::PaintGrid(QPainter& painter, const GridView& view, const SquareRect& rect) {
+    DrawGridLines(painter, view, rect);
+    DrawSquares(painter, view, rect);
+    DrawBackStitchLines(painter, view, rect);
+}
+
+void GridPainter::PaintImage(QImage& image, QPoint position, const GridView& view,
+                             const SquareRect& rect) {
+    const SquareRect cut = CutToPattern(view, rect);
+    if (cut.IsEmpty() || image.isNull()) {
+        return;
+    }
+    const QRect area = m_raster->Paint(image, position, view, cut);
+    if (area.isEmpty() || view.Source->Lines().empty()) {
+        return;
+    }
+    QPainter painter(&image);
+    painter.setClipRect(area);
+    painter.translate(-position);
+    zol::DrawBackStitchLines(painter, view, cut, *m_lines);
+}
+
+void GridPainter::DrawGridLines(QPainter& painter, const GridView& view, const SquareRect& rect) {
+    zol::DrawGridLines(painter, view, CutToPattern(view, rect));
+}
+
+void GridPainter::DrawSquares(QPainter& painter, const GridView& view, const SquareRect& rect) {
+    const SquareRect cut = CutToPattern(view, rect);
+    if (cut.IsEmpty() || view.Options.StitchStyle == PaintOptions::None) {
+        return;
+    }
+    const SquareSpans x = SquareSpans::Columns(view, cut.Left, cut.Right);
+    const SquareSpans y = SquareSpans::Rows(view, cut.Top, cut.Bottom);
+    SquarePainter squares(painter, view, *m_images, *m_symbols);
+    std::vector<SquarePos> knotted;
+    for (int column = cut.Left; column <= cut.Right; ++column) {
+        for (int row = cut.Top; row <= cut.Bottom; ++row) {
+            const StitchCell& cell = view.Source->Cell(column, row);
+            if (cell.StitchType != NoStitch) {
+                squares.DrawStitches(SquareContent(*view.Source, column, row),
+                                     {x.First(column), y.First(row), x.Last(column), y.Last(row)});
+            }
+            if ((cell.CellFlags & CellHasKnot) != 0) {
+                knotted.push_back({column, row});
+            }
+        }
+    }
+    for (const PlacedKnot& knot : KnotsOf(*view.Source, knotted)) {
+        squares.DrawKnot(knot);
+    }
+}
+
+void GridPainter::DrawSquare(QPainter& painter, const GridView& view, int column, int row) {
+    if (!view.Source->IsInGrid(column, row) || view.Options.StitchStyle == PaintOptions::None) {
+        return;
+    }
+    SquarePainter squares(painter, view, *m_images, *m_symbols);
+    squares.DrawStitches(SquareContent(*view.Source, column, row), SquarePixels(view, column, row));
+    for (const PlacedKnot& knot : KnotsOf(*view.Source, {{column, row}})) {
+        squares.DrawKnot(knot);
+    }
+}
+
+void GridPainter::RedrawNeighbours(QPainter& painter, const GridView& view, int column, int row) {
+    for (int y = row - 1; y <= row + 1; ++y) {
+        for (int x = column - 1; x <= column + 1; ++x) {
+            if (x != column || y != row) {
+                DrawSquare(painter, view, x, y);
+            }
+        }
+    }
+}
+
+void GridPainter::DrawBackStitchLines(QPainter& painter, const GridView& view,
+                                      const SquareRect& rect) {
+    zol::DrawBackStitchLines(painter, view, CutToPattern(view, rect), *m_lines);
+}
+
+void GridPainter::DrawStitchSymbol(QPainter& painter, const GridView& view, const QRectF& rect,
+                                   int kind, int orientation, int symbol, Colour colour) {
+    if (kind == StitchFKnot && orientation != KnotNormal) {
+        return;
+    }
+    const QRect whole = rect.toRect();
+    SquarePainter squares(painter, view, *m_images, *m_symbols);
+    squares.DrawSymbol(
+        StitchShapes::SymbolRect(kind, {whole.left(), whole.top(), whole.right(), whole.bottom()}),
+        symbol, colour);
+}
+
+int GridPainter::BuildStitchImage(int paletteIndex, Palette& palette, Colour cloth) {
+    const int slot = m_images->SlotOf(palette.GetFlossRGB(paletteIndex), cloth);
+    palette.SetPaletteImage(paletteIndex, slot);
+    return slot;
+}
+
+int GridPainter::GetPaletteImage(int paletteIndex, Palette& palette, Colour cloth) {
+    // The store is asked each time: the floss or the cloth may have another colour by now.
+    return BuildStitchImage(paletteIndex, palette, cloth);
+}
+
+} // namespace zol

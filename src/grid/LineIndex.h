@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "model/ZOLTypes.h"
+
+namespace zol {
+
+class Pattern;
+
+/// Finds a pattern's backstitch lines by the squares that they cross, so that a small repaint
+/// does not walk all of them. Brought up to date when the pattern or its lines have changed.
+class LineIndex {
+public:
+    /// Indexes from 1, ascending, of the lines that may touch the rectangle of squares.
+    [[nodiscard]] std::vector<int> Find(const Pattern& pattern, const SquareRect& rect);
+
+private:
+    static constexpr int BlockSize = 32; ///< squares a side of a block
+    /// Below this many lines walking them is as fast as any index.
+    static constexpr std::size_t WalkUpTo = 64;
+
+    void Update(const Pattern& pattern);
+    void Insert(const BackStitchLine& line, int index);
+    [[nodiscard]] std::vector<int> FindInBlocks(const SquareRect& rect);
+    [[nodiscard]] int BlockOf(int square, int blocks) const;
+
+    std::vector<BackStitchLine> m_lines; ///< as they stand in the blocks
+    int m_width = 0;
+    int m_height = 0;
+    int m_blocksAcross = 0;
+    int m_blocksDown = 0;
+    std::vector<std::vector<int>> m_blocks;
+    std::vector<std::uint32_t> m_seen; ///< the search that last found each line
+    std::uint32_t m_search = 0;
+};
+
+} // namespace zol
