@@ -53,6 +53,14 @@ __m128i Difference(__m128i a, __m128i b) {
     return _mm_sub_epi8(_mm_max_epu8(a, b), _mm_min_epu8(a, b));
 }
 
+std::uint8_t LeastLane(__m128i lanes) {
+    lanes = _mm_min_epu8(lanes, _mm_srli_si128(lanes, 8));
+    lanes = _mm_min_epu8(lanes, _mm_srli_si128(lanes, 4));
+    lanes = _mm_min_epu8(lanes, _mm_srli_si128(lanes, 2));
+    lanes = _mm_min_epu8(lanes, _mm_srli_si128(lanes, 1));
+    return static_cast<std::uint8_t>(_mm_cvtsi128_si32(lanes) & 0xFF);
+}
+
 /// Writes each candidate's distance, or 255 if it is greater, and gives the least of them.
 std::uint8_t CappedDistances(const Candidates& of, CurvedColour sought, std::uint8_t* distances) {
     const __m128i red = Spread(sought.Red);
@@ -66,11 +74,18 @@ std::uint8_t CappedDistances(const Candidates& of, CurvedColour sought, std::uin
         _mm_storeu_si128(reinterpret_cast<__m128i*>(distances + i), sum);
         least = _mm_min_epu8(least, sum);
     }
-    least = _mm_min_epu8(least, _mm_srli_si128(least, 8));
-    least = _mm_min_epu8(least, _mm_srli_si128(least, 4));
-    least = _mm_min_epu8(least, _mm_srli_si128(least, 2));
-    least = _mm_min_epu8(least, _mm_srli_si128(least, 1));
-    return static_cast<std::uint8_t>(_mm_cvtsi128_si32(least) & 0xFF);
+    return LeastLane(least);
+}
+
+/// Caps the distances of a block whose `used` elements are 0, and gives the least of the others.
+std::uint8_t MaskBlock(const std::int16_t* used, std::uint8_t* distances) {
+    const __m128i zero = _mm_setzero_si128();
+    const auto* source = reinterpret_cast<const __m128i*>(used);
+    const __m128i low = _mm_cmpeq_epi16(_mm_loadu_si128(source), zero);
+    const __m128i high = _mm_cmpeq_epi16(_mm_loadu_si128(source + 1), zero);
+    const __m128i masked = _mm_or_si128(Lanes(distances), _mm_packs_epi16(low, high));
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(distances), masked);
+    return LeastLane(masked);
 }
 
 #else
@@ -86,18 +101,32 @@ std::uint8_t CappedDistances(const Candidates& of, CurvedColour sought, std::uin
     return static_cast<std::uint8_t>(least);
 }
 
+std::uint8_t MaskBlock(const std::int16_t* used, std::uint8_t* distances) {
+    std::uint8_t least = cap;
+    for (std::size_t i = 0; i < laneCount; ++i) {
+        distances[i] = used[i] != 0 ? distances[i] : cap;
+        least = std::min(least, distances[i]);
+    }
+    return least;
+}
+
 #endif
 
 /// Caps what must not be chosen and gives the least of the others; missing elements are 0.
 std::uint8_t MaskUnused(const std::vector<std::int16_t>& used, std::size_t first,
                         std::uint8_t* distances, std::size_t count) {
     std::uint8_t least = cap;
-    const std::size_t known = used.size() > first ? std::min(count, used.size() - first) : 0;
-    for (std::size_t i = 0; i < known; ++i) {
-        distances[i] = used[first + i] != 0 ? distances[i] : cap;
-        least = std::min(least, distances[i]);
+    for (std::size_t i = 0; i < count; i += laneCount) {
+        const std::size_t place = first + i;
+        const std::size_t known = used.size() > place ? used.size() - place : 0;
+        if (known >= laneCount) {
+            least = std::min(least, MaskBlock(used.data() + place, distances + i));
+        } else {
+            std::int16_t block[laneCount] = {};
+            std::copy_n(used.data() + used.size() - known, known, block);
+            least = std::min(least, MaskBlock(block, distances + i));
+        }
     }
-    std::fill(distances + known, distances + count, cap);
     return least;
 }
 

@@ -165,6 +165,8 @@ public:
     /// Any known form from a file; see the failure texts in PaletteFile.cpp. An old-form file is
     /// loaded and still answered with false. Sort is the caller's to run.
     bool LoadFromDisk(const std::filesystem::path& fileName);
+    /// The same from the bytes of a whole file.
+    bool LoadWholeFile(ByteReader& stream);
     /// The palette block of a pattern stream, either of the two forms with a magic. Throws
     /// RunTimeError on damage.
     bool LoadFromDisk(ByteReader& stream);
@@ -212,6 +214,7 @@ private:
     void ReadRel6(ByteReader& stream);
     void ReadRel5(ByteReader& stream);
     void ReadOldRecords(ByteReader& stream);
+    bool TakeOldForm(ByteReader& stream);
 
     ProgramContext* m_context;
     std::vector<PaletteEntry> m_entries;

@@ -11,6 +11,7 @@
 //
 // Any other damage of a file answers false and says nothing.
 
+#include <algorithm>
 #include <exception>
 #include <memory>
 #include <utility>
@@ -207,22 +208,26 @@ void Palette::ReadOldRecords(ByteReader& stream) {
     Sort(m_sortOrder);
 }
 
-int Palette::LoadOldPalette(const std::filesystem::path& fileName) {
-    auto file = OpenInputFile(fileName);
-    if (!file) {
-        return 1;
-    }
+bool Palette::TakeOldForm(ByteReader& stream) {
     try {
-        ByteReader stream(*file);
         Palette loaded(*this);
         loaded.ClearPalette();
         loaded.ReadOldRecords(stream);
         loaded.m_changed = false;
         *this = std::move(loaded);
-        return 0;
+        return true;
     } catch (const std::exception&) {
+        return false;
+    }
+}
+
+int Palette::LoadOldPalette(const std::filesystem::path& fileName) {
+    auto file = OpenInputFile(fileName);
+    if (!file) {
         return 1;
     }
+    ByteReader stream(*file);
+    return TakeOldForm(stream) ? 0 : 1;
 }
 
 void Palette::MapOldPalette() {
@@ -261,8 +266,12 @@ bool Palette::LoadFromDisk(const std::filesystem::path& fileName) {
     if (!file) {
         return false;
     }
+    ByteReader stream(*file);
+    return LoadWholeFile(stream);
+}
+
+bool Palette::LoadWholeFile(ByteReader& stream) {
     try {
-        ByteReader stream(*file);
         const std::string magic = ReadMagic(stream);
         if (magic == rel6Magic || magic == rel5Magic) {
             Palette loaded(*this);
@@ -275,19 +284,20 @@ bool Palette::LoadFromDisk(const std::filesystem::path& fileName) {
             *this = std::move(loaded);
             return true;
         }
-        if (stream.Size() % oldRecordSize != 0) {
-            m_context->Tell("Invalid File Format", MessageIcon::None);
-            return false;
-        }
     } catch (const std::exception&) {
+        return false;
+    }
+    if (stream.Size() % oldRecordSize != 0) {
+        m_context->Tell("Invalid File Format", MessageIcon::None);
         return false;
     }
     // Such a palette is loaded and yet no success, so that the startup palette falls back to the
     // built-in list; files of this form have always been answered so.
-    if (LoadOldPalette(fileName) != 0) {
-        m_context->Tell("Invalid File Format", MessageIcon::Exclamation);
-    } else {
+    stream.Seek(1);
+    if (TakeOldForm(stream)) {
         MapOldPalette();
+    } else {
+        m_context->Tell("Invalid File Format", MessageIcon::Exclamation);
     }
     return false;
 }
