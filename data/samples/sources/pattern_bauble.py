@@ -15,41 +15,39 @@ d.facts = {
     "Instructions": "Two strands throughout, one for backstitch. The star is pieced of three-quarter stitches only where two colours "
     "meet. For a tree ornament stitch it twice, sew back to back and stuff.",
 }
-red, wine, bright = d.floss("321", "#"), d.floss("816", "%", blend="498"), d.floss("350", "o", blend="321")
-glint, cream, ivory = d.floss("353", "^"), d.floss("712", "-"), d.floss("738", "+")
-gold, old, amber = d.floss("3821", "*"), d.floss("3852", "$"), d.floss("783", "&", blend="782")
-green, pine, moss = d.floss("987", "H"), d.floss("319", "P"), d.floss("989", "h")
-brown = d.floss("780", "?")
+red, wine, bright = d.floss("321"), d.floss("816", blend="498"), d.floss("350", blend="321")
+glint, cream, ivory = d.floss("353"), d.floss("712"), d.floss("738")
+gold, old, amber = d.floss("3821"), d.floss("3852"), d.floss("783", blend="782")
+green, pine, moss = d.floss("987"), d.floss("319"), d.floss("989")
+brown = d.floss("780")
 CX, CY, R = 26, 45, 22
 
 d.oval(wine, CX, CY, R, R)
 d.oval(red, CX - 1.2, CY - 1.2, R - 1.6, R - 1.6, only=[wine])
 d.oval(bright, CX - 4.5, CY - 5, R - 7.5, R - 7.5, only=[red])
-d.blob(glint, [(8, 40), (9, 35), (12, 30.5), (16, 27.4), (17.5, 28.4), (14, 31.6), (11.4, 36), (9.8, 41)], only=[bright, red])
+d.blob(glint, [(8, 42), (8.4, 38.5), (9.6, 35), (11, 33.4), (12.4, 34), (11, 37), (10, 42)], only=[bright, red])
 
 # Two bands with teeth, cut along the diagonals of the squares
-for y, way in ((33, 1), (57, -1)):
+for y, way in ((31, 1), (59, -1)):
     lo, hi = min(y, y - 2 * way), max(y, y - 2 * way)
     d.box(old, 0, lo, 52, hi, only=[wine, red, bright, glint])
     for x in range(2, 52, 4):
         d.area(old, [(x - 2, y), (x, y + 2 * way), (x + 2, y)], only=[wine, red, bright, glint])
     d.box(gold, 0, lo, 52, lo + 1, only=[old])
 
-# The star: eight rhombs of two tones round the middle
+# The star: eight rhombs round the middle, each with a shaded edge
 def rhomb(floss, points):
     d.area(floss, [(CX + x, CY + y) for x, y in points])
 
 
-for sx, sy in ((1, 0), (0, 1), (-1, 0), (0, -1)):
-    tx, ty = -sy, sx
-    p = lambda a, b: (a * sx + b * tx, a * sy + b * ty)
-    rhomb(cream, [p(0, 0), p(4, 0), p(10, 0), p(4, 4)])
-    rhomb(cream, [p(0, 0), p(4, -4), p(10, 0)])
-    rhomb(ivory, [p(0, 0), p(10, 0), p(8, 2), p(4, 4)] if sx + sy > 0 else [p(0, 0), p(10, 0), p(8, -2), p(4, -4)])
-    rhomb(gold, [p(0, 0), p(4, 4), p(7, 7), p(7, 3), p(4, 1)])
-    rhomb(gold, [p(4, 4), p(7, 7), p(3, 7)])
-    rhomb(amber, [p(0, 0), p(4, 4), p(7, 7), p(3, 7), p(1, 4)])
-rhomb(red, [(-2, 0), (0, -2), (2, 0), (0, 2)])
+# Every edge of the rhombs runs along the squares or their diagonals, so three-quarter stitches meet it exactly.
+RHOMB = ((0, 0), (6, 0), (10, 4), (4, 4))
+SHADE = ((0, 0), (4, 4), (10, 4), (9, 3), (4, 3), (1, 0))
+TURNS = [lambda x, y: (x, y), lambda x, y: (-y, x), lambda x, y: (-x, -y), lambda x, y: (y, -x)]
+for turn in TURNS:
+    for floss, dark, flip in ((gold, amber, False), (cream, ivory, True)):
+        for shape, colour in ((RHOMB, floss), (SHADE, dark)):
+            rhomb(colour, [turn(*((b, a) if flip else (a, b))) for a, b in shape])
 
 # Cap, ring, bow and twigs
 d.box(gold, 22, 19, 30, 24)
@@ -68,20 +66,12 @@ d.area(moss, [(24, 12), (26, 12), (24, 14)])
 d.settle("Bauble, star, cap and bow")
 
 # Backstitch
-STAR = []
-for k in range(16):
-    a = math.pi / 4 * (k // 2)
-    c, s = round(math.cos(a) * (10 if k % 4 == 0 else 7 * math.sqrt(2))), round(math.sin(a) * (10 if k % 4 == 0 else 7 * math.sqrt(2)))
-for q in range(4):
-    c, s = ((1, 0), (0, 1), (-1, 0), (0, -1))[q]
-    STAR += [(CX + a * c - b * s, CY + a * s + b * c) for a, b in ((10, 0), (6, 3), (7, 7), (3, 6))]
-d.path(brown, STAR, LINE, closed=True)
-for a, b in (((10, 0), (2, 0)), ((0, 10), (0, 2)), ((-10, 0), (-2, 0)), ((0, -10), (0, -2)), ((7, 7), (1, 1)), ((-7, 7), (-1, 1)),
-             ((7, -7), (1, -1)), ((-7, -7), (-1, -1))):
-    d.path(brown, [(CX + a[0], CY + a[1]), (CX + b[0], CY + b[1])])
+for turn in TURNS:
+    for flip in (False, True):
+        d.path(brown, [(CX + x, CY + y) for x, y in (turn(*((b, a) if flip else (a, b))) for a, b in RHOMB)], closed=True)
 rim = [(CX + R * math.cos(math.radians(t)), CY + R * math.sin(math.radians(t))) for t in range(-79, 260, 8)]
 d.path(wine, rim, LINE)
-for y, way in ((33, 1), (57, -1)):
+for y, way in ((31, 1), (59, -1)):
     w = math.sqrt(R * R - (y - CY) ** 2) - 1
     top = y - 2 * way
     v = math.sqrt(R * R - (top - CY) ** 2) - 1
@@ -99,17 +89,16 @@ for side in (-1, 1):
 d.path(pine, [(24, 11), (28, 11), (29, 12), (29, 16), (28, 17), (24, 17), (23, 16), (23, 12)], closed=True)
 
 # Knots: beads between the teeth, frost on the star, sparks round about
-for y, way in ((33, 1), (57, -1)):
+for y, way in ((31, 1), (59, -1)):
     for x in range(8, 46, 4):
         if abs(x - CX) < math.sqrt(R * R - (y + 2 * way - CY) ** 2) - 2:
             d.knot(gold, x, y + 2 * way, ROUND)
-for a, b in ((8, 0), (-8, 0)):
-    d.knot(red, CX + a, CY + b, OVAL_H)
-    d.knot(red, CX + b, CY + a, OVAL_V)
 for s in (-1, 1):
-    d.knot(cream, CX + 5.5 * s, CY + 5.5 * s, OVAL_UL)
-    d.knot(cream, CX + 5.5 * s, CY - 5.5 * s, OVAL_UR)
-d.knot(gold, CX, CY, ROUND)
+    d.knot(gold, CX + 8 * s, CY, OVAL_H)
+    d.knot(gold, CX, CY + 8 * s, OVAL_V)
+    d.knot(cream, CX + 6 * s, CY + 6 * s, OVAL_UL)
+    d.knot(cream, CX + 6 * s, CY - 6 * s, OVAL_UR)
+d.knot(red, CX, CY, ROUND)
 for x, y, r in ((6, 20, 2), (46, 26, 2.5), (4, 64, 2), (48, 63, 1.5)):
     d.path(old, [(x - r, y), (x + r, y)])
     d.path(old, [(x, y - r), (x, y + r)])

@@ -17,15 +17,15 @@ d.facts = {
     "The smoke is couched loosely along the wavy line, the washing line is dashed, and the flowers are French knots.",
 }
 rng = random.Random(7)
-sky, high, cloud, sun = d.floss("3841", "-"), d.floss("813", "/"), d.floss("White", "."), d.floss("743", "$")
-glow = d.floss("744", "'", blend="3823")
-far, sea, deep, foam = d.floss("597", "=", blend="3766"), d.floss("3765", "#"), d.floss("517", "%"), d.floss("747", ":")
-sand, rock, shade = d.floss("677", "o"), d.floss("3045", "+"), d.floss("869", "&")
-grass, mead, dark, moss = d.floss("989", "v"), d.floss("3348", "^"), d.floss("986", "M"), d.floss("987", "m", blend="989")
-wall, wallshade, roof, tile = d.floss("712", "w"), d.floss("644", "s"), d.floss("356", "R"), d.floss("355", "T")
-door, frame, pane, line = d.floss("312", "D"), d.floss("B5200", "W"), d.floss("3752", "p"), d.floss("3799", "L")
-red, pink, gold, violet = d.floss("321", "r"), d.floss("3833", "k"), d.floss("742", "g"), d.floss("340", "u")
-brick, path = d.floss("3778", "B"), d.floss("842", "h")
+sky, high, cloud, sun = d.floss("3841"), d.floss("813"), d.floss("White"), d.floss("743")
+glow = d.floss("744", blend="3823")
+far, sea, deep, foam = d.floss("597", blend="3766"), d.floss("3765"), d.floss("517"), d.floss("747")
+sand, rock, shade = d.floss("677"), d.floss("3045"), d.floss("869")
+grass, mead, dark, moss = d.floss("989"), d.floss("3348"), d.floss("986"), d.floss("987", blend="989")
+wall, wallshade, roof, tile = d.floss("712"), d.floss("644"), d.floss("356"), d.floss("355")
+door, frame, pane, line = d.floss("312"), d.floss("B5200"), d.floss("3752"), d.floss("3799")
+red, pink, gold, violet = d.floss("321"), d.floss("3833"), d.floss("742"), d.floss("340")
+brick, path = d.floss("3778"), d.floss("842")
 
 # Sun, clouds
 d.oval(glow, 17, 13, 7.2, 7.2)

@@ -16,11 +16,11 @@ d.facts = {
     "colour. Work all cross stitches first, then the backstitch, and set the French knots last: wrap once for the oval knots and "
     "twice for the round ones. The bee flies along the dotted line.",
 }
-deep, mid, light, mist = d.floss("333", "#"), d.floss("340", "+"), d.floss("211", "o"), d.floss("209", "x", blend="340")
-stem, leaf, pale = d.floss("987", "%"), d.floss("989", "="), d.floss("3348", "-")
-honey, gold, black, brown = d.floss("783", "@"), d.floss("743", "$"), d.floss("3371", "&"), d.floss("938", "?")
-wing, vein = d.floss("3756", "~", blend="3747"), d.floss("931", "<")
-rose, blush, wine = d.floss("3687", "*"), d.floss("3689", ":"), d.floss("3685", "^")
+deep, mid, light, mist = d.floss("333"), d.floss("340"), d.floss("211"), d.floss("209", blend="340")
+stem, leaf, pale = d.floss("987"), d.floss("989"), d.floss("3348")
+honey, gold, black, brown = d.floss("783"), d.floss("743"), d.floss("3371"), d.floss("938")
+wing, vein = d.floss("3756", blend="3747"), d.floss("931")
+rose, blush, wine = d.floss("3687"), d.floss("3689"), d.floss("3685")
 
 TIE = (31, 60)
 
@@ -129,8 +129,8 @@ for shape, kind in zip(WING, (BTH, TBH)):
     d.put("A wing in half stitches, so that the cloth shines through",
           [(x, y, kind, wing) for x in range(d.width) for y in range(d.height) if filled[y, x] and d.free(x, y)])
 
-for curve, (points, *_rest) in zip(curves, STEMS):
-    d.path(stem, [along(curve, t / 24)[0] for t in range(0, round(24 * _rest[1]) + 1)])
+for curve, (_, _, low, _) in zip(curves, STEMS):
+    d.path(stem, [along(curve, t / 24)[0] for t in range(0, round(24 * low) + 1)])
 for points, floss in LEAVES:
     d.curve(stem, points, step=3, closed=True)
 for tip in ((11, 41), (53, 45), (23.5, 33.5), (39.5, 36.5)):

@@ -16,15 +16,15 @@ d.facts = {
     "each colour in the needle. The sky is worked in half stitches with one strand. Snowflakes are French knots; the large stars are backstitched with small crosses.",
 }
 rng = random.Random(11)
-back, wing, flight = d.floss("3862", "m"), d.floss("840", "n"), d.floss("838", "#")
-crown, soft = d.floss("3864", "c", blend="3862"), d.floss("3033", "~")
-red, breast, warm = d.floss("920", "R"), d.floss("921", "+", blend="922"), d.floss("922", "o", blend="3827")
-grey, belly, white = d.floss("3752", "-"), d.floss("822", "/"), d.floss("B5200", ".")
-black, beak, bark = d.floss("3371", "&"), d.floss("413", "="), d.floss("839", "k")
-barklight, snowshade = d.floss("841", "l"), d.floss("3753", ":")
-holly, hollylight, hollydark = d.floss("987", "H"), d.floss("989", "h"), d.floss("895" if "895" in d.dmc else "890", "D")
-sky, haze = d.floss("3325", "'"), d.floss("3841", "_")
-berry, shine, wine = d.floss("321", "*"), d.floss("352", "^"), d.floss("816", "W")
+back, wing, flight = d.floss("3862"), d.floss("840"), d.floss("838")
+crown, soft = d.floss("3864", blend="3862"), d.floss("3033")
+red, breast, warm = d.floss("920"), d.floss("921", blend="922"), d.floss("922", blend="3827")
+grey, belly, white = d.floss("3752"), d.floss("822"), d.floss("B5200")
+black, beak, bark = d.floss("3371"), d.floss("413"), d.floss("839")
+barklight, snowshade = d.floss("841"), d.floss("3753")
+holly, hollylight, hollydark = d.floss("987"), d.floss("989"), d.floss("895")
+sky, haze = d.floss("3325"), d.floss("3841")
+berry, shine, wine = d.floss("321"), d.floss("352"), d.floss("816")
 
 # The branch
 d.blob(bark, [(-4, 58), (8, 56.4), (22, 57.4), (36, 56), (50, 57), (62, 54.6), (76, 52), (76, 56.4), (62, 59.6), (50, 61.6), (36, 60.4),
@@ -79,11 +79,9 @@ for x, y in ((43, 62.5), (47, 63), (44.5, 66.5)):
     d.oval(wine, x, y, 2.25, 2.25)
     d.oval(berry, x - 0.4, y - 0.4, 1.8, 1.8)
 d.settle("Branch, robin and holly")
-d.blob(white, [(-5, 69), (4, 67.5), (14, 69.5), (24, 71.5), (36, 71), (48, 71.8), (58, 69.5), (66, 68), (75, 69), (75, 84), (-5, 84)])
+d.blob(white, [(-5, 69), (4, 67.5), (14, 69.5), (24, 71.5), (36, 71), (48, 71.8), (58, 69.5), (66, 68), (75, 69), (75, 84), (-5, 84)], only=[0])
 d.area(0, [(0, 80), (0, 68), (6, 74)])
 d.area(0, [(70, 80), (70, 68), (64, 74)])
-for x, y, _, _ in d.stitches:
-    d.box(0, x, y, x + 1, y + 1)
 d.settle("Drifts at the foot")
 
 d.put("The winter sky in half stitches, its corners cut",

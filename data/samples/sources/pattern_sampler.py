@@ -14,12 +14,12 @@ d.facts = {
     "Instructions": "Two strands for stitches, one for backstitch. A small flower is four quarter stitches that meet in one hole: come "
     "up in the four outer corners and go down in the shared one. Set a knot on it last.",
 }
-navy, blue, ice = d.floss("311", "N"), d.floss("931", "b"), d.floss("3752", "-")
-rose, pink, wine = d.floss("3687", "r"), d.floss("3688", "p"), d.floss("3685", "w")
-green, leaf, mint = d.floss("987", "g"), d.floss("989", "h"), d.floss("3348", "m", blend="989")
-gold, straw = d.floss("729", "$"), d.floss("676", "s")
-roof, wall, door, brick = d.floss("355", "T"), d.floss("739", "o", blend="738"), d.floss("930", "d"), d.floss("356", "R")
-bark, violet = d.floss("839", "k"), d.floss("3746", "v", blend="340")
+navy, blue, ice = d.floss("311"), d.floss("931"), d.floss("3752")
+rose, pink, wine = d.floss("3687"), d.floss("3688"), d.floss("3685")
+green, leaf, mint = d.floss("987"), d.floss("989"), d.floss("3348", blend="989")
+gold, straw = d.floss("729"), d.floss("676")
+roof, wall, door, brick = d.floss("355"), d.floss("739", blend="738"), d.floss("930"), d.floss("356")
+bark, violet = d.floss("839"), d.floss("3746", blend="340")
 
 GLYPHS = {
     "A": " ### #   ##   #######   ##   ##   #", "B": "#### #   ##   ##### #   ##   ##### ",

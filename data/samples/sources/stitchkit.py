@@ -2,6 +2,8 @@
 # SPDX-License-Identifier: MIT
 """Draws cross-stitch designs and writes them as operation scripts for `korvanta-cli edit`.
 
+A design program takes a NAME.png as an argument, too, and paints a quick look there.
+
 Places are in squares: (0, 0) is the upper left corner of the cloth, (0.5, 0.5) the centre of the first square. Areas are
 painted finely first; a square that a border crosses slantwise is then split between two three-quarter stitches.
 """
@@ -31,6 +33,8 @@ QUARTERS = tuple((kind, (_x < FINE / 2) == left, (_y < FINE / 2) == top)
 def catalogue():
     root = Path(__file__).resolve().parents[3]
     found = sorted(root.glob("data/**/dmc.csv")) + [Path(a) for a in sys.argv[1:] if a.endswith(".csv")]
+    if not found:
+        sys.exit("no dmc.csv under data/: name one as an argument")
     with open(found[0], newline="") as f:
         return {r["FlossID"]: r for r in csv.DictReader(f)}
 
@@ -61,24 +65,30 @@ def quoted(text):
     return '"' + text.replace('"', '""') + '"'
 
 
+def hex_of(row):
+    """A catalogue colour as 0x00BBGGRR."""
+    return "0x00{:02X}{:02X}{:02X}".format(*(int(row[k]) for k in ("Blue", "Green", "Red")))
+
+
 class Design:
     def __init__(self, name, width, height, cloth=(252, 251, 248), count=14):
         self.name, self.width, self.height, self.cloth, self.count = name, width, height, cloth, count
         self.dmc = catalogue()
-        self.flosses = []  # (row, symbol, second row or None, style)
-        self.steps = []  # (comment, stitches) in order
-        self.stitches = []
-        self.labels = np.zeros((height * FINE, width * FINE), np.uint8)
+        self.flosses = []  # (row, second row or None)
+        self.steps = []  # (comment, [(column, row, kind, floss)]) in order
+        self.labels = np.zeros((height * FINE, width * FINE), np.uint8)  # painted, not yet stitches
+        self.settled = self.labels.copy()
+        self.cache = (-1, set())
         self.lines = []
         self.knots = []
         self.facts = {}
 
-    def floss(self, number, symbol, blend=None, style=LINE):
-        self.flosses.append((self.dmc[number], symbol, self.dmc[blend] if blend else None, style))
+    def floss(self, number, blend=None):
+        self.flosses.append((self.dmc[number], self.dmc[blend] if blend else None))
         return len(self.flosses)
 
     def colour(self, index):
-        row, _, second, _ = self.flosses[index - 1]
+        row, second = self.flosses[index - 1]
         one = [int(row[k]) for k in ("Red", "Green", "Blue")]
         two = [int(second[k]) for k in ("Red", "Green", "Blue")] if second else one
         return tuple(round((a + b) / 2) for a, b in zip(one, two))
@@ -90,7 +100,7 @@ class Design:
         ImageDraw.Draw(image).polygon([(x * FINE - 0.5, y * FINE - 0.5) for x, y in points], fill=1)
         where = np.asarray(image)
         if only is not None:
-            where = where & np.isin(self.labels, only)
+            where = where & np.isin(np.where(self.labels, self.labels, self.settled), only)
         self.labels[where] = floss
 
     def box(self, floss, x1, y1, x2, y2, only=None):
@@ -103,17 +113,22 @@ class Design:
         self.area(floss, smooth(points), only)
 
     def settle(self, comment):
-        """Turns what was painted since the last call into stitches."""
-        found = []
-        for x in range(self.width):
-            for y in range(self.height):
-                found += [(x, y, kind, f) for kind, f in self._fit(x, y)]
-        self.stitches += found
-        self.steps.append((comment, found))
+        """Turns what was painted since the last call into stitches; a square that is painted again is fitted anew."""
+        touched = {(x, y) for y, x in zip(*np.nonzero(self._by_square(self.labels).any(axis=(1, 3))))}
+        self.settled = np.where(self.labels, self.labels, self.settled)
         self.labels[:] = 0
+        self.steps = [(c, [s for s in stitches if (s[0], s[1]) not in touched]) for c, stitches in self.steps]
+        self.steps.append((comment, [(x, y, kind, f) for x, y in sorted(touched) for kind, f in self._fit(x, y)]))
+
+    def _by_square(self, fine):
+        return fine.reshape(self.height, FINE, self.width, FINE)
+
+    @property
+    def stitches(self):
+        return [s for _, stitches in self.steps for s in stitches]
 
     def _fit(self, x, y):
-        cell = self.labels[y * FINE : (y + 1) * FINE, x * FINE : (x + 1) * FINE]
+        cell = self.settled[y * FINE : (y + 1) * FINE, x * FINE : (x + 1) * FINE]
         values, counts = np.unique(cell, return_counts=True)
         if len(values) == 1:
             return [(WHOLE, int(values[0]))] if values[0] else []
@@ -143,18 +158,24 @@ class Design:
     def put(self, comment, stitches):
         """(column, row, kind, floss), columns and rows counted from 0."""
         stitches = [s for s in stitches if 0 <= s[0] < self.width and 0 <= s[1] < self.height]
-        self.stitches += stitches
         self.steps.append((comment, stitches))
 
     def picture(self, comment, left, top, rows, key):
         """Whole stitches from a drawing in text."""
         self.put(comment, [(left + i, top + j, WHOLE, key[c]) for j, row in enumerate(rows) for i, c in enumerate(row) if c in key])
 
+    def _taken(self):
+        count = sum(len(stitches) for _, stitches in self.steps)
+        if self.cache[0] != count:
+            self.cache = (count, {(s[0], s[1]) for s in self.stitches})
+        return self.cache[1]
+
     def free(self, x, y):
-        return not any(s[0] == x and s[1] == y for s in self.stitches)
+        return (x, y) not in self._taken()
 
     def knot(self, floss, x, y, style=ROUND):
-        self.knots.append((self._snap(x, y), floss, style))
+        at = self._snap(x, y)
+        self.knots = [k for k in self.knots if k[0] != at] + [(at, floss, style)]
 
     def path(self, floss, points, style=LINE, closed=False):
         p = [self._snap(*q) for q in points]
@@ -194,18 +215,16 @@ class Design:
     # The script
 
     def script(self):
-        out = [f"# {self.facts.get('Title', self.name)}: {self.width} by {self.height} squares, made by {self.name}.py's design",
+        out = [f"# {self.facts['Title']}, {self.width} by {self.height} squares",
                f"Initialize {self.width} {self.height} {self.count} {self.count}"]
-        out[0] = f"# {self.facts.get('Title', self.name)}, {self.width} by {self.height} squares"
         out += [f"Set{k} {quoted(v)}" for k, v in self.facts.items()]
         out += ["", "# Flosses, behind the sixteen of a new pattern"]
-        for i, (row, symbol, second, style) in enumerate(self.flosses):
-            rgb = "0x{2:02X}{1:02X}{0:02X}".format(*(int(row[k]) for k in ("Red", "Green", "Blue")))
-            out.append(f"AddPaletteEntry {rgb} {quoted(row['FlossID'])} {quoted(row['Description'])} \"DMC\" {quoted(symbol)} 2 1 "
-                       f"{STARTUP_ENTRIES + i} {row['MasterID']} {style} \"DMC\"")
+        symbols, styles = self._symbols(), self._styles()
+        for i, (row, second) in enumerate(self.flosses):
+            out.append(f"AddPaletteEntry {hex_of(row)} {quoted(row['FlossID'])} {quoted(row['Description'])} \"DMC\" {quoted(symbols[i])} "
+                       f"2 1 {STARTUP_ENTRIES + i} {row['MasterID']} {styles[i]} \"DMC\"")
             if second:
-                rgb = "0x{2:02X}{1:02X}{0:02X}".format(*(int(second[k]) for k in ("Red", "Green", "Blue")))
-                out.append(f"BlendFloss {STARTUP_ENTRIES + i + 1} {rgb} {quoted(second['FlossID'])} \"DMC\" "
+                out.append(f"BlendFloss {STARTUP_ENTRIES + i + 1} {hex_of(second)} {quoted(second['FlossID'])} \"DMC\" "
                            f"{quoted(second['Description'])} {second['MasterID']}")
         for comment, stitches in self.steps:
             out += ["", f"# {comment}"]
@@ -227,19 +246,29 @@ class Design:
                 out.append(f"SetStitch {x} {y} {KNOT} {floss + STARTUP_ENTRIES} {position}")
         return out
 
+    def _symbols(self):
+        """A sign for each floss, from "!" on: the boldest go to what is stitched most."""
+        used = [s[3] for s in self.stitches] + [k[1] for k in self.knots]
+        order = sorted(range(len(self.flosses)), key=lambda i: -used.count(i + 1))
+        return {i: chr(ord("!") + rank) for rank, i in enumerate(order)}
+
+    def _styles(self):
+        """The line style that each floss is mostly used with."""
+        styles = [[line[3] for line in self.lines if line[2] == i + 1] or [LINE] for i in range(len(self.flosses))]
+        return [max(sorted(set(s)), key=s.count) for s in styles]
+
     def save(self):
-        used = {s[3] for s in self.stitches} | {k[1] for k in self.knots} | {k[2] for k in self.lines}
+        stitches = self.stitches
+        used = {s[3] for s in stitches} | {k[1] for k in self.knots} | {k[2] for k in self.lines}
         missing = set(range(1, len(self.flosses) + 1)) - used
         assert not missing, f"unused flosses: {[self.flosses[i - 1][0]['FlossID'] for i in missing]}"
-        symbols = [f[1] for f in self.flosses]
-        assert len(set(symbols)) == len(symbols), "two flosses share a symbol"
         target = Path(__file__).resolve().parent.parent / f"patterns/{self.name}.ops"
         target.write_text(self.script())
         for a in sys.argv[1:]:
             if a.endswith(".png"):
                 self.preview(a)
-        kinds = {k: sum(s[2] == k for s in self.stitches) for k in range(1, 13)}
-        print(self.name, "flosses", len(self.flosses), "kinds", {k: v for k, v in kinds.items() if v}, "knots", len(self.knots),
+        kinds = {k: sum(s[2] == k for s in stitches) for k in range(1, 13)}
+        print(self.name, "flosses", len(self.flosses), "stitches", len(stitches), "kinds", {k: v for k, v in kinds.items() if v}, "knots", len(self.knots),
               "lines", len(self.lines))
 
     # A quick look
