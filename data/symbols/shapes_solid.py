@@ -23,7 +23,7 @@ def Whole():
     """One closed piece each."""
     return {
         "square": Square(38), "disc": Disc(35.5), "diamond": Diamond(39), "heart": HEART,
-        "spade": SPADE, 
+        "spade": SPADE,
         "club": Joined(Disc(17, 0, 22), Disc(17, -20, -8), Disc(17, 20, -8),
                        Poly((0, 10), (-16, -39), (16, -39))),
         "hexagon": Polygon(6, 41, 0), "hexagon-tall": Polygon(6, 41),
