@@ -60,7 +60,7 @@ inline std::vector<std::uint8_t> CatalogueBytes() {
 }
 
 inline std::string CatalogueCsvText() {
-    return "FlossID,Description,Red,Green,Blue,MasterID\r\n"
+    return "FlossID,Description,Red,Green,Blue,MasterID\n"
            "310,\"Black, \"\"deep\"\"\",0,0,0,300\nWhite,White,255,255,255,5\n";
 }
 

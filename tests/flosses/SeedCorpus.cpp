@@ -15,8 +15,8 @@ namespace {
 
 using Bytes = std::vector<std::uint8_t>;
 
-/// Hands a seed to a fuzz target if a corpus is asked for. Each seed is checked before: one that
-/// does not load would lead the fuzzer nowhere.
+/// Writes a seed for the target fuzz_TARGET if KORVANTA_CORPUS_DIR names a corpus ("fuzz/corpus" in
+/// the project). Each seed is checked before: one that does not load would lead the fuzzer nowhere.
 void WriteSeed(const std::string& target, const std::string& name, const Bytes& bytes) {
     const char* corpus = std::getenv("KORVANTA_CORPUS_DIR");
     if (corpus == nullptr) {
@@ -38,11 +38,11 @@ TEST(SeedCorpus, PalettesOfEveryForm) {
         ByteReader stream(bytes);
         palette.LoadWholeFile(stream);
         EXPECT_EQ(palette.GetEntriesCount(), 2) << name;
-        WriteSeed("fuzz_palette", name, bytes);
+        WriteSeed("palette", name, bytes);
     }
     ByteWriter startup;
     Palette(context).SaveToDisk(startup);
-    WriteSeed("fuzz_palette", "startup.fls", startup.Bytes());
+    WriteSeed("palette", "startup.fls", startup.Bytes());
 }
 
 TEST(SeedCorpus, Catalogue) {
@@ -52,13 +52,13 @@ TEST(SeedCorpus, Catalogue) {
     ByteReader stream(bytes);
     catalogue.Read(stream);
     EXPECT_EQ(catalogue.GetFlossCount(), 2);
-    WriteSeed("fuzz_catalogue", "two-rows.col", bytes);
+    WriteSeed("catalogue", "two-rows.col", bytes);
 }
 
 TEST(SeedCorpus, CatalogueCsv) {
     const std::string text = test::CatalogueCsvText();
     EXPECT_EQ(ReadCatalogueCsv(text).size(), 2U);
-    WriteSeed("fuzz_catalogue_csv", "two-rows.csv", {text.begin(), text.end()});
+    WriteSeed("catalogue_csv", "two-rows.csv", {text.begin(), text.end()});
 }
 
 } // namespace
