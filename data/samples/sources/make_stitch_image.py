@@ -16,7 +16,7 @@ SIZE = 64
 OVER = 8  # subpixels a side
 THREAD_LOW, THREAD_HIGH = 126, 254
 CLOTH = 24
-HALF_WIDTH = 0.25  # of the leg, in squares
+HALF_WIDTH = 0.275  # of the leg, in squares
 STRANDS = 2
 
 
@@ -39,10 +39,10 @@ def leg(x, y, sign):
     ny = sign * local * 0.7 / np.sqrt(2)
     lit = np.clip(0.62 * round_ - 0.30 * nx - 0.34 * ny, 0, 1)
     twist = 0.5 + 0.5 * np.cos(2 * np.pi * (along * 9.0 + local * 0.42 * sign))
-    groove = 1 - 0.16 * (1 - twist) * (1 - 0.3 * np.abs(local))
-    dive = 1 - 0.80 * np.clip((end - 0.60) / 0.40, 0, 1) ** 1.5
-    body = 0.26 + 1.16 * lit
-    edge = 1 - 0.28 * np.clip((np.abs(w) - 0.72) / 0.28, 0, 1)
+    groove = 1 - 0.22 * (1 - twist) * (1 - 0.3 * np.abs(local))
+    dive = 1 - 0.66 * np.clip((end - 0.60) / 0.40, 0, 1) ** 1.5
+    body = 0.44 + 0.98 * lit
+    edge = 1 - 0.30 * np.clip((np.abs(w) - 0.72) / 0.28, 0, 1)
     value = np.clip(body * groove * dive * edge, 0, 1)
     return np.where(inside, THREAD_LOW + (THREAD_HIGH - THREAD_LOW) * value, np.nan)
 
@@ -56,7 +56,7 @@ def draw():
     # The upper leg throws a soft shadow on the lower one.
     gap = np.abs(x + y) / np.sqrt(2) - HALF_WIDTH
     shade = np.clip(1 - gap / 0.13, 0, 1) ** 1.5
-    lower = THREAD_LOW + (lower - THREAD_LOW) * (1 - 0.62 * shade)
+    lower = THREAD_LOW + (lower - THREAD_LOW) * (1 - 0.46 * shade)
     image = np.where(np.isnan(upper), lower, upper)
     thread = ~np.isnan(image)
     blocks = lambda a: a.reshape(SIZE, OVER, SIZE, OVER).sum(axis=(1, 3))

@@ -2,9 +2,10 @@
 # SPDX-License-Identifier: MIT
 """A cottage on a cliff over the sea: ../patterns/cottage.ops."""
 
+import math
 import random
 
-from stitchkit import BTH, DASHED, DOTTED, Design, LINE, OVAL_H, OVAL_UL, OVAL_UR, OVAL_V, ROUND, SQUIGGLE, TBH, TRACKS
+from stitchkit import BTH, DASHED, DOTTED, Design, OVAL_H, OVAL_UL, OVAL_UR, OVAL_V, ROUND, SQUIGGLE, TBH, TRACKS
 
 d = Design("cottage", 90, 70, cloth=(252, 251, 248), count=16)
 d.facts = {
@@ -14,7 +15,7 @@ d.facts = {
     "Fabric": "16 count Aida, antique white",
     "Instructions": "The sky is worked in half stitches with one strand. Everything else is cross stitch with two strands; where "
     'a square is split between two colours, work the nearer shape as the "long" three-quarter stitch. Backstitch with one strand. '
-    "The smoke is couched loosely along the wavy line, the washing line is dashed, and the flowers are French knots.",
+    "The smoke is couched loosely along the wavy line, the sunbeams are dashed and dotted, and the flowers are French knots.",
 }
 rng = random.Random(7)
 sky, high, cloud, sun = d.floss("3841"), d.floss("813"), d.floss("White"), d.floss("743")
@@ -118,16 +119,21 @@ for x in range(58, 90, 3):  # a picket fence before the meadow
         d.path(frame, [(x, 60), (x, 55), (x + 0.5, 54.5), (x + 1, 55), (x + 1, 60)])
 for a, b in ((58, 64), (76, 90)):
     d.path(frame, [(a, 57), (b, 57)], TRACKS)
-d.path(line, [(83, 41), (90, 41)], DASHED)
+d.path(line, [(83, 41), (90, 41)])
 for x, floss in ((85, red), (87.5, violet)):
-    d.path(floss, [(x, 41), (x, 44), (x + 1.5, 44), (x + 1.5, 41)], LINE)
+    d.path(floss, [(x, 41), (x, 44), (x + 1.5, 44), (x + 1.5, 41)])
 d.curve(line, [(56, 15), (57, 12), (55, 9), (58, 6), (57, 2)], SQUIGGLE, step=1)
-d.path(foam, [(1, 55), (12, 55)], DOTTED)
-d.path(foam, [(18, 52), (33, 52)], DOTTED)
-d.path(foam, [(3, 41), (9, 41)], DOTTED)
-d.path(foam, [(28, 44), (35, 44)], DOTTED)
+d.path(foam, [(1, 55), (12, 55)])
+d.path(foam, [(18, 52), (33, 52)])
+d.path(foam, [(3, 41), (9, 41)])
+d.path(foam, [(28, 44), (35, 44)])
 for x, y, s in ((27, 20, 2), (33, 24, 1.5), (22, 26, 1), (43, 18, 1)):
     d.path(line, [(x - 2 * s, y - s), (x - s, y - s - 0.5), (x, y), (x + s, y - s - 0.5), (x + 2 * s, y - s)])
+
+for k in range(12):  # sunbeams
+    a = math.pi * (k + 0.5) / 6
+    far_end = (10.5, 12.5)[k % 2]
+    d.path(sun, [(17 + r * math.cos(a), 13 + r * math.sin(a)) for r in (8, far_end)], (DOTTED, DASHED)[k % 2])
 
 # Knots: round ones are flowers, oval ones lie like grass seed and pebbles
 for cx, cy, n, colours, spread in ((51, 45.5, 9, (red, pink), 3), (58, 47, 7, (gold, frame), 2.4), (76, 46.8, 7, (violet, pink), 3),

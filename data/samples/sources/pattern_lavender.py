@@ -4,7 +4,7 @@
 
 import math
 
-from stitchkit import BTH, DASHED, DOTTED, Design, OVAL_H, OVAL_UL, OVAL_UR, OVAL_V, ROUND, TBH, FINE, smooth
+from stitchkit import BTH, DOTTED, Design, OVAL_H, OVAL_UL, OVAL_UR, OVAL_V, ROUND, TBH, FINE, smooth
 
 d = Design("lavender", 64, 84)
 d.facts = {
@@ -134,7 +134,7 @@ for curve, (_, _, low, _) in zip(curves, STEMS):
 for points, floss in LEAVES:
     d.curve(stem, points, step=3, closed=True)
 for tip in ((11, 41), (53, 45), (23.5, 33.5), (39.5, 36.5)):
-    d.curve(stem, [(31, 57), ((31 + tip[0]) / 2 + (0.5 if tip[0] < 31 else -0.5), (57 + tip[1]) / 2), tip], DASHED, step=2)
+    d.curve(stem, [(31, 57), ((31 + tip[0]) / 2 + (0.5 if tip[0] < 31 else -0.5), (57 + tip[1]) / 2), tip], step=2)
 for side in (-1, 1):
     m = lambda pts: [(TIE[0] + side * a, TIE[1] + b) for a, b in pts]
     d.curve(wine, m([(3, 1), (4, -3), (9, -4.4), (12.2, -1.5), (11.8, 3), (8, 5.2), (4, 4), (3, 1.5)]), step=3)

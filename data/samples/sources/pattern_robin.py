@@ -4,7 +4,7 @@
 
 import random
 
-from stitchkit import BTH, DASHED, Design, LINE, OVAL_H, OVAL_UL, OVAL_UR, OVAL_V, PLUS, ROUND
+from stitchkit import BTH, Design, LINE, OVAL_H, OVAL_UL, OVAL_UR, OVAL_V, PLUS, ROUND
 
 d = Design("robin", 70, 74, cloth=(252, 251, 248), count=14)
 d.facts = {
@@ -92,7 +92,7 @@ d.put("The winter sky in half stitches, its corners cut",
 d.curve(flight, BODY[8:] + BODY[:6], LINE, step=3)
 d.curve(black, WING, LINE, closed=True, step=3)
 d.curve(black, TAIL[1:7], LINE, step=3)
-d.curve(black, [(50, 49), (56, 55), (61, 59.5)], DASHED, step=2)
+d.curve(black, [(50, 49), (56, 55), (61, 59.5)], step=2)
 for p in ([(38, 38), (45, 42), (52, 47)], [(40, 33), (46, 38), (51, 44)]):
     d.curve(black, p, LINE, step=2)
 d.path(black, [(11, 20), (17, 20.5)])
@@ -103,7 +103,7 @@ for x in (27, 33):  # feet
     d.path(black, [(x - 0.5, 58), (x + 2, 59)])
 for k, (points, vein) in enumerate(LEAVES):
     d.path(hollydark, points, LINE, closed=True)
-    d.path((hollylight, hollydark, hollylight)[k], vein, DASHED)
+    d.path((hollylight, hollydark, hollylight)[k], vein)
 for x, y, r in ((8, 12, 4), (58, 10, 5), (61, 34, 3.5), (6, 42, 3)):
     for a, b in (((-r, 0), (r, 0)), ((0, -r), (0, r))):
         d.path(white, [(x + a[0], y + a[1]), (x + b[0], y + b[1])], PLUS)

@@ -12,7 +12,7 @@ d.facts = {
     "Copyright": "2026 Korvanta contributors, MIT licence",
     "Fabric": "14 count Aida, cream",
     "Instructions": "Two strands for stitches, one for backstitch. A small flower is four quarter stitches that meet in one hole: come "
-    "up in the four outer corners and go down in the shared one. Set a knot on it last.",
+    "up in the four outer corners and go down in the shared one. The knots between them come last.",
 }
 navy, blue, ice = d.floss("311"), d.floss("931"), d.floss("3752")
 rose, pink, wine = d.floss("3687"), d.floss("3688"), d.floss("3685")
@@ -44,10 +44,10 @@ def letters(text, left, top, flosses):
         d.picture(f"Letter {c}", left + 7 * k, top, [g[5 * r : 5 * r + 5] for r in range(7)], {"#": flosses[k % len(flosses)]})
 
 
-def flower(x, y, floss, heart, style=ROUND):
-    """Four quarter stitches round the corner (x, y)."""
+def flower(x, y, floss, bead, style=ROUND):
+    """Four quarter stitches round the corner (x, y), and a knot behind it."""
     d.put("Small flower", [(x - 1, y - 1, LRQ, floss), (x, y - 1, LLQ, floss), (x - 1, y, URQ, floss), (x, y, ULQ, floss)])
-    d.knot(heart, x, y, style)
+    d.knot(bead, x + 3, y, style)
 
 
 HEART = [(0, 1), (1, 0), (2, 0), (3, 1), (4, 0), (5, 0), (6, 1), (6, 2), (3, 5), (0, 2)]
@@ -105,9 +105,9 @@ d.settle("House, trees and tulips")
 d.put("Grass in half stitches, leaning both ways",
       [(x, y, TBH if x < 42 else BTH, mint if y == 74 else leaf) for y in (74, 75) for x in range(8, 76) if d.free(x, y)])
 
-for k, x in enumerate(range(12, 75, 6)):
+for k, x in enumerate(range(12, 73, 6)):
     flower(x, 44, (rose, violet, blue)[k % 3], gold, (ROUND, OVAL_H, OVAL_V)[k % 3])
-for k, x in enumerate(range(15, 72, 6)):
+for k, x in enumerate(range(12, 73, 6)):
     flower(x, 79, (blue, rose, violet)[k % 3], straw, (ROUND, OVAL_UL, OVAL_UR)[k % 3])
 
 # One band of every line

@@ -248,8 +248,10 @@ class Design:
 
     def _symbols(self):
         """A sign for each floss, from "!" on: the boldest go to what is stitched most."""
-        used = [s[3] for s in self.stitches] + [k[1] for k in self.knots]
-        order = sorted(range(len(self.flosses)), key=lambda i: -used.count(i + 1))
+        use = dict.fromkeys(range(len(self.flosses)), 0)
+        for _, _, kind, floss in self.stitches:
+            use[floss - 1] += 1 if kind in (TBH, BTH) else 4  # a wide ground of half stitches is to stay light
+        order = sorted(use, key=lambda i: -use[i])
         return {i: chr(ord("!") + rank) for rank, i in enumerate(order)}
 
     def _styles(self):
