@@ -47,7 +47,8 @@ def letters(text, left, top, flosses):
 def flower(x, y, floss, bead, style=ROUND):
     """Four quarter stitches round the corner (x, y), and a knot behind it."""
     d.put("Small flower", [(x - 1, y - 1, LRQ, floss), (x, y - 1, LLQ, floss), (x - 1, y, URQ, floss), (x, y, ULQ, floss)])
-    d.knot(bead, x + 3, y, style)
+    if x < 72:
+        d.knot(bead, x + 3, y, style)
 
 
 HEART = [(0, 1), (1, 0), (2, 0), (3, 1), (4, 0), (5, 0), (6, 1), (6, 2), (3, 5), (0, 2)]
