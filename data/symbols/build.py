@@ -1,8 +1,20 @@
 #!/usr/bin/python3
 # SPDX-FileCopyrightText: 2026 Korvanta contributors
 # SPDX-License-Identifier: MIT
-"""Builds KorvantaSymbols.ttf. Two runs give the same bytes, so nothing in it tells the time."""
+"""Builds KorvantaSymbols.ttf. Two runs give the same bytes, so nothing in it tells the time.
+
+With --check the font that is kept is held against what the sources build instead; 77 says that the
+tools for it are not installed here, or are of another version than the font was built with.
+"""
 import sys
+import tempfile
+from pathlib import Path
+
+try:
+    import fontTools
+    import numpy  # noqa: F401, which the outlines need
+except ImportError:
+    sys.exit(77)
 
 from fontTools.fontBuilder import FontBuilder
 from fontTools.pens.ttGlyphPen import TTGlyphPen
@@ -15,7 +27,9 @@ from symbols import HERE, AllShapes, CentredOutline, Order, Unicode
 EM = 1000
 UNIT = EM / 100
 FAMILY = "Korvanta Symbols"
+FONT = HERE / "KorvantaSymbols.ttf"
 VERSION = "1.000"
+TOOLS = "4.38.0"  # fontTools of Debian 12; others may lay tables out differently.
 MADE = 3850000000  # Seconds since 1904; fixed.
 
 
@@ -103,5 +117,19 @@ def Names():
     }
 
 
+def Check():
+    """Whether the font that is kept is what its sources build."""
+    with tempfile.TemporaryDirectory() as folder:
+        built = Path(folder) / FONT.name
+        Build(built)
+        if built.read_bytes() != FONT.read_bytes():
+            raise SystemExit(f"{FONT.name} is not what its sources build: run build.py")
+
+
 if __name__ == "__main__":
-    Build(sys.argv[1] if len(sys.argv) > 1 else HERE / "KorvantaSymbols.ttf")
+    if "--check" in sys.argv[1:]:
+        if fontTools.version != TOOLS:
+            sys.exit(77)
+        Check()
+    else:
+        Build(FONT)

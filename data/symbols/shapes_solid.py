@@ -16,25 +16,25 @@ DOME = Disc(38) | Box(-38, -38, 38, 0)
 
 
 def Arrow():
-    return Poly((0, 39), (-38, 6), (-10, 6), (-10, -39), (10, -39), (10, 6), (38, 6))
+    return Poly((0, 39), (-38, 8), (-11, 8), (-11, -39), (11, -39), (11, 8), (38, 8))
 
 
 def Whole():
     """One closed piece each."""
     return {
-        "square": Square(38), "disc": Disc(35.5), "diamond": Diamond(39), "heart": HEART,
+        "square": Square(38.5), "disc": Disc(36), "diamond": Diamond(38), "heart": HEART,
         "spade": SPADE,
         "club": Joined(Disc(17, 0, 22), Disc(17, -20, -8), Disc(17, 20, -8),
                        Poly((0, 10), (-16, -39), (16, -39))),
         "hexagon": Polygon(6, 41, 0), "hexagon-tall": Polygon(6, 41),
         "pentagon": Polygon(5, 41), "pentagon-down": Polygon(5, 41, -90),
         "octagon": Polygon(8, 41, 22.5),
-        "plus": Plus(17, 38), "cross": Cross(20, 38),
+        "plus": Plus(17, 40), "cross": Cross(20, 38),
         "plus-bold": Plus(30, 38), "cross-bold": Cross(34, 38),
         "clover": Joined(*(Disc(20, 0, 20).Turn(90 * i) for i in range(4))),
         "clover-turned": Joined(*(Disc(19, 19, 19).Turn(90 * i) for i in range(4))) | Square(12),
         **Turned("triangle", TRIANGLE),
-        **Diagonals("corner", Poly((-36, 36), (-36, -36), (36, -36))),
+        **Diagonals("corner", Poly((-39, 39), (-39, -39), (39, -39))),
         **Turned("arrow", Arrow()),
         **Diagonals("arrow", Poly((-38, 38), (20, 38), (2, 20), (39, -17), (17, -39), (-20, -2),
                                   (-38, -20)).Turn(90)),
@@ -58,7 +58,7 @@ def Cut():
     """A whole with a piece taken out of its rim or its middle."""
     return {
         "ring": Ring(39, 25), "frame": Square(38) - Square(22),
-        "open-diamond": Diamond(43) - Diamond(28),
+        "open-diamond": Diamond(43) - Diamond(25),
         "heart-open": HEART - HEART.Scale(.48).At(0, 1),
         "clover-open": Joined(*(Disc(20, 0, 20).Turn(90 * i) for i in range(4))) - Disc(12),
         "square-eye": Square(38) - Disc(22), "square-gem": Square(38) - Diamond(27),

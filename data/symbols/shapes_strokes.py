@@ -13,7 +13,7 @@ def Bold():
         **Pair("bars3", Box(-38, 22, 38, 38) | Box(-38, -8, 38, 8) | Box(-38, -38, 38, -22)),
         **Turned("chevron", Poly((-39, -8), (0, 33), (39, -8), (39, -35), (0, 6), (-39, -35))),
         **Turned("tee", Box(-38, 13, 38, 38) | Box(-13, -38, 13, 38)),
-        **Turned("ell", Box(-38, -38, -11, 38) | Box(-38, -38, 38, -11)),
+        **Turned("ell", Box(-38, -38, -19, 38) | Box(-38, -38, 38, -19)),
         **Pair("rung", Box(-38, -38, -13, 38) | Box(13, -38, 38, 38) | Box(-38, -12, 38, 12)),
         **Mirrored("zed", zed), **Mirrored("en", zed.FlipX().Turn(90)),
         **Mirrored("step", step), **Mirrored("step-tall", step.Turn(90)),
@@ -54,7 +54,7 @@ def Light():
 
 def Stars():
     return {
-        "star": Star(5, 43, 15), "star-down": Star(5, 43, 15, -90),
+        "star": Star(5, 44, 17), "star-down": Star(5, 44, 17, -90),
         "star4": Star(4, 42, 16), "star4-turned": Star(4, 50, 18, 45),
         "star6": Star(6, 42, 21), "star8": Star(8, 42, 27),
         "star3": Star(3, 45, 13), "star3-down": Star(3, 45, 13, -90),

@@ -7,6 +7,7 @@ import shapes_framed
 import shapes_groups
 import shapes_solid
 import shapes_strokes
+import shapes_tiles
 from outlines import Outline
 
 HERE = Path(__file__).resolve().parent
@@ -31,7 +32,8 @@ def Order():
 
 def AllShapes():
     shapes = {}
-    for module in (shapes_solid, shapes_framed, shapes_strokes, shapes_groups):
+    for module in (shapes_solid, shapes_framed, shapes_strokes, shapes_groups,
+                   shapes_tiles):
         for name, shape in module.Shapes().items():
             if name in shapes:
                 raise SystemExit(f"two shapes are named {name}")
