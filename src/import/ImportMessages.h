@@ -1,0 +1,38 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace zol {
+
+/// The words of the import wizard that the core owns: what is wrong with a screen's fields, and
+/// what is shown beside the progress bar.
+namespace ImportMessages {
+
+inline constexpr int MaxImportColors = 200;
+
+inline constexpr std::string_view NoImage = "You must select an image to import";
+inline constexpr std::string_view WidthTooSmall = "Pattern width must be greater than zero";
+inline constexpr std::string_view HeightTooSmall = "Pattern height must be greater than zero";
+inline constexpr std::string_view NoFlossFamily = "You must select a floss family to import.";
+inline constexpr std::string_view NoFlossPalette = "You must select a floss palette to import.";
+
+inline constexpr std::string_view ApplyingPalette = "Applying Floss Palette";
+inline constexpr std::string_view CreatingPattern = "Creating Pattern";
+/// `colorWord` as the running program spells it.
+[[nodiscard]] std::string Reducing(std::string_view colorWord);
+
+/// What is wrong with the size screen's fields; nothing if they will do.
+[[nodiscard]] std::optional<std::string> ValidateSize(double width, double height);
+
+/// What is wrong with the number of colours; nothing if it will do. `paletteCount` is the entry
+/// count of the pattern's palette when the edit box is used; nothing else.
+[[nodiscard]] std::optional<std::string>
+ValidateMaxColors(int maxColors, std::optional<int> paletteCount, std::string_view colorWord);
+
+} // namespace ImportMessages
+} // namespace zol
