@@ -45,14 +45,14 @@ void GridPainter::PaintImage(QImage& image, QPoint position, const GridView& vie
     if (cut.IsEmpty() || image.isNull()) {
         return;
     }
-    const QRect area = m_raster->Paint(image, position, view, cut);
-    if (area.isEmpty() || view.Source->Lines().empty()) {
+    const RasterGrid::Painted painted = m_raster->Paint(image, position, view, cut);
+    if (painted.Area.isEmpty() || view.Source->Lines().empty()) {
         return;
     }
     QPainter painter(&image);
-    painter.setClipRect(area);
+    painter.setClipRect(painted.Area);
     painter.translate(-position);
-    zol::DrawBackStitchLines(painter, view, cut, *m_lines);
+    zol::DrawBackStitchLines(painter, view, painted.Squares, *m_lines);
 }
 
 void GridPainter::DrawGridLines(QPainter& painter, const GridView& view, const SquareRect& rect) {

@@ -68,7 +68,7 @@ public:
     RasterPass(QImage& image, QPoint position, const GridView& view, const SquareRect& rect,
                TileCache& tiles);
 
-    QRect Run();
+    RasterGrid::Painted Run();
 
 private:
     /// One column of squares; pixels are those of the image.
@@ -133,7 +133,7 @@ RasterPass::RasterPass(QImage& image, QPoint position, const GridView& view, con
       m_cells(view.Source->Cells().data()),
       m_height(static_cast<std::size_t>(view.Source->GetPatternHeight())) {}
 
-QRect RasterPass::Run() {
+RasterGrid::Painted RasterPass::Run() {
     FindSpans();
     if (m_area.isEmpty()) {
         return {};
@@ -146,7 +146,7 @@ QRect RasterPass::Run() {
     }
     PaintLineAbove(m_rect.Bottom + 1);
     PaintKnots();
-    return m_area;
+    return {m_area, m_rect};
 }
 
 void RasterPass::FindSpans() {
@@ -361,8 +361,8 @@ void RasterPass::PaintKnot(const PlacedKnot& placed) {
 
 } // namespace
 
-QRect RasterGrid::Paint(QImage& image, QPoint position, const GridView& view,
-                        const SquareRect& rect) {
+RasterGrid::Painted RasterGrid::Paint(QImage& image, QPoint position, const GridView& view,
+                                      const SquareRect& rect) {
     m_tiles.Begin(view);
     return RasterPass(image, position, view, rect, m_tiles).Run();
 }

@@ -21,9 +21,14 @@ class RasterGrid {
 public:
     RasterGrid(StitchImages& images, SymbolText& symbols) : m_tiles(images, symbols) {}
 
-    /// As GridPainter::PaintImage, without backstitch lines. The area of the image that was
-    /// painted.
-    QRect Paint(QImage& image, QPoint position, const GridView& view, const SquareRect& rect);
+    struct Painted {
+        QRect Area;         ///< of the image
+        SquareRect Squares; ///< those of the rectangle that the image shows, and a few around
+    };
+
+    /// As GridPainter::PaintImage, without backstitch lines. What was painted; an empty area if
+    /// the image shows nothing of the rectangle.
+    Painted Paint(QImage& image, QPoint position, const GridView& view, const SquareRect& rect);
 
 private:
     TileCache m_tiles;

@@ -54,6 +54,11 @@ void DrawOutline(QPainter& painter, int kind, const PixelRect& square, const QCo
 }
 
 QImage ImagePart(const QImage& image, int kind, int width, int height) {
+    if (image.isNull()) {
+        QImage nothing(width, height, QImage::Format_ARGB32_Premultiplied);
+        nothing.fill(Qt::transparent);
+        return nothing;
+    }
     if (IsQuarter(kind)) {
         return QuarterPart(image, kind, width, height);
     }
