@@ -3,8 +3,6 @@
 
 #include "grid/BackStitchLines.h"
 
-#include <QPainter>
-
 #include <algorithm>
 
 #include "grid/GridViewport.h"
@@ -30,8 +28,8 @@ bool MissesAcross(int a, int thirdA, int b, int thirdB, int low, int high) {
 
 class LinesPainter {
 public:
-    LinesPainter(QPainter& painter, const GridView& view, const SquareRect& rect)
-        : m_painter(painter),
+    LinesPainter(LineCanvas& canvas, const GridView& view, const SquareRect& rect)
+        : m_canvas(canvas),
           m_view(view) {
         const TwipsPoint upperLeft = PointOf(rect.Left, rect.Top, 1);
         const TwipsPoint lowerRight = PointOf(rect.Right, rect.Bottom, 9);
@@ -56,8 +54,8 @@ public:
         const bool black = m_view.Options.LinesStyle == PaintOptions::BlackLines;
         m_pen.Style = line.LineStyle;
         m_pen.Floss = black ? 0 : m_view.Source->GetPalette().GetFlossRGB(line.PaletteIndex);
-        DrawStyledLine(m_painter, ToPixels(uncut ? start : cutStart),
-                       ToPixels(uncut ? end : cutEnd), m_pen);
+        DrawStyledLine(m_canvas, ToPixels(uncut ? start : cutStart), ToPixels(uncut ? end : cutEnd),
+                       m_pen);
     }
 
 private:
@@ -70,7 +68,7 @@ private:
                 ToPixel(point.Y, m_view.Scale.TwipsPerPixelY)};
     }
 
-    QPainter& m_painter;
+    LineCanvas& m_canvas;
     const GridView& m_view;
     LineShapes::Bounds m_bounds;
     LinePen m_pen;
@@ -91,21 +89,18 @@ bool MissesRect(const BackStitchLine& line, const SquareRect& rect) {
                         PositionRow(line.EndPos), rect.Top, rect.Bottom);
 }
 
-void DrawBackStitchLines(QPainter& painter, const GridView& view, const SquareRect& rect,
+void DrawBackStitchLines(LineCanvas& canvas, const GridView& view, const SquareRect& rect,
                          LineIndex& index) {
     if (view.Options.LinesStyle == PaintOptions::None || rect.IsEmpty()) {
         return;
     }
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing, view.Options.Antialias);
-    LinesPainter lines(painter, view, rect);
+    LinesPainter lines(canvas, view, rect);
     for (const int number : index.Find(*view.Source, rect)) {
         const BackStitchLine line = view.Source->GetBackStitchLine(number);
         if (!MissesRect(line, rect)) {
             lines.Draw(line);
         }
     }
-    painter.restore();
 }
 
 } // namespace zol

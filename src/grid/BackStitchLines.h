@@ -5,10 +5,9 @@
 
 #include "grid/GridView.h"
 
-class QPainter;
-
 namespace zol {
 
+class LineCanvas;
 class LineIndex;
 
 /// Width in pixels of backstitch lines, at least 1.
@@ -19,7 +18,7 @@ class LineIndex;
 [[nodiscard]] bool MissesRect(const BackStitchLine& line, const SquareRect& rect);
 
 /// Paints the lines of a rectangle of squares, cut to it.
-void DrawBackStitchLines(QPainter& painter, const GridView& view, const SquareRect& rect,
+void DrawBackStitchLines(LineCanvas& canvas, const GridView& view, const SquareRect& rect,
                          LineIndex& index);
 
 } // namespace zol

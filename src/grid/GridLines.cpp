@@ -115,10 +115,10 @@ SquareSpans::SquareSpans(const GridView& view, const Axis& axis, int first, int 
     const int normal = lines ? GetNormalGridLineWidth(view) : 0;
     const int bold = lines ? GetBoldGridLineWidth(view) : 0;
     for (int index = first; index <= last + 1; ++index) {
-        const SquareEdges edges =
-            GridViewport::EdgesOf(index, axis.squareTwips, axis.origin, axis.twipsPerPixel);
+        const int edge =
+            GridViewport::EdgeOf(index, axis.squareTwips, axis.origin, axis.twipsPerPixel);
         const bool isBold = IsBoldLine(index, axis.boldEvery, axis.numberOffset);
-        m_edges.push_back(ToPixel(edges.First, axis.twipsPerPixel));
+        m_edges.push_back(ToPixel(edge, axis.twipsPerPixel));
         m_insets.push_back(isBold ? bold : normal);
         m_bold.push_back(isBold);
     }

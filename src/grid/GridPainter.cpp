@@ -12,6 +12,7 @@
 #include "grid/LineIndex.h"
 #include "grid/RasterGrid.h"
 #include "grid/SquarePainter.h"
+#include "grid/StyledLine.h"
 
 namespace zol {
 
@@ -49,10 +50,12 @@ void GridPainter::PaintImage(QImage& image, QPoint position, const GridView& vie
     if (painted.Area.isEmpty() || view.Source->Lines().empty()) {
         return;
     }
-    QPainter painter(&image);
-    painter.setClipRect(painted.Area);
-    painter.translate(-position);
-    zol::DrawBackStitchLines(painter, view, painted.Squares, *m_lines);
+    const QRect& area = painted.Area;
+    const auto stride = image.bytesPerLine() / static_cast<std::ptrdiff_t>(sizeof(QRgb));
+    QRgb* first = reinterpret_cast<QRgb*>(image.scanLine(area.top())) + area.left();
+    PixelCanvas canvas({first, stride, area.width(), area.height()}, position + area.topLeft(),
+                       view.Options.Antialias);
+    zol::DrawBackStitchLines(canvas, view, painted.Squares, *m_lines);
 }
 
 void GridPainter::DrawGridLines(QPainter& painter, const GridView& view, const SquareRect& rect) {
@@ -80,7 +83,7 @@ void GridPainter::DrawSquares(QPainter& painter, const GridView& view, const Squ
             }
         }
     }
-    for (const PlacedKnot& knot : KnotsOf(*view.Source, knotted)) {
+    for (const PlacedKnot& knot : KnotsOf(*view.Source, cut, knotted)) {
         squares.DrawKnot(knot);
     }
 }
@@ -91,7 +94,8 @@ void GridPainter::DrawSquare(QPainter& painter, const GridView& view, int column
     }
     SquarePainter squares(painter, view, *m_images, *m_symbols);
     squares.DrawStitches(SquareContent(*view.Source, column, row), SquarePixels(view, column, row));
-    for (const PlacedKnot& knot : KnotsOf(*view.Source, {{column, row}})) {
+    for (const PlacedKnot& knot :
+         KnotsOf(*view.Source, {column, row, column, row}, {{column, row}})) {
         squares.DrawKnot(knot);
     }
 }
@@ -108,7 +112,11 @@ void GridPainter::RedrawNeighbours(QPainter& painter, const GridView& view, int 
 
 void GridPainter::DrawBackStitchLines(QPainter& painter, const GridView& view,
                                       const SquareRect& rect) {
-    zol::DrawBackStitchLines(painter, view, CutToPattern(view, rect), *m_lines);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, view.Options.Antialias);
+    PainterCanvas canvas(painter);
+    zol::DrawBackStitchLines(canvas, view, CutToPattern(view, rect), *m_lines);
+    painter.restore();
 }
 
 void GridPainter::DrawStitchSymbol(QPainter& painter, const GridView& view, const QRectF& rect,

@@ -71,10 +71,14 @@ int GetSquareRegion(double x, double y, int squareTwipsX, int squareTwipsY, bool
     return ThirdOf(px) + 1 + 3 * ThirdOf(py);
 }
 
+int EdgeOf(int index, double squareTwips, double origin, double twipsPerPixel) {
+    return Snapped(RoundHalfEven((index - 1.0) * squareTwips + origin), twipsPerPixel);
+}
+
 SquareEdges EdgesOf(int index, double squareTwips, double origin, double twipsPerPixel) {
     SquareEdges edges;
-    edges.First = Snapped(RoundHalfEven((index - 1.0) * squareTwips + origin), twipsPerPixel);
-    edges.Last = Snapped(RoundHalfEven(index * squareTwips + origin), twipsPerPixel);
+    edges.First = EdgeOf(index, squareTwips, origin, twipsPerPixel);
+    edges.Last = EdgeOf(index + 1, squareTwips, origin, twipsPerPixel);
     edges.Middle = edges.First + (edges.Last - edges.First) / 2;
     return edges;
 }

@@ -44,6 +44,8 @@ inline constexpr int MaxZoom = 1000;
 [[nodiscard]] int GetSquareRegion(double x, double y, int squareTwipsX, int squareTwipsY,
                                   bool fourCorners);
 
+/// The first edge of a column (or row), snapped to a pixel.
+[[nodiscard]] int EdgeOf(int index, double squareTwips, double origin, double twipsPerPixel);
 /// Edges of a column (or row), each snapped to a pixel.
 [[nodiscard]] SquareEdges EdgesOf(int index, double squareTwips, double origin,
                                   double twipsPerPixel);

@@ -15,15 +15,6 @@ namespace zol {
 
 namespace {
 
-/// `over` mixed into `under`, `cover` of 255 parts.
-QRgb Mixed(QRgb under, QRgb over, unsigned cover) {
-    const auto mix = [cover](QRgb a, QRgb b) {
-        const QRgb sum = (b & 0xFF00FFU) * cover + (a & 0xFF00FFU) * (255 - cover) + 0x800080U;
-        return ((sum + ((sum >> 8U) & 0xFF00FFU)) >> 8U) & 0xFF00FFU;
-    };
-    return 0xFF000000U | mix(under, over) | ((mix(under >> 8U, over >> 8U) & 0xFFU) << 8U);
-}
-
 std::uint64_t KeyOf(unsigned sort, int variant, int symbol, int width, int height, int pen = 0) {
     return (static_cast<std::uint64_t>(sort) << 60U) |
            (static_cast<std::uint64_t>(variant & 0xF) << 56U) |
@@ -44,11 +35,7 @@ void BlendMask(const PixelBuffer& target, int x, int y, const PixelMask& mask, Q
         const std::uint8_t* cover = mask.Row(row);
         QRgb* pixels = target.Row(y + row) + x;
         for (int i = left; i < right; ++i) {
-            if (cover[i] == 255) {
-                pixels[i] = colour;
-            } else if (cover[i] != 0) {
-                pixels[i] = Mixed(pixels[i], colour, cover[i]);
-            }
+            BlendPixel(pixels[i], colour, cover[i]);
         }
     }
 }

@@ -39,6 +39,19 @@ struct PixelBuffer {
     [[nodiscard]] QRgb* Row(int row) const { return Pixels + row * Stride; }
 };
 
+/// Mixes a colour into a pixel, `cover` of 255 parts.
+inline void BlendPixel(QRgb& pixel, QRgb colour, unsigned cover) {
+    if (cover == 255) {
+        pixel = colour;
+    } else if (cover != 0) {
+        const auto mix = [cover](QRgb a, QRgb b) {
+            const QRgb sum = (b & 0xFF00FFU) * cover + (a & 0xFF00FFU) * (255 - cover) + 0x800080U;
+            return ((sum + ((sum >> 8U) & 0xFF00FFU)) >> 8U) & 0xFF00FFU;
+        };
+        pixel = 0xFF000000U | mix(pixel, colour) | ((mix(pixel >> 8U, colour >> 8U) & 0xFFU) << 8U);
+    }
+}
+
 /// Mixes a colour into pixels by a mask whose upper left corner stands at (x, y); what falls
 /// outside is cut.
 void BlendMask(const PixelBuffer& target, int x, int y, const PixelMask& mask, QRgb colour);

@@ -4,26 +4,60 @@
 #include "grid/SquareContent.h"
 
 #include <algorithm>
-#include <unordered_set>
+#include <optional>
+#include <tuple>
 
 namespace zol {
 
-SquareContent::SquareContent(const Pattern& pattern, int column, int row) {
-    const StitchCell& cell = pattern.Cell(column, row);
-    if (cell.StitchType != NoStitch) {
-        m_stitches[0] = {cell.StitchType, cell.PaletteIndex};
-        m_stitchCount = 1;
-        if ((cell.CellFlags & CellHasDup) != 0) {
-            const DupStitch* dup =
-                pattern.DupStitches().Find(KeyedTable<DupStitch>::KeyOf(row, column));
-            for (std::size_t slot = 0; dup != nullptr && slot < DupStitch::Slots; ++slot) {
-                if (dup->StitchTypes()[slot] != NoStitch) {
-                    m_stitches[static_cast<std::size_t>(m_stitchCount++)] = {
-                        dup->StitchTypes()[slot], dup->PaletteIndexes()[slot]};
-                }
+namespace {
+
+bool ShowsKnots(const Pattern& pattern, int column, int row) {
+    return (pattern.Cell(column, row).CellFlags & CellHasKnot) != 0;
+}
+
+/// The last square of the rectangle, column by column, that shows a knot.
+std::optional<SquarePos> LastSquareOf(const Pattern& pattern, const SquareRect& rect,
+                                      const FrenchKnot& knot) {
+    // A point on a line between squares touches those on both sides.
+    for (int column = (knot.X + 1) / 2; column >= knot.X / 2; --column) {
+        for (int row = (knot.Y + 1) / 2; row >= knot.Y / 2; --row) {
+            if (column >= rect.Left && column <= rect.Right && row >= rect.Top &&
+                row <= rect.Bottom && ShowsKnots(pattern, column, row)) {
+                return SquarePos{column, row};
             }
         }
     }
+    return {};
+}
+
+PlacedKnot Placed(const SquarePos& square, const FrenchKnot& knot) {
+    const LatticePos first = LatticeOf(square.X, square.Y, 1);
+    const int position = (knot.Y - first.LY) * 3 + (knot.X - first.LX) + 1;
+    return {square, {position, knot.Orientation, knot.GetPaletteIndex()}};
+}
+
+} // namespace
+
+SquareContent::SquareContent(const StitchCell& cell, const DupStitch* dup) {
+    if (cell.StitchType == NoStitch) {
+        return;
+    }
+    m_stitches[0] = {cell.StitchType, cell.PaletteIndex};
+    m_stitchCount = 1;
+    for (std::size_t slot = 0; dup != nullptr && slot < DupStitch::Slots; ++slot) {
+        if (dup->StitchTypes()[slot] != NoStitch) {
+            m_stitches[static_cast<std::size_t>(m_stitchCount++)] = {dup->StitchTypes()[slot],
+                                                                     dup->PaletteIndexes()[slot]};
+        }
+    }
+}
+
+SquareContent::SquareContent(const Pattern& pattern, int column, int row)
+    : SquareContent(pattern.Cell(column, row),
+                    (pattern.Cell(column, row).CellFlags & CellHasDup) != 0
+                        ? pattern.DupStitches().Find(KeyedTable<DupStitch>::KeyOf(row, column))
+                        : nullptr) {
+    const StitchCell& cell = pattern.Cell(column, row);
     // The flag hides knots that are in the table.
     if ((cell.CellFlags & CellHasKnot) == 0) {
         return;
@@ -39,19 +73,32 @@ SquareContent::SquareContent(const Pattern& pattern, int column, int row) {
     }
 }
 
-std::vector<PlacedKnot> KnotsOf(const Pattern& pattern, const std::vector<SquarePos>& squares) {
+std::vector<PlacedKnot> KnotsOf(const Pattern& pattern, const SquareRect& rect,
+                                const std::vector<SquarePos>& flagged) {
     std::vector<PlacedKnot> shown;
-    std::unordered_set<KeyedTable<FrenchKnot>::Key> seen;
-    for (auto square = squares.rbegin(); square != squares.rend(); ++square) {
-        const SquareContent content(pattern, square->X, square->Y);
-        for (int i = content.KnotCount() - 1; i >= 0; --i) {
-            const LatticePos at = LatticeOf(square->X, square->Y, content.Knot(i).Position);
-            if (seen.insert(KeyedTable<FrenchKnot>::KeyOf(at.LY, at.LX)).second) {
-                shown.push_back({*square, content.Knot(i)});
+    const KeyedTable<FrenchKnot>& knots = pattern.FrenchKnots();
+    // Whichever is less work: walking the table, or asking for the points of the squares.
+    if (knots.Count() <= flagged.size() * 9) {
+        knots.ForEach([&](const FrenchKnot& knot) {
+            if (const auto square = LastSquareOf(pattern, rect, knot); square) {
+                shown.push_back(Placed(*square, knot));
+            }
+        });
+    } else {
+        for (const SquarePos& square : flagged) {
+            for (int position = 1; position <= 9; ++position) {
+                const LatticePos at = LatticeOf(square.X, square.Y, position);
+                const FrenchKnot* knot = knots.Find(KeyedTable<FrenchKnot>::KeyOf(at.LY, at.LX));
+                if (knot != nullptr && LastSquareOf(pattern, rect, *knot) == square) {
+                    shown.push_back(Placed(square, *knot));
+                }
             }
         }
     }
-    std::reverse(shown.begin(), shown.end());
+    std::sort(shown.begin(), shown.end(), [](const PlacedKnot& a, const PlacedKnot& b) {
+        return std::tuple(a.Square.X, a.Square.Y, a.Knot.Position) <
+               std::tuple(b.Square.X, b.Square.Y, b.Knot.Position);
+    });
     return shown;
 }
 

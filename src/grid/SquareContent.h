@@ -21,6 +21,8 @@ public:
     };
 
     SquareContent(const Pattern& pattern, int column, int row);
+    /// The stitches alone, of a cell and its record, if it has one.
+    SquareContent(const StitchCell& cell, const DupStitch* dup);
 
     [[nodiscard]] bool IsEmpty() const { return m_stitchCount == 0 && m_knotCount == 0; }
     [[nodiscard]] int StitchCount() const { return m_stitchCount; }
@@ -46,9 +48,10 @@ struct PlacedKnot {
     SquareKnot Knot;
 };
 
-/// The knots of squares given in painting order, each once: where several squares show it, from
-/// the last of them, which lies on top.
-[[nodiscard]] std::vector<PlacedKnot> KnotsOf(const Pattern& pattern,
-                                              const std::vector<SquarePos>& squares);
+/// The knots that the squares of a rectangle show, in painting order (column by column), each
+/// once: where several squares show it, from the last of them, which lies on top. `flagged` are
+/// the rectangle's squares that a knot may touch.
+[[nodiscard]] std::vector<PlacedKnot> KnotsOf(const Pattern& pattern, const SquareRect& rect,
+                                              const std::vector<SquarePos>& flagged);
 
 } // namespace zol

@@ -31,7 +31,8 @@ QImage StitchImages::Image(int slot) const {
     return slot >= 0 && at < m_images.size() ? m_images[at] : QImage();
 }
 
-QImage StitchImages::Tint(const QImage& grey, Colour floss, Colour cloth) {
+QImage StitchImages::Tint(const QImage& picture, Colour floss, Colour cloth) {
+    const QImage grey = picture.convertToFormat(QImage::Format_RGB32);
     const int red = HSLFuncs::RedOf(floss);
     const int green = HSLFuncs::GreenOf(floss);
     const int blue = HSLFuncs::BlueOf(floss);
@@ -39,13 +40,13 @@ QImage StitchImages::Tint(const QImage& grey, Colour floss, Colour cloth) {
         qRgb(HSLFuncs::RedOf(cloth), HSLFuncs::GreenOf(cloth), HSLFuncs::BlueOf(cloth));
     QImage tinted(grey.size(), QImage::Format_RGB32);
     for (int y = 0; y < grey.height(); ++y) {
+        const auto* from = reinterpret_cast<const QRgb*>(grey.constScanLine(y));
+        auto* to = reinterpret_cast<QRgb*>(tinted.scanLine(y));
         for (int x = 0; x < grey.width(); ++x) {
-            const QRgb pixel = grey.pixel(x, y);
-            const int mean = (qRed(pixel) + qGreen(pixel) + qBlue(pixel)) / 3;
-            tinted.setPixel(x, y,
-                            mean >= ThreadFrom
-                                ? qRgb(red * mean / 255, green * mean / 255, blue * mean / 255)
-                                : ground);
+            const int mean = (qRed(from[x]) + qGreen(from[x]) + qBlue(from[x])) / 3;
+            to[x] = mean >= ThreadFrom
+                        ? qRgb(red * mean / 255, green * mean / 255, blue * mean / 255)
+                        : ground;
         }
     }
     return tinted;

@@ -28,7 +28,7 @@ public:
 
     /// The template tinted: a pixel whose mean is 125 or more takes the floss colour scaled by it,
     /// any other the cloth's.
-    [[nodiscard]] static QImage Tint(const QImage& grey, Colour floss, Colour cloth);
+    [[nodiscard]] static QImage Tint(const QImage& picture, Colour floss, Colour cloth);
 
 private:
     QImage m_template;

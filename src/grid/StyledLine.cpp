@@ -8,6 +8,7 @@
 #include <QPen>
 
 #include <algorithm>
+#include <initializer_list>
 
 #include "grid/LineShapes.h"
 #include "grid/PaintColors.h"
@@ -18,114 +19,98 @@ namespace {
 
 using LineShapes::Mark;
 
-/// What may be seen of a line's pieces; null for painters without bounds.
-QRect VisibleOf(const QPainter& painter, int width) {
-    if (!painter.hasClipping()) {
-        return {};
-    }
-    return painter.clipBoundingRect().toAlignedRect().adjusted(-width, -width, width, width);
+/// From the middle of a pen's pixels to their corner.
+double ShiftOf(int width) {
+    return width % 2 != 0 ? 0.5 : 0.0;
 }
 
-class LineDrawer {
-public:
-    LineDrawer(QPainter& painter, QPoint start, QPoint end, const LinePen& pen)
-        : m_painter(painter),
-          m_start(start),
-          m_end(end),
-          m_pen(pen) {
-        // A pen of an odd width has its middle in the middle of a pixel.
-        m_shift = pen.Width % 2 != 0 ? 0.5 : 0.0;
-    }
+void TakePen(QPainter& painter, int width, Colour colour) {
+    painter.setPen(QPen(ToQColor(colour), width, Qt::SolidLine,
+                        width > 1 ? Qt::RoundCap : Qt::SquareCap, Qt::RoundJoin));
+}
 
-    void Draw() {
-        switch (m_pen.Style) {
-        case LineSquiggle:
-            DrawSquiggle();
-            break;
-        case LineDashed:
-            DrawStraight(m_pen.Ground);
-            DrawMarks({Mark::Dash});
-            break;
-        case LineTracks:
-            DrawStraight(m_pen.Floss);
-            DrawMarks({Mark::Tie});
-            break;
-        case LineDotted:
-            DrawStraight(m_pen.Ground);
-            DrawMarks({Mark::Dot});
-            break;
-        case LinePlus:
-            DrawStraight(m_pen.Ground);
-            DrawMarks({Mark::Dash, Mark::Cross});
-            break;
-        default:
-            DrawStraight(m_pen.Floss);
+void DrawMarks(LineCanvas& canvas, QPoint start, QPoint end, const LinePen& pen,
+               std::initializer_list<Mark> marks) {
+    QRect visible = canvas.Visible();
+    if (!visible.isNull()) {
+        visible.adjust(-pen.Width, -pen.Width, pen.Width, pen.Width);
+    }
+    for (const Mark mark : marks) {
+        for (const QLine& piece :
+             LineShapes::Marks(mark, start, end, pen.SquareWidth, pen.SquareHeight, visible)) {
+            canvas.Piece(piece, pen.Width, pen.Floss);
         }
     }
+}
 
-private:
-    void TakePen(Colour colour, int width) {
-        m_painter.setPen(QPen(ToQColor(colour), width, Qt::SolidLine,
-                              width > 1 ? Qt::RoundCap : Qt::SquareCap, Qt::RoundJoin));
+void DrawSquiggle(LineCanvas& canvas, QPoint start, QPoint end, const LinePen& pen) {
+    const int width = std::max(1, pen.Width / 3);
+    const std::vector<QPoint> points = LineShapes::Squiggle(start, end, pen.SquareWidth);
+    if (points.size() < 4) {
+        // Too short for a wave; a line that is there must be seen.
+        canvas.Piece({start, end}, width, pen.Floss);
+        return;
     }
-
-    [[nodiscard]] QLineF Shifted(const QLine& line) const {
-        return QLineF(line).translated(m_shift, m_shift);
-    }
-
-    void DrawStraight(Colour colour) {
-        TakePen(colour, m_pen.Width);
-        DrawPiece({m_start, m_end});
-    }
-
-    void DrawPiece(const QLine& line) {
-        if (line.p1() == line.p2()) {
-            m_painter.drawPoint(Shifted(line).p1());
-        } else {
-            m_painter.drawLine(Shifted(line));
-        }
-    }
-
-    void DrawMarks(std::initializer_list<Mark> marks) {
-        TakePen(m_pen.Floss, m_pen.Width);
-        for (const Mark mark : marks) {
-            for (const QLine& piece :
-                 LineShapes::Marks(mark, m_start, m_end, m_pen.SquareWidth, m_pen.SquareHeight,
-                                   VisibleOf(m_painter, m_pen.Width))) {
-                DrawPiece(piece);
-            }
-        }
-    }
-
-    void DrawSquiggle() {
-        const int width = std::max(1, m_pen.Width / 3);
-        TakePen(m_pen.Floss, width);
-        m_shift = width % 2 != 0 ? 0.5 : 0.0;
-        const std::vector<QPoint> points = LineShapes::Squiggle(m_start, m_end, m_pen.SquareWidth);
-        if (points.size() < 4) {
-            // Too short for a wave; a line that is there must be seen.
-            DrawPiece({m_start, m_end});
-            return;
-        }
-        QPainterPath wave(points[0]);
-        for (std::size_t i = 1; i + 2 < points.size(); i += 3) {
-            wave.cubicTo(points[i], points[i + 1], points[i + 2]);
-        }
-        m_painter.setBrush(Qt::NoBrush);
-        m_painter.drawPath(wave.translated(m_shift, m_shift));
-    }
-
-    QPainter& m_painter;
-    QPoint m_start;
-    QPoint m_end;
-    const LinePen& m_pen;
-    double m_shift;
-};
+    canvas.Wave(points, width, pen.Floss);
+}
 
 } // namespace
 
+void DrawStyledLine(LineCanvas& canvas, QPoint start, QPoint end, const LinePen& pen) {
+    const QLine whole(start, end);
+    switch (pen.Style) {
+    case LineSquiggle:
+        DrawSquiggle(canvas, start, end, pen);
+        break;
+    case LineDashed:
+        canvas.Piece(whole, pen.Width, pen.Ground);
+        DrawMarks(canvas, start, end, pen, {Mark::Dash});
+        break;
+    case LineTracks:
+        canvas.Piece(whole, pen.Width, pen.Floss);
+        DrawMarks(canvas, start, end, pen, {Mark::Tie});
+        break;
+    case LineDotted:
+        canvas.Piece(whole, pen.Width, pen.Ground);
+        DrawMarks(canvas, start, end, pen, {Mark::Dot});
+        break;
+    case LinePlus:
+        canvas.Piece(whole, pen.Width, pen.Ground);
+        DrawMarks(canvas, start, end, pen, {Mark::Dash, Mark::Cross});
+        break;
+    default:
+        canvas.Piece(whole, pen.Width, pen.Floss);
+    }
+}
+
 void DrawStyledLine(QPainter& painter, QPoint start, QPoint end, const LinePen& pen) {
-    LineDrawer(painter, start, end, pen).Draw();
+    PainterCanvas canvas(painter);
+    DrawStyledLine(canvas, start, end, pen);
+}
+
+void PainterCanvas::Piece(const QLine& line, int width, Colour colour) {
+    TakePen(m_painter, width, colour);
+    const double shift = ShiftOf(width);
+    const QLineF placed = QLineF(line).translated(shift, shift);
+    if (line.p1() == line.p2()) {
+        m_painter.drawPoint(placed.p1());
+    } else {
+        m_painter.drawLine(placed);
+    }
+}
+
+void PainterCanvas::Wave(const std::vector<QPoint>& points, int width, Colour colour) {
+    TakePen(m_painter, width, colour);
+    m_painter.setBrush(Qt::NoBrush);
+    QPainterPath wave(points[0]);
+    for (std::size_t i = 1; i + 2 < points.size(); i += 3) {
+        wave.cubicTo(points[i], points[i + 1], points[i + 2]);
+    }
+    m_painter.drawPath(wave.translated(ShiftOf(width), ShiftOf(width)));
+}
+
+QRect PainterCanvas::Visible() const {
+    return m_painter.hasClipping() ? m_painter.clipBoundingRect().toAlignedRect() : QRect();
 }
 
 } // namespace zol

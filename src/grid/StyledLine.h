@@ -4,7 +4,11 @@
 #pragma once
 
 #include <QPoint>
+#include <QRect>
 
+#include <vector>
+
+#include "grid/PixelMasks.h"
 #include "model/ZOLTypes.h"
 
 class QPainter;
@@ -21,8 +25,58 @@ struct LinePen {
     double SquareHeight = 10;
 };
 
+/// What lines are drawn on. Ends are pixels; a pen of an odd width has its middle in theirs.
+class LineCanvas {
+public:
+    LineCanvas() = default;
+    virtual ~LineCanvas() = default;
+    LineCanvas(const LineCanvas&) = delete;
+    LineCanvas& operator=(const LineCanvas&) = delete;
+
+    /// A straight piece with round ends.
+    virtual void Piece(const QLine& line, int width, Colour colour) = 0;
+    /// A run of Bezier curves through one more than a multiple of three points.
+    virtual void Wave(const std::vector<QPoint>& points, int width, Colour colour) = 0;
+    /// What can be seen of lines; null if that is not known.
+    [[nodiscard]] virtual QRect Visible() const = 0;
+};
+
+/// Draws on any QPainter.
+class PainterCanvas : public LineCanvas {
+public:
+    explicit PainterCanvas(QPainter& painter) : m_painter(painter) {}
+    void Piece(const QLine& line, int width, Colour colour) override;
+    void Wave(const std::vector<QPoint>& points, int width, Colour colour) override;
+    [[nodiscard]] QRect Visible() const override;
+
+private:
+    QPainter& m_painter;
+};
+
+/// Draws straight into pixels, where most lines are many small pieces.
+class PixelCanvas : public LineCanvas {
+public:
+    /// `origin` is the place of the buffer's first pixel on the device.
+    PixelCanvas(const PixelBuffer& target, QPoint origin, bool antialias)
+        : m_target(target),
+          m_origin(origin),
+          m_antialias(antialias) {}
+    void Piece(const QLine& line, int width, Colour colour) override;
+    void Wave(const std::vector<QPoint>& points, int width, Colour colour) override;
+    [[nodiscard]] QRect Visible() const override;
+
+private:
+    void CoverCurve(const std::vector<QPointF>& curve, int width, Colour colour);
+
+    PixelBuffer m_target;
+    QPoint m_origin;
+    bool m_antialias;
+    PixelMask m_scratch;
+};
+
 /// Draws one line in its style between two pixels. The pattern of a dash or squiggle starts at the
 /// line's left end. A line of no length is a dot or nothing.
+void DrawStyledLine(LineCanvas& canvas, QPoint start, QPoint end, const LinePen& pen);
 void DrawStyledLine(QPainter& painter, QPoint start, QPoint end, const LinePen& pen);
 
 } // namespace zol

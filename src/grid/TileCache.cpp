@@ -99,7 +99,11 @@ const QRgb* TileCache::Make(Size& size, std::uint8_t kind, std::uint8_t floss) {
     QRgb* tile = m_tiles.back().get();
     const PixelBuffer target{tile, size.m_width, size.m_width, size.m_height};
     Fill(target, m_ground);
-    AddStitch(target, size, {kind, floss});
+    if (m_setting.style == ShowVStitches && kind != 0) {
+        MakeImage(tile, size, kind, floss);
+    } else {
+        AddStitch(target, size, {kind, floss});
+    }
     size.m_tiles[kind * std::size_t{256} + floss] = tile;
     return tile;
 }
@@ -113,38 +117,72 @@ void TileCache::Compose(const PixelBuffer& target, Size& size, const SquareConte
 
 void TileCache::AddStitch(const PixelBuffer& target, Size& size,
                           const SquareContent::Stitch& stitch) {
-    const Look& look = m_looks[stitch.PaletteIndex];
     for (const StitchLayer& layer : LayersOf(m_setting.style, stitch.Kind)) {
-        const QRgb ink = ToRgb(InkOf(layer.Colour, look.Floss));
-        const int width = size.m_width;
-        const int height = size.m_height;
-        switch (layer.What) {
-        case StitchLayer::Paint::Fill:
-            if (layer.Kind == StitchWhole) {
-                Fill(target, ink);
-            } else {
-                BlendMask(target, 0, 0, m_masks.Shape(layer.Kind, width, height), ink);
-            }
-            break;
-        case StitchLayer::Paint::Outline:
-            BlendMask(target, 0, 0, m_masks.Outline(layer.Kind, width, height), ink);
-            break;
-        case StitchLayer::Paint::Symbol:
-            if (look.Symbol != 0) {
-                BlendMask(target, 0, 0, m_masks.Symbol(look.Symbol, layer.Kind, width, height),
-                          ink);
-            }
-            break;
-        case StitchLayer::Paint::Image:
-            AddImage(target, layer.Kind, stitch.PaletteIndex);
-            break;
-        }
+        AddLayer(target, size, layer, stitch.PaletteIndex);
     }
 }
 
-void TileCache::AddImage(const PixelBuffer& target, int kind, std::uint8_t floss) {
+void TileCache::AddLayer(const PixelBuffer& target, Size& size, const StitchLayer& layer,
+                         std::uint8_t floss) {
+    const Look& look = m_looks[floss];
+    const QRgb ink = ToRgb(InkOf(layer.Colour, look.Floss));
+    const int width = size.m_width;
+    const int height = size.m_height;
+    const auto blend = [&](const PixelMask*& known, const auto& find) {
+        if (known == nullptr) {
+            known = &find();
+        }
+        BlendMask(target, 0, 0, *known, ink);
+    };
+    switch (layer.What) {
+    case StitchLayer::Paint::Fill:
+        if (layer.Kind == StitchWhole) {
+            Fill(target, ink);
+        } else {
+            blend(size.m_shapes[layer.Kind],
+                  [&]() -> const PixelMask& { return m_masks.Shape(layer.Kind, width, height); });
+        }
+        break;
+    case StitchLayer::Paint::Outline:
+        blend(size.m_outlines[layer.Kind],
+              [&]() -> const PixelMask& { return m_masks.Outline(layer.Kind, width, height); });
+        break;
+    case StitchLayer::Paint::Symbol:
+        if (look.Symbol > 0 && look.Symbol < 256) {
+            const auto at = layer.Kind * std::size_t{256} + static_cast<std::size_t>(look.Symbol);
+            blend(size.m_symbols[at], [&]() -> const PixelMask& {
+                return m_masks.Symbol(look.Symbol, layer.Kind, width, height);
+            });
+        }
+        break;
+    case StitchLayer::Paint::Image:
+        AddImage(target, size, layer.Kind, floss);
+        break;
+    }
+}
+
+void TileCache::MakeImage(QRgb* tile, Size& size, std::uint8_t kind, std::uint8_t floss) {
     const QImage image = m_images.Image(m_images.SlotOf(m_looks[floss].Floss, m_setting.ground));
-    CopyOpaque(target, StitchPixels::ImagePart(image, kind, target.Width, target.Height));
+    CopyOpaque({tile, size.m_width, size.m_width, size.m_height},
+               StitchPixels::ImagePart(image, kind, size.m_width, size.m_height));
+}
+
+void TileCache::AddImage(const PixelBuffer& target, Size& size, std::uint8_t kind,
+                         std::uint8_t floss) {
+    const PixelMask*& region = size.m_regions[kind];
+    if (region == nullptr) {
+        region = &m_masks.ImageRegion(kind, size.m_width, size.m_height);
+    }
+    const QRgb* from = Tile(size, kind, floss);
+    const std::uint8_t* cover = region->Cover.data();
+    for (int y = 0; y < target.Height; ++y) {
+        QRgb* to = target.Row(y);
+        for (int x = 0; x < target.Width; ++x, ++from, ++cover) {
+            if (*cover != 0) {
+                to[x] = *from;
+            }
+        }
+    }
 }
 
 } // namespace zol

@@ -15,6 +15,7 @@
 #include "grid/PixelMasks.h"
 #include "grid/SquareContent.h"
 #include "grid/StitchImages.h"
+#include "grid/StitchLayers.h"
 #include "grid/SymbolText.h"
 
 namespace zol {
@@ -40,6 +41,11 @@ public:
         int m_width;
         int m_height;
         std::array<const QRgb*, Kinds * 256> m_tiles{};
+        // Masks of the store, so that squares with several stitches need not search for them.
+        std::array<const PixelMask*, Kinds> m_shapes{};
+        std::array<const PixelMask*, Kinds> m_outlines{};
+        std::array<const PixelMask*, Kinds> m_regions{};
+        std::array<const PixelMask*, Kinds * 256> m_symbols{};
     };
 
     /// To be called before each paint: takes over palette and options. Sizes and tiles given
@@ -88,7 +94,10 @@ private:
     void TakeFloss(std::uint8_t floss, const Look& look);
     const QRgb* Make(Size& size, std::uint8_t kind, std::uint8_t floss);
     void AddStitch(const PixelBuffer& target, Size& size, const SquareContent::Stitch& stitch);
-    void AddImage(const PixelBuffer& target, int kind, std::uint8_t floss);
+    void AddLayer(const PixelBuffer& target, Size& size, const StitchLayer& layer,
+                  std::uint8_t floss);
+    void AddImage(const PixelBuffer& target, Size& size, std::uint8_t kind, std::uint8_t floss);
+    void MakeImage(QRgb* tile, Size& size, std::uint8_t kind, std::uint8_t floss);
 
     StitchImages& m_images;
     SymbolText& m_symbols;

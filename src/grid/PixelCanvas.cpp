@@ -1,0 +1,171 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "grid/PaintColors.h"
+#include "grid/StyledLine.h"
+
+namespace zol {
+
+namespace {
+
+/// A piece of line with round ends: all that lies within `radius` of it.
+class Capsule {
+public:
+    Capsule(QPointF start, QPointF end, double radius)
+        : m_start(start),
+          m_along(end - start),
+          m_radius(radius) {
+        const double square = m_along.x() * m_along.x() + m_along.y() * m_along.y();
+        m_inverse = square > 0 ? 1 / square : 0;
+        const double inner = std::max(0.0, radius - 0.5);
+        m_innerSquare = inner * inner;
+        m_outerSquare = (radius + 0.5) * (radius + 0.5);
+        const double run = std::abs(m_along.y());
+        m_rowReach = run > 1e-9 ? (radius + 0.5) * std::sqrt(square) / run : 1e9;
+        m_slope = run > 1e-9 ? m_along.x() / m_along.y() : 0;
+    }
+
+    [[nodiscard]] int Top() const {
+        return FirstPixel(std::min(0.0, m_along.y()) + m_start.y() - m_radius - 0.5);
+    }
+    [[nodiscard]] int Bottom() const {
+        return LastPixel(std::max(0.0, m_along.y()) + m_start.y() + m_radius + 0.5);
+    }
+    /// The pixels of a row that may be covered.
+    [[nodiscard]] std::pair<int, int> Row(int row) const {
+        double from = std::min(0.0, m_along.x()) + m_start.x() - m_radius - 0.5;
+        double to = std::max(0.0, m_along.x()) + m_start.x() + m_radius + 0.5;
+        if (m_rowReach < 1e9) {
+            const double middle = m_start.x() + (row + 0.5 - m_start.y()) * m_slope;
+            from = std::max(from, middle - m_rowReach);
+            to = std::min(to, middle + m_rowReach);
+        }
+        return {FirstPixel(from), LastPixel(to)};
+    }
+
+    /// How much of a pixel is covered, 0 to 255.
+    [[nodiscard]] unsigned Cover(int x, int y) const {
+        const double dx = x + 0.5 - m_start.x();
+        const double dy = y + 0.5 - m_start.y();
+        const double along =
+            std::clamp((dx * m_along.x() + dy * m_along.y()) * m_inverse, 0.0, 1.0);
+        const double ex = dx - along * m_along.x();
+        const double ey = dy - along * m_along.y();
+        const double square = ex * ex + ey * ey;
+        if (square <= m_innerSquare) {
+            return 255;
+        }
+        if (square >= m_outerSquare) {
+            return 0;
+        }
+        return static_cast<unsigned>((m_radius + 0.5 - std::sqrt(square)) * 255 + 0.5);
+    }
+
+private:
+    /// The first and last pixel whose middle lies on the inner side of an edge.
+    [[nodiscard]] static int FirstPixel(double edge) {
+        return static_cast<int>(std::ceil(edge - 0.5));
+    }
+    [[nodiscard]] static int LastPixel(double edge) {
+        return static_cast<int>(std::floor(edge - 0.5));
+    }
+
+    QPointF m_start;
+    QPointF m_along;
+    double m_radius;
+    double m_inverse;
+    double m_innerSquare;
+    double m_outerSquare;
+    double m_rowReach;
+    double m_slope;
+};
+
+/// Without antialiasing a pixel is covered or not.
+unsigned Sharpened(unsigned cover, bool antialias) {
+    return antialias ? cover : cover >= 128 ? 255 : 0;
+}
+
+/// Straight pieces that stand for one Bezier curve of a squiggle.
+int PiecesOf(const std::array<QPointF, 4>& p) {
+    constexpr double pixelsEach = 4;
+    const double length =
+        QLineF(p[0], p[1]).length() + QLineF(p[1], p[2]).length() + QLineF(p[2], p[3]).length();
+    return std::clamp(static_cast<int>(length / pixelsEach), 2, 12);
+}
+
+void AddCurve(std::vector<QPointF>& curve, const std::array<QPointF, 4>& p) {
+    const int pieces = PiecesOf(p);
+    for (int i = 1; i <= pieces; ++i) {
+        const double t = static_cast<double>(i) / pieces;
+        const double u = 1 - t;
+        curve.push_back(p[0] * (u * u * u) + p[1] * (3 * u * u * t) + p[2] * (3 * u * t * t) +
+                        p[3] * (t * t * t));
+    }
+}
+
+} // namespace
+
+void PixelCanvas::Piece(const QLine& line, int width, Colour colour) {
+    const double shift = width % 2 != 0 ? 0.5 : 0.0;
+    const QPointF offset = QPointF(shift, shift) - m_origin;
+    const Capsule capsule(line.p1() + offset, line.p2() + offset, width / 2.0);
+    const QRgb rgb = ToRgb(colour);
+    const int bottom = std::min(capsule.Bottom(), m_target.Height - 1);
+    for (int y = std::max(0, capsule.Top()); y <= bottom; ++y) {
+        const auto [from, to] = capsule.Row(y);
+        QRgb* row = m_target.Row(y);
+        for (int x = std::max(0, from); x <= std::min(to, m_target.Width - 1); ++x) {
+            BlendPixel(row[x], rgb, Sharpened(capsule.Cover(x, y), m_antialias));
+        }
+    }
+}
+
+void PixelCanvas::Wave(const std::vector<QPoint>& points, int width, Colour colour) {
+    const double shift = width % 2 != 0 ? 0.5 : 0.0;
+    const QPointF offset = QPointF(shift, shift) - m_origin;
+    for (std::size_t i = 0; i + 3 < points.size(); i += 3) {
+        const std::array<QPointF, 4> bends{points[i] + offset, points[i + 1] + offset,
+                                           points[i + 2] + offset, points[i + 3] + offset};
+        std::vector<QPointF> curve{bends[0]};
+        AddCurve(curve, bends);
+        CoverCurve(curve, width, colour);
+    }
+}
+
+/// The pieces of a curve cover together, so that their joints are no darker than the rest.
+void PixelCanvas::CoverCurve(const std::vector<QPointF>& curve, int width, Colour colour) {
+    const QRectF bounds = QPolygonF(QList<QPointF>(curve.begin(), curve.end())).boundingRect();
+    const QRect area = bounds.toAlignedRect().adjusted(-width, -width, width, width);
+    if (!area.intersects(QRect(0, 0, m_target.Width, m_target.Height))) {
+        return;
+    }
+    m_scratch.Width = area.width();
+    m_scratch.Height = area.height();
+    m_scratch.Cover.assign(
+        static_cast<std::size_t>(area.width()) * static_cast<std::size_t>(area.height()), 0);
+    for (std::size_t i = 1; i < curve.size(); ++i) {
+        const Capsule capsule(curve[i - 1] - area.topLeft(), curve[i] - area.topLeft(),
+                              width / 2.0);
+        const int bottom = std::min(capsule.Bottom(), area.height() - 1);
+        for (int y = std::max(0, capsule.Top()); y <= bottom; ++y) {
+            const auto [from, to] = capsule.Row(y);
+            std::uint8_t* row = m_scratch.Cover.data() + static_cast<std::size_t>(y) *
+                                                             static_cast<std::size_t>(area.width());
+            for (int x = std::max(0, from); x <= std::min(to, area.width() - 1); ++x) {
+                row[x] = std::max(
+                    row[x], static_cast<std::uint8_t>(Sharpened(capsule.Cover(x, y), m_antialias)));
+            }
+        }
+    }
+    BlendMask(m_target, area.left(), area.top(), m_scratch, ToRgb(colour));
+}
+
+QRect PixelCanvas::Visible() const {
+    return {m_origin.x(), m_origin.y(), m_target.Width, m_target.Height};
+}
+
+} // namespace zol

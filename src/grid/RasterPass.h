@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QImage>
+#include <QPoint>
+#include <QRect>
+
+#include <optional>
+#include <vector>
+
+#include "grid/GridLines.h"
+#include "grid/GridView.h"
+#include "grid/RasterGrid.h"
+#include "grid/SquareContent.h"
+#include "grid/TileCache.h"
+#include "grid/TileCopy.h"
+
+namespace zol {
+
+/// One paint of RasterGrid, with everything that is worked out once for it.
+class RasterPass {
+public:
+    RasterPass(QImage& image, QPoint position, const GridView& view, const SquareRect& rect,
+               TileCache& tiles);
+
+    RasterGrid::Painted Run();
+
+private:
+    /// One column or row of squares that shows; pixels are those of the image.
+    struct Stretch {
+        int Number;
+        int First; ///< behind the line
+        int Last;
+        std::size_t Size; ///< which of the sizes along its axis
+        bool Cut;         ///< not wholly in the painted area
+    };
+    /// The stretches of an axis and the distinct sizes among them.
+    struct Axis {
+        std::vector<Stretch> Shown;
+        std::vector<int> Sizes;
+        std::vector<int> PlaceOf; ///< by number less the first: place in Shown, -1 if not there
+
+        void Find(const SquareSpans& spans, int from, int to, int position, int areaFirst,
+                  int areaLast);
+        [[nodiscard]] const Stretch* At(int number, int from) const;
+    };
+
+    void FindArea();
+    void FindTiles();
+    [[nodiscard]] std::vector<QRgb> TemplateRow(QRgb ground, bool normalColumns) const;
+    void CopyTemplate(const std::vector<QRgb>& row, int fromPixel, int toPixel);
+    void PaintLineAbove(int row);
+    void PaintSolidSquares(const Stretch& row);
+    void PaintTiles(const Stretch& row);
+    void PaintTile(const Stretch& column, const Stretch& row, const StitchCell& cell);
+    void CopyTile(const Stretch& column, const Stretch& row, const QRgb* tile);
+    void PaintMixedSquares();
+    void PaintMixedSquare(const Stretch& column, const Stretch& row, const DupStitch* dup);
+    void PaintKnots();
+    void PaintKnot(const PlacedKnot& placed);
+
+    [[nodiscard]] QRgb* Pixel(int x, int y) { return m_buffer.Row(y) + x; }
+    [[nodiscard]] const StitchCell* RowOfCells(int row) const {
+        return m_cells + (static_cast<std::ptrdiff_t>(row) - 1);
+    }
+    [[nodiscard]] const StitchCell& CellOf(const StitchCell* rowOfCells, int column) const {
+        return rowOfCells[(static_cast<std::ptrdiff_t>(column) - 1) * m_height];
+    }
+    [[nodiscard]] TileCache::Size& SizeOf(const Stretch& column, const Stretch& row) {
+        return *m_sizes[row.Size * m_columns.Sizes.size() + column.Size];
+    }
+
+    QPoint m_position;
+    const GridView& m_view;
+    SquareRect m_rect;
+    TileCache& m_tiles;
+    PixelBuffer m_buffer;
+    const StitchCell* m_cells;
+    std::ptrdiff_t m_height;
+    std::optional<SquareSpans> m_x;
+    std::optional<SquareSpans> m_y;
+    QRect m_area; ///< what is painted, in the image's pixels
+    Axis m_columns;
+    Axis m_rows;
+    std::vector<TileCache::Size*> m_sizes;
+    std::vector<TileCopier> m_copiers; ///< by the column's size
+    std::vector<QRgb> m_groundRow;     ///< ground and upright lines
+    std::vector<QRgb> m_line;          ///< a scan line in the making
+    std::vector<SquarePos> m_mixed;    ///< squares with more than one stitch
+    std::vector<SquarePos> m_knotted;
+    std::vector<std::pair<const Stretch*, const StitchCell*>> m_parts;
+    std::vector<QRgb> m_scratch;
+};
+
+} // namespace zol

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QColor>
+
+#include <array>
+#include <cstddef>
+#include <cstring>
+
+namespace zol {
+
+/// Copies `rows` rows of `width` pixels that lie without gaps into rows of `stride` pixels.
+using TileCopier = void (*)(const QRgb* from, QRgb* to, std::ptrdiff_t stride, int rows, int width);
+
+/// The copier for a width. Squares are a few pixels wide, where a general copy costs more than
+/// its bytes.
+[[nodiscard]] TileCopier TileCopierFor(int width);
+
+/// Sets `count` pixels, of which there are few: by fours, the last four over what is set already.
+inline void FillSpan(QRgb* pixels, int count, QRgb colour) {
+    if (count < 4) {
+        for (int i = 0; i < count; ++i) {
+            pixels[i] = colour;
+        }
+        return;
+    }
+    const std::array<QRgb, 4> four{colour, colour, colour, colour};
+    for (int i = 0; i + 4 < count; i += 4) {
+        std::memcpy(pixels + i, four.data(), sizeof four);
+    }
+    std::memcpy(pixels + count - 4, four.data(), sizeof four);
+}
+
+} // namespace zol
