@@ -91,7 +91,7 @@ std::string TakeQuoted(std::string_view& rest, std::size_t line) {
 
 std::string TakePlain(std::string_view& rest, std::size_t line) {
     const std::size_t end = std::min(rest.find(','), rest.size());
-    const std::string field(rest.substr(0, end));
+    std::string field(rest.substr(0, end));
     if (field.find('"') != std::string::npos) {
         FailAt(line, "a quote stands inside a field that is not quoted");
     }

@@ -35,6 +35,17 @@ std::uint8_t Narrow8(int value) {
     return static_cast<std::uint8_t>(value);
 }
 
+/// Whether the trimmed short name is `name` (lower case) in any case. Asked for each row at each
+/// floss that is added, so it makes no texts.
+bool IsNamed(const PaletteManufacturer& row, std::string_view name) {
+    std::string_view text = row.ShortName.Coded();
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+    text = text.substr(0, text.find_last_not_of(' ') + 1);
+    return std::equal(text.begin(), text.end(), name.begin(), name.end(), [](char a, char b) {
+        return (a >= 'A' && a <= 'Z' ? static_cast<char>(a - 'A' + 'a') : a) == b;
+    });
+}
+
 unsigned MeanChannel(int first, int second) {
     return static_cast<unsigned>(RoundToInt((first + second) / 2.0)) & 0xFFU;
 }
@@ -151,10 +162,9 @@ std::optional<std::uint8_t> Palette::SymbolOfNewEntry(std::string_view symbol) c
 std::int16_t Palette::FindManufacturer(std::string_view shortName, std::string_view longName) {
     const std::string wanted = LowerCase(Trimmed(CodePage::FromUtf8(shortName)));
     // Of several rows that match, the last one counts.
-    const auto found = std::find_if(m_manufacturers.rbegin(), m_manufacturers.rend(),
-                                    [&wanted](const PaletteManufacturer& row) {
-                                        return LowerCase(Trimmed(row.ShortName.Coded())) == wanted;
-                                    });
+    const auto found =
+        std::find_if(m_manufacturers.rbegin(), m_manufacturers.rend(),
+                     [&wanted](const PaletteManufacturer& row) { return IsNamed(row, wanted); });
     if (found != m_manufacturers.rend()) {
         return static_cast<std::int16_t>(m_manufacturers.rend() - found);
     }

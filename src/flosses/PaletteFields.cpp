@@ -50,7 +50,7 @@ std::string Palette::GetFlossLongDesc(int index) const {
     if (!InRange(index)) {
         return {};
     }
-    const std::string description = At(index).DisplayDescription.Text();
+    std::string description = At(index).DisplayDescription.Text();
     if (IsBlended(index)) {
         return description;
     }
