@@ -229,7 +229,11 @@ private:
     void SizeGrid(int width, int height);
     void Record(int x, int y);
     /// False for a knot and for requests: SetStitch without a position does not store them.
-    [[nodiscard]] static bool IsStoredPlainly(int stitchType);
+    [[nodiscard]] static bool IsStoredPlainly(int stitchType) {
+        return stitchType != StitchFKnot && stitchType != StitchS3Q && stitchType != StitchSQ;
+    }
+    /// Whether a new stitch takes away an old one of that kind.
+    [[nodiscard]] static bool Replaces(std::uint8_t fresh, std::uint8_t old);
     void PlaceStitch(int x, int y, std::uint8_t kind, std::uint8_t paletteIndex);
     void AddToDup(int x, int y, std::uint8_t kind, std::uint8_t paletteIndex);
     void SetKnot(LatticePos point, int paletteIndex);

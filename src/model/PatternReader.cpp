@@ -92,21 +92,25 @@ void PatternReader::ReadSizeAndProperties(Pattern& pattern) {
 std::size_t PatternReader::TakeRuns(Pattern& pattern, std::span<const std::uint8_t> bytes,
                                     std::size_t square) {
     const std::size_t squares = pattern.m_grid.size();
+    StitchCell* const cells = pattern.m_grid.data();
     std::size_t used = 0;
     for (; used + runSize <= bytes.size() && square < squares; used += runSize) {
-        const unsigned low = bytes[used];
-        const unsigned high = bytes[used + 1];
-        const auto length = static_cast<std::int16_t>(static_cast<std::uint16_t>(low | high << 8U));
+        const std::uint8_t* const run = bytes.data() + used;
+        const unsigned bits = run[0] | (unsigned{run[1]} << 8U);
+        const auto length = static_cast<std::int16_t>(static_cast<std::uint16_t>(bits));
         if (length < 1) {
             throw RunTimeError(ErrPastEnd);
         }
         const std::size_t count = std::min(static_cast<std::size_t>(length), squares - square);
-        const std::uint8_t kind = bytes[used + 3];
+        const std::uint8_t kind = run[3];
         // On an empty square without a position SetStitch stores the plain kinds as they are and
         // leaves the square empty for the others.
         if (kind != NoStitch && Pattern::IsStoredPlainly(kind)) {
-            std::fill_n(pattern.m_grid.begin() + static_cast<std::ptrdiff_t>(square), count,
-                        StitchCell{kind, bytes[used + 2], 0});
+            const StitchCell cell{kind, run[2], 0};
+            cells[square] = cell;
+            if (count > 1) {
+                std::fill_n(cells + square + 1, count - 1, cell);
+            }
         }
         square += count;
     }

@@ -30,14 +30,19 @@ const KindList& ExcludedBy(int kind) {
     return exclusions[kind >= 1 && kind <= 12 ? static_cast<std::size_t>(kind) : 0U];
 }
 
-bool Excludes(int kind, int other) {
-    for (const std::uint8_t excluded : ExcludedBy(kind)) {
-        if (excluded == other && excluded != 0) {
-            return true;
+/// The same lists as sets: bit k of element n tells that kind k goes before a kind n.
+constexpr std::array<std::uint16_t, 13> ExclusionSets() {
+    std::array<std::uint16_t, 13> sets{};
+    for (std::size_t kind = 0; kind < exclusions.size(); ++kind) {
+        for (const std::uint8_t excluded : exclusions[kind]) {
+            if (excluded != 0) {
+                sets[kind] = static_cast<std::uint16_t>(sets[kind] | (1U << excluded));
+            }
         }
     }
-    return false;
+    return sets;
 }
+constexpr std::array<std::uint16_t, 13> exclusionSets = ExclusionSets();
 
 /// The stored kind that a request means; NoStitch if the position resolves it to nothing.
 int ResolveKind(int kind, int position) {
@@ -54,8 +59,9 @@ int ResolveKind(int kind, int position) {
 
 } // namespace
 
-bool Pattern::IsStoredPlainly(int stitchType) {
-    return stitchType != StitchFKnot && stitchType != StitchS3Q && stitchType != StitchSQ;
+bool Pattern::Replaces(std::uint8_t fresh, std::uint8_t old) {
+    return fresh < exclusionSets.size() && old < exclusionSets.size() &&
+           ((unsigned{exclusionSets[fresh]} >> old) & 1U) != 0;
 }
 
 void Pattern::Record(int x, int y) {
@@ -105,7 +111,7 @@ void Pattern::PlaceStitch(int x, int y, std::uint8_t kind, std::uint8_t paletteI
                 }
             }
         }
-    } else if (cell.StitchType != NoStitch && Excludes(kind, cell.StitchType)) {
+    } else if (cell.StitchType != NoStitch && Replaces(kind, cell.StitchType)) {
         cell.StitchType = NoStitch;
         cell.PaletteIndex = NoFloss;
     }
