@@ -11,6 +11,14 @@
 
 namespace zol {
 
+namespace {
+
+/// Height of a symbol's em box in rows; over a block it leaves the colour room.
+constexpr double SymbolHeight = 0.85;
+constexpr double SymbolOverBlockHeight = 0.66;
+
+} // namespace
+
 KeySectionPainter::KeySectionPainter(PrintFuncs& job, KeyPages& pages, const KeySection& section,
                                      KeyColumns columns)
     : m_job(&job),
@@ -120,13 +128,15 @@ void KeySectionPainter::PrintSymbol(const KeyRow& row, const QRectF& cell, Colou
     symbols.DrawText(*canvas.Painter(),
                      {canvas.PixelX(cell.left()), canvas.PixelY(cell.top()),
                       canvas.PixelX(cell.width()), canvas.PixelY(cell.height())},
-                     row.Symbol, ToQColor(colour));
+                     row.Symbol, ToQColor(colour),
+                     m_job->Options().StitchSymbol == PrintBlocksAndSymbols ? SymbolOverBlockHeight
+                                                                            : SymbolHeight);
 }
 
 void KeySectionPainter::PrintStitch(const KeyRow& row, const QRectF& cell) const {
     const PageCanvas& canvas = m_pages->Canvas();
     StitchImages& images = m_job->Painter().Images();
-    const double size = m_rowHeight * 5 / 6;
+    const double size = std::min(m_rowHeight * 5 / 6, m_cellWidth);
     const QRectF square(cell.center().x() - size / 2, cell.center().y() - size / 2, size, size);
     canvas.Painter()->drawImage(QRectF(canvas.PixelX(square.left()), canvas.PixelY(square.top()),
                                        canvas.PixelX(square.width()),

@@ -11,6 +11,9 @@ namespace zol {
 
 namespace {
 
+/// A line of text with its leading.
+constexpr double LineHeightInEms = 1.25;
+
 QFont MakeFont(const QString& family, double points, bool bold, bool italic, bool underline) {
     constexpr double TwipsPerPoint = 20;
     constexpr double LargestSize = 20000; // beyond any paper; keeps absurd settings harmless
@@ -30,7 +33,7 @@ QFont MakeFont(const QString& family, double points, bool bold, bool italic, boo
 PageFont::PageFont(const QString& family, double points, bool bold, bool italic, bool underline)
     : m_font(MakeFont(family, points, bold, italic, underline)),
       m_metrics(m_font),
-      m_height(RoundToInt(m_metrics.height())) {}
+      m_height(RoundToInt(std::max(m_metrics.height(), m_font.pixelSize() * LineHeightInEms))) {}
 
 PageFont PageFont::TextInfo(const PrintOptions& options) {
     return TextInfo(options, options.TextInfoFontSize);
@@ -44,6 +47,10 @@ PageFont PageFont::TextInfo(const PrintOptions& options, double points) {
 PageFont PageFont::TextInfoPlain(const PrintOptions& options) {
     return {QString::fromStdString(options.TextInfoFontName), options.TextInfoFontSize, false,
             options.TextInfoFontItalic, false};
+}
+
+double PageFont::Ascent() const {
+    return m_metrics.ascent() + (m_height - m_metrics.height()) / 2;
 }
 
 int PageFont::TextWidth(const QString& text) const {

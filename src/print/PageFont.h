@@ -26,8 +26,10 @@ public:
     [[nodiscard]] static PageFont TextInfoPlain(const PrintOptions& options);
 
     [[nodiscard]] int TextWidth(const QString& text) const;
+    /// Of a line, with the air between lines that it brings.
     [[nodiscard]] int TextHeight() const { return m_height; }
-    [[nodiscard]] double Ascent() const { return m_metrics.ascent(); }
+    /// From the top of a line to its base line.
+    [[nodiscard]] double Ascent() const;
     [[nodiscard]] const QFont& Font() const { return m_font; }
 
 private:

@@ -13,6 +13,8 @@ namespace {
 
 /// Squares that are painted between two looks at the door.
 constexpr int SquaresAtOnce = 20000;
+/// Height of a symbol's em box in squares: most ink then takes about 0.6 of the square.
+constexpr double SymbolHeight = 0.92;
 
 } // namespace
 
@@ -52,6 +54,7 @@ PaintOptions PrintFuncs::PaintOptionsForPage() const {
     options.BackStitchWidthPercent = m_options.BackStitchLineWidthPercentage;
     options.NormalGLColor = m_options.pNormalGLColor;
     options.BoldGLColor = m_options.pBoldGLColor;
+    options.SymbolScale = SymbolHeight;
     options.NumberOffsetX = m_numberOffset.X;
     options.NumberOffsetY = m_numberOffset.Y;
     return options;

@@ -65,6 +65,19 @@ private:
         }
     }
 
+    /// One UTF-16 unit; the two halves of a character come one after the other.
+    void PutUnit(int unit) {
+        const bool isHigh = unit >= 0xD800 && unit < 0xDC00;
+        const bool isLow = unit >= 0xDC00 && unit < 0xE000;
+        if (isLow && m_highHalf != 0) {
+            PutCharacter(
+                static_cast<char32_t>(0x10000 + ((m_highHalf - 0xD800) << 10) + unit - 0xDC00));
+        } else if (unit > 0 && unit < 0x10000 && !isHigh && !isLow) {
+            PutCharacter(static_cast<char32_t>(unit));
+        }
+        m_highHalf = isHigh ? unit : 0;
+    }
+
     void Control() {
         if (m_at >= m_rtf.size()) {
             return;
@@ -132,7 +145,7 @@ private:
         } else if (word == "tab") {
             Put('\t');
         } else if (word == "u") {
-            PutCharacter(static_cast<char32_t>(number < 0 ? number + 65536 : number));
+            PutUnit(number < 0 ? number + 65536 : number);
             m_toSkip = m_state.UnicodeSkip;
         } else if (word == "uc") {
             m_state.UnicodeSkip = number < 0 ? 0 : number;
@@ -148,6 +161,7 @@ private:
     State m_state;
     std::vector<State> m_groups;
     int m_toSkip = 0;
+    int m_highHalf = 0;
 };
 
 } // namespace
