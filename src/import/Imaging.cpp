@@ -35,7 +35,7 @@ ImagingResult Failure(int number, std::string text) {
 template<typename Work>
 ImagingResult Guarded(Work work) {
     // libvips gathers what every decoder grumbled about; only this work's failure is wanted.
-    vips_error_clear();
+    VipsStages::ForgetErrors();
     try {
         return {work(), 0, {}};
     } catch (const vips::VError&) {

@@ -7,6 +7,7 @@
 #include <gmodule.h>
 
 #include <algorithm>
+#include <atomic>
 #include <bit>
 #include <cstddef>
 #include <cstdlib>
@@ -273,6 +274,9 @@ void LoadHeifModule() {
     }
 }
 
+/// libvips has no list of errors, nor a lock for one, before it is started.
+std::atomic<bool> isStarted = false;
+
 void DropMessage(const gchar* /*domain*/, GLogLevelFlags /*level*/, const gchar* /*message*/,
                  gpointer /*data*/) {}
 
@@ -293,6 +297,7 @@ void EnsureStarted() {
                           static_cast<GLogLevelFlags>(G_LOG_LEVEL_WARNING | G_LOG_LEVEL_MESSAGE |
                                                       G_LOG_LEVEL_INFO | G_LOG_LEVEL_DEBUG),
                           DropMessage, nullptr);
+        isStarted = true;
     });
 }
 
@@ -303,6 +308,12 @@ bool HasLoader(const std::string& loader) {
         std::call_once(once, LoadHeifModule);
     }
     return isKnown();
+}
+
+void ForgetErrors() {
+    if (isStarted) {
+        vips_error_clear();
+    }
 }
 
 std::string TakeErrorText() {

@@ -22,6 +22,9 @@ void EnsureStarted();
 /// machine's libvips has none.
 [[nodiscard]] bool HasLoader(const std::string& loader);
 
+/// Forgets what decoders grumbled about so far. May be called before libvips is started.
+void ForgetErrors();
+
 /// The text of the last failure as one line; libvips forgets it.
 [[nodiscard]] std::string TakeErrorText();
 

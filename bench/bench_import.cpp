@@ -1,0 +1,167 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+// Matching a picture of 999 by 999 pixels to 489 flosses, reducing it to 50 and writing the
+// pattern, against one pass over its pixels that looks each one up in a table. Each benchmark
+// measures the pass between its imports and gives the ratio of the medians as "passes".
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <ctime>
+#include <random>
+#include <vector>
+
+#include "import/Adjustments.h"
+#include "import/ImportSession.h"
+#include "import/PictureOps.h"
+#include "model/Pattern.h"
+#include "model/ProgramContext.h"
+
+namespace {
+
+using namespace zol;
+
+constexpr int Side = 999;
+constexpr int Flosses = 489;
+constexpr int MaxColors = 50;
+
+/// Soft shapes of many colours with grain, as a photo has.
+Picture Photo(bool ofDepth) {
+    std::mt19937 random(1);
+    Picture picture(Side, Side);
+    for (int y = 0; y < Side; ++y) {
+        for (int x = 0; x < Side; ++x) {
+            const auto channel = [&random, x, y](double fx, double fy, double phase) {
+                const double wave = std::sin(x * fx + phase) * std::cos(y * fy - phase);
+                const double grain = static_cast<double>(random() % 17) - 8;
+                return static_cast<unsigned>(std::clamp(128 + 110 * wave + grain, 0.0, 254.0));
+            };
+            picture.SetImagePixel(x, y,
+                                  MakeColour(channel(0.011, 0.007, 0.3), channel(0.005, 0.013, 1.9),
+                                             channel(0.017, 0.003, 4.1)));
+        }
+    }
+    if (ofDepth) {
+        ReduceDepth(picture);
+        RemapWhite(picture);
+    }
+    return picture;
+}
+
+AvailColors Catalogue(const ProgramContext& context) {
+    std::mt19937 random(2);
+    AvailColors catalogue(context);
+    for (int i = 1; i <= Flosses; ++i) {
+        CatalogueRow row;
+        row.MasterID = i;
+        row.FlossID.Set(std::to_string(i));
+        row.Red = static_cast<std::int16_t>(random() % 256);
+        row.Green = static_cast<std::int16_t>(random() % 256);
+        row.Blue = static_cast<std::int16_t>(random() % 256);
+        catalogue.AppendRow(row);
+    }
+    return catalogue;
+}
+
+/// Time of this thread alone: others that keep the machine busy shall not count.
+double Now() {
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
+template<typename Work>
+double Seconds(Work work) {
+    const double begin = Now();
+    work();
+    return Now() - begin;
+}
+
+double Median(std::vector<double> times) {
+    std::nth_element(times.begin(), times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2),
+                     times.end());
+    return times[times.size() / 2];
+}
+
+/// The floor: every pixel's upper five bits a channel name an element of a table.
+void LookUp(const Picture& picture, const std::vector<std::uint16_t>& table,
+            std::vector<std::uint16_t>& result) {
+    std::transform(picture.Pixels().begin(), picture.Pixels().end(), result.begin(),
+                   [&table](Colour pixel) {
+                       return table[((pixel >> 3U) & 0x1FU) | ((pixel >> 6U) & 0x3E0U) |
+                                    ((pixel >> 9U) & 0x7C00U)];
+                   });
+    benchmark::ClobberMemory();
+}
+
+class Floor {
+public:
+    explicit Floor(const Picture& picture)
+        : m_picture(&picture),
+          m_table(32768),
+          m_result(picture.Pixels().size()) {}
+    double Measure() {
+        return Seconds([this] { LookUp(*m_picture, m_table, m_result); });
+    }
+
+private:
+    const Picture* m_picture;
+    std::vector<std::uint16_t> m_table;
+    std::vector<std::uint16_t> m_result;
+};
+
+void ImportPhoto(benchmark::State& state, bool ofDepth) {
+    ProgramContext context;
+    const Picture picture = Photo(ofDepth);
+    ImportSession session(context);
+    session.ChooseCatalogue(Catalogue(context));
+    Floor floor(picture);
+    std::vector<double> imports;
+    std::vector<double> passes;
+    for ([[maybe_unused]] auto _ : state) {
+        session.SetImage(picture);
+        Pattern pattern(context);
+        passes.push_back(floor.Measure());
+        imports.push_back(Seconds([&session, &pattern] {
+            benchmark::DoNotOptimize(session.CreateThePattern(pattern, MaxColors, 14, 14));
+        }));
+        state.SetIterationTime(imports.back());
+    }
+    state.counters["passes"] = Median(imports) / Median(passes);
+    state.counters["pass_us"] = Median(passes) * 1e6;
+}
+
+void Adjust(benchmark::State& state) {
+    const Adjustments::Item& item = Adjustments::Items()[static_cast<std::size_t>(state.range(0))];
+    const Picture picture = Photo(true);
+    Floor floor(picture);
+    std::vector<double> times;
+    std::vector<double> passes;
+    for ([[maybe_unused]] auto _ : state) {
+        Picture changed = picture;
+        passes.push_back(floor.Measure());
+        times.push_back(Seconds([&changed, &item] {
+            Adjustments::Apply(changed, item.What, (item.Start + item.Maximum) / 2);
+        }));
+        state.SetIterationTime(times.back());
+    }
+    state.SetLabel(std::string(item.Text));
+    state.counters["passes"] = Median(times) / Median(passes);
+}
+
+} // namespace
+
+BENCHMARK_CAPTURE(ImportPhoto, FiveBitsAChannel, true)
+    ->UseManualTime()
+    ->Iterations(15)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ImportPhoto, Smoothed, false)
+    ->UseManualTime()
+    ->Iterations(15)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(Adjust)->DenseRange(0, 8)->UseManualTime()->Iterations(9)->Unit(benchmark::kMillisecond);
+BENCHMARK_MAIN();
