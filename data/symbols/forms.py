@@ -7,7 +7,7 @@ from outlines import ArcSteps, Box, Disc, Joined, Path, Poly, Shape, Stroke, Aro
 
 __all__ = ["ArcSteps", "Around", "Bar", "Below", "Box", "Cross", "Diamond", "Disc", "Joined",
            "Path", "Plus", "Poly", "Polygon", "Ring", "Shape", "Slash", "Square", "Star",
-           "Stroke", "Diagonals", "Mirrored", "Pair", "Turned", "Upright", "Wedge"]
+           "Stroke", "Diagonals", "Mirrored", "Pair", "Turned", "Wedge"]
 
 
 def Square(half):
@@ -84,8 +84,3 @@ def Pair(name, shape):
 
 def Mirrored(name, shape):
     return {name: shape, f"{name}-back": shape.FlipX()}
-
-
-def Upright(name, shape):
-    """A picture, on its feet and on its head."""
-    return {name: shape, f"{name}-down": shape.FlipY()}

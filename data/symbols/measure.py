@@ -15,7 +15,7 @@ import numpy as np
 
 from symbols import AllShapes, CentredOutline, Flattened, Order
 
-PROMISES = ((40, 8, 0.06), (100, 10, 0.08), (200, 14, 0.07))  # Symbols, pixels, least share.
+PROMISES = ((40, 8, 0.06), (100, 10, 0.08), (200, 14, 0.06))  # Symbols, pixels, least share.
 DARK = (0.35, 0.4, 0.45)
 BORDER = 2
 

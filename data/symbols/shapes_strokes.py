@@ -12,11 +12,10 @@ def Bold():
         **Pair("bars", Box(-38, 12, 38, 38) | Box(-38, -38, 38, -12)),
         **Pair("bars3", Box(-38, 22, 38, 38) | Box(-38, -8, 38, 8) | Box(-38, -38, 38, -22)),
         **Turned("chevron", Poly((-39, -8), (0, 33), (39, -8), (39, -35), (0, 6), (-39, -35))),
-        **Turned("tee", Box(-38, 13, 38, 38) | Box(-13, -38, 13, 38)),
         **Turned("ell", Box(-38, -38, -19, 38) | Box(-38, -38, 38, -19)),
-        **Pair("rung", Box(-38, -38, -13, 38) | Box(13, -38, 38, 38) | Box(-38, -12, 38, 12)),
-        **Mirrored("zed", zed), **Mirrored("en", zed.FlipX().Turn(90)),
-        **Mirrored("step", step), **Mirrored("step-tall", step.Turn(90)),
+        **Mirrored("zed", zed),
+        **Mirrored("en", zed.FlipX().Turn(90)),
+        **Mirrored("step-tall", step.Turn(90)),
         **Turned("mushroom", (Disc(38) & Box(-60, 0, 60, 60)) | Box(-13, -38, 13, 5)),
         **Turned("caret-bar", Poly((-38, -2), (0, 38), (38, -2)) | Box(-38, -38, 38, -14)),
     }
@@ -25,41 +24,32 @@ def Bold():
 def Light():
     cup = Square(38) - Box(-24, -24, 24, 50)
     bracket = Box(-38, -38, -24, 38) | Box(-38, 24, -10, 38) | Box(-38, -38, -10, -24)
+    wave = Stroke(13, (-38, -10), (-19, 10), (0, -10), (19, 10), (38, -10))
     chevron = Poly((-38, -4), (0, 22), (38, -4), (38, -22), (0, 4), (-38, -22))
     return {
         **Turned("nail", Box(-38, 24, 38, 38) | Box(-7, -38, 7, 38)),
-        **Turned("angle", Box(-38, -38, -24, 38) | Box(-38, -38, 38, -24)),
-        **Turned("staple", cup), **Turned("fork", cup | Box(-7, -38, 7, 38)),
+        **Turned("staple", cup),
+        **Turned("fork", cup | Box(-7, -38, 7, 38)),
         **Pair("ladder", Box(-38, -38, -24, 38) | Box(24, -38, 38, 38) | Bar(14, 38)),
         **Turned("flag", Box(-36, -40, -20, 40) | Box(-36, 24, 36, 40) | Box(-36, -8, 24, 8)),
         **Pair("brackets", bracket | bracket.FlipX()),
         **Turned("chevrons", chevron.At(0, 17) | chevron.At(0, -17)),
         **Turned("wave", Stroke(15, (-36, -18), (-18, 14), (0, -14), (18, 14), (36, -18))),
         **Mirrored("zigzag", Stroke(17, (-26, 33), (20, 11), (-20, -11), (26, -33))),
-        **Pair("waves", Stroke(13, (-38, 6), (-19, 26), (0, 6), (19, 26), (38, 6))
-               | Stroke(13, (-38, -28), (-19, -8), (0, -28), (19, -8), (38, -28))),
-        "hash": Joined(*(Box(-38, y - 7, 38, y + 7).Turn(a) for y in (-15, 15) for a in (0, 90))),
-        "corners": Around(Box(-38, 10, -10, 38) - Box(-22, 0, 0, 22), 4),
+        **Pair("waves", wave.At(0, 17) | wave.At(0, -17)),
         **Turned("wye", Around(Box(-9, 0, 9, 41), 3, 60)),
         **Pair("tracks", Bar(14, 40) | Box(-30, -30, -16, 30) | Box(16, -30, 30, 30)),
         **Turned("pi", Box(-40, 22, 40, 37) | Box(-28, -37, -12, 30) | Box(12, -37, 28, 30)),
-        "sigma": Stroke(15, (32, 30), (-24, 30), (8, 0), (-24, -30), (32, -30)),
-        "sigma-back": Stroke(15, (32, 30), (-24, 30), (8, 0), (-24, -30), (32, -30)).FlipX(),
-        **Mirrored("spiral", Stroke(14, (-31, -38), (-31, 31), (31, 31), (31, -31), (-3, -31),
-                                    (-3, 8))),
-        **Mirrored("spiral-down", Stroke(14, (-31, 38), (-31, -31), (31, -31), (31, 31), (-3, 31),
-                                         (-3, -8))),
     }
 
 
 def Stars():
     return {
-        "star": Star(5, 44, 17), "star-down": Star(5, 44, 17, -90),
-        "star4": Star(4, 42, 16), "star4-turned": Star(4, 50, 18, 45),
-        "star6": Star(6, 42, 21), "star8": Star(8, 42, 27),
-        "star3": Star(3, 45, 13), "star3-down": Star(3, 45, 13, -90),
-        "asterisk": Around(Box(-7, 0, 7, 41), 6), "asterisk8": Around(Box(-6, 0, 6, 42), 8),
-        "asterisk5": Around(Box(-8, 0, 8, 41), 5),
+        "star": Star(5, 44, 17),
+        "star4-turned": Star(4, 50, 18, 45),
+        "star3": Star(3, 45, 13),
+        "star3-down": Star(3, 45, 13, -90),
+        "asterisk": Around(Box(-7, 0, 7, 41), 6),
         "plus-open": Plus(44, 40) - Plus(16, 26),
         **Mirrored("pinwheel", Around(Poly((0, 0), (0, 40), (-40, 40)), 4)),
     }

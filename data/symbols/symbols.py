@@ -7,7 +7,6 @@ import shapes_framed
 import shapes_groups
 import shapes_solid
 import shapes_strokes
-import shapes_tiles
 from outlines import Outline
 
 HERE = Path(__file__).resolve().parent
@@ -32,8 +31,7 @@ def Order():
 
 def AllShapes():
     shapes = {}
-    for module in (shapes_solid, shapes_framed, shapes_strokes, shapes_groups,
-                   shapes_tiles):
+    for module in (shapes_solid, shapes_framed, shapes_strokes, shapes_groups):
         for name, shape in module.Shapes().items():
             if name in shapes:
                 raise SystemExit(f"two shapes are named {name}")
