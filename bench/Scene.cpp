@@ -57,24 +57,21 @@ private:
         }
     }
 
-    /// Mostly the floss of the patch, sometimes a stray one.
-    int FlossAt(int x, int y) {
-        return Roll(0, 9) == 0 ? Roll(1, Flosses) : (x / 12 * 31 + y / 9 * 17) % Flosses + 1;
-    }
+    int AnyFloss() { return Roll(1, Flosses); }
 
     void FillSquare(int x, int y) {
         const int kindOfSquare = Roll(0, 99);
         if (kindOfSquare < 90) {
-            m_pattern.SetStitch(x, y, StitchWhole, FlossAt(x, y), 5);
+            m_pattern.SetStitch(x, y, StitchWhole, AnyFloss(), 5);
         } else if (kindOfSquare < 98) {
             const int kind = PartKinds[static_cast<std::size_t>(Roll(0, 9))];
-            m_pattern.SetStitch(x, y, kind, FlossAt(x, y), 5);
+            m_pattern.SetStitch(x, y, kind, AnyFloss(), 5);
         } else if (Roll(0, 1) == 0) {
-            m_pattern.SetStitch(x, y, StitchUL3Q, FlossAt(x, y), 1);
-            m_pattern.SetStitch(x, y, StitchLR3Q, Roll(1, Flosses), 9);
+            m_pattern.SetStitch(x, y, StitchUL3Q, AnyFloss(), 1);
+            m_pattern.SetStitch(x, y, StitchLR3Q, AnyFloss(), 9);
         } else {
             for (const int kind : {StitchULQ, StitchURQ, StitchLLQ, StitchLRQ}) {
-                m_pattern.SetStitch(x, y, kind, Roll(1, Flosses), 5);
+                m_pattern.SetStitch(x, y, kind, AnyFloss(), 5);
             }
         }
     }
@@ -82,8 +79,7 @@ private:
     void AddKnots() {
         while (m_pattern.FrenchKnots().Count() < Knots) {
             m_pattern.Context().FrenchKnotStyle = static_cast<std::uint8_t>(Roll(0, 4));
-            m_pattern.SetStitch(Roll(1, Side), Roll(1, Side), StitchFKnot, Roll(1, Flosses),
-                                Roll(1, 9));
+            m_pattern.SetStitch(Roll(1, Side), Roll(1, Side), StitchFKnot, AnyFloss(), Roll(1, 9));
         }
         m_pattern.Context().FrenchKnotStyle = KnotNormal;
     }
@@ -97,7 +93,7 @@ private:
             line.EndX = static_cast<std::int16_t>(line.StartX + Roll(0, 10));
             line.EndY = static_cast<std::int16_t>(line.StartY + Roll(0, 10));
             line.EndPos = static_cast<std::int16_t>(Roll(1, 9));
-            line.PaletteIndex = static_cast<std::uint8_t>(Roll(1, Flosses));
+            line.PaletteIndex = static_cast<std::uint8_t>(AnyFloss());
             line.LineStyle = static_cast<std::uint8_t>(Roll(0, 5));
             m_pattern.SetBackstitchLine(line);
         }

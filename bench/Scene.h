@@ -8,8 +8,8 @@
 namespace zol {
 
 /// A full design of 999 by 999 squares in 200 flosses, the same on every machine: 90 % whole
-/// stitches, 8 % part stitches, 2 % squares with several, 2,000 knots and 2,000 lines. Whole
-/// stitches lie in patches, as in a design made from a photo.
+/// stitches, 8 % part stitches, 2 % squares with several, 2,000 knots and 2,000 lines. Neighbours
+/// have nothing in common: no run of a file and no tile of a picture comes cheap.
 void FillScene(Pattern& pattern);
 
 } // namespace zol
