@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 // Matching a picture of 999 by 999 pixels to 489 flosses, reducing it to 50 and writing the
-// pattern, against one pass over its pixels that looks each one up in a table. Each benchmark
-// measures the pass between its imports and gives the ratio of the medians as "passes".
+// pattern, against one pass over its pixels that looks each one up in a table.
 
 #include <benchmark/benchmark.h>
 
@@ -11,10 +10,10 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <ctime>
 #include <random>
 #include <vector>
 
+#include "Ratio.h"
 #include "import/Adjustments.h"
 #include "import/ImportSession.h"
 #include "import/PictureOps.h"
@@ -67,26 +66,6 @@ AvailColors Catalogue(const ProgramContext& context) {
     return catalogue;
 }
 
-/// Time of this thread alone: others that keep the machine busy shall not count.
-double Now() {
-    timespec now{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
-}
-
-template<typename Work>
-double Seconds(Work work) {
-    const double begin = Now();
-    work();
-    return Now() - begin;
-}
-
-double Median(std::vector<double> times) {
-    std::nth_element(times.begin(), times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2),
-                     times.end());
-    return times[times.size() / 2];
-}
-
 /// The floor: every pixel's upper five bits a channel name an element of a table.
 void LookUp(const Picture& picture, const std::vector<std::uint16_t>& table,
             std::vector<std::uint16_t>& result) {
@@ -95,18 +74,15 @@ void LookUp(const Picture& picture, const std::vector<std::uint16_t>& table,
                        return table[((pixel >> 3U) & 0x1FU) | ((pixel >> 6U) & 0x3E0U) |
                                     ((pixel >> 9U) & 0x7C00U)];
                    });
-    benchmark::ClobberMemory();
 }
 
-class Floor {
+class Pass {
 public:
-    explicit Floor(const Picture& picture)
+    explicit Pass(const Picture& picture)
         : m_picture(&picture),
           m_table(32768),
           m_result(picture.Pixels().size()) {}
-    double Measure() {
-        return Seconds([this] { LookUp(*m_picture, m_table, m_result); });
-    }
+    void operator()() { LookUp(*m_picture, m_table, m_result); }
 
 private:
     const Picture* m_picture;
@@ -119,49 +95,33 @@ void ImportPhoto(benchmark::State& state, bool ofDepth) {
     const Picture picture = Photo(ofDepth);
     ImportSession session(context);
     session.ChooseCatalogue(Catalogue(context));
-    Floor floor(picture);
-    std::vector<double> imports;
-    std::vector<double> passes;
-    for ([[maybe_unused]] auto _ : state) {
-        session.SetImage(picture);
-        Pattern pattern(context);
-        passes.push_back(floor.Measure());
-        imports.push_back(Seconds([&session, &pattern] {
-            benchmark::DoNotOptimize(session.CreateThePattern(pattern, MaxColors, 14, 14));
-        }));
-        state.SetIterationTime(imports.back());
-    }
-    state.counters["passes"] = Median(imports) / Median(passes);
-    state.counters["pass_us"] = Median(passes) * 1e6;
+    Pattern pattern(context);
+    Ratio(state, ofDepth ? 50 : 200)
+        .Measure(
+            Pass(picture),
+            [&] {
+                session.SetImage(picture);
+                pattern = Pattern(context);
+            },
+            [&] {
+                benchmark::DoNotOptimize(session.CreateThePattern(pattern, MaxColors, 14, 14));
+            });
 }
 
+/// Without a goal of its own: what each step of the wizard costs.
 void Adjust(benchmark::State& state) {
     const Adjustments::Item& item = Adjustments::Items()[static_cast<std::size_t>(state.range(0))];
     const Picture picture = Photo(true);
-    Floor floor(picture);
-    std::vector<double> times;
-    std::vector<double> passes;
-    for ([[maybe_unused]] auto _ : state) {
-        Picture changed = picture;
-        passes.push_back(floor.Measure());
-        times.push_back(Seconds([&changed, &item] {
-            Adjustments::Apply(changed, item.What, (item.Start + item.Maximum) / 2);
-        }));
-        state.SetIterationTime(times.back());
-    }
+    Picture changed;
+    Ratio(state, 0).Measure(
+        Pass(picture), [&] { changed = picture; },
+        [&] { Adjustments::Apply(changed, item.What, (item.Start + item.Maximum) / 2); });
     state.SetLabel(std::string(item.Text));
-    state.counters["passes"] = Median(times) / Median(passes);
 }
 
 } // namespace
 
-BENCHMARK_CAPTURE(ImportPhoto, FiveBitsAChannel, true)
-    ->UseManualTime()
-    ->Iterations(15)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(ImportPhoto, Smoothed, false)
-    ->UseManualTime()
-    ->Iterations(15)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(Adjust)->DenseRange(0, 8)->UseManualTime()->Iterations(9)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(ImportPhoto, FiveBitsAChannel, true)->Apply(AsRatio);
+BENCHMARK_CAPTURE(ImportPhoto, Smoothed, false)->Apply(AsRatio);
+BENCHMARK(Adjust)->DenseRange(0, 8)->Apply(AsRatio);
 BENCHMARK_MAIN();
