@@ -86,8 +86,9 @@ void Pattern::CountStitches(int x1, int y1, int x2, int y2) {
     FlossTallies tallies{};
     FlossTallies second{};
     for (int x = inGrid.Left; x <= inGrid.Right && inGrid.Top <= inGrid.Bottom; ++x) {
-        const auto rows = static_cast<std::size_t>(inGrid.Bottom - inGrid.Top + 1);
-        TallyCells(std::span(m_grid).subspan(CellAt(x, inGrid.Top), rows), tallies, second);
+        const std::size_t first = CellAt(x, inGrid.Top);
+        const std::size_t last = CellAt(x, inGrid.Bottom);
+        TallyCells(std::span(m_grid).subspan(first, last - first + 1), tallies, second);
     }
     m_dupStitches.ForEach([&](const DupStitch& dup) {
         // Readers do not see a DupStitch beside an empty primary place.

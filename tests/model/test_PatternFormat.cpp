@@ -1,12 +1,16 @@
 // SPDX-FileCopyrightText: 2026 Korvanta contributors
 // SPDX-License-Identifier: MIT
 
+#include <cstdlib>
+#include <filesystem>
+#include <map>
 #include <sstream>
 
 #include "model/ModelTestKit.h"
 #include "model/PatternBytes.h"
 #include "model/PatternChecksum.h"
 #include "model/RunTimeError.h"
+#include "support/TempFolder.h"
 
 namespace zol {
 namespace {
@@ -306,6 +310,36 @@ TEST_F(PatternFormat, RunsGiveWhatSetStitchGivesForEveryKindAndFloss) {
         Pattern plain = Make(3, 2);
         plain.SetStitch(2, 1, kind, kind == 255 ? 255 : 200, 0);
         EXPECT_EQ(pattern.Cell(2, 1), plain.Cell(2, 1)) << kind;
+    }
+}
+
+/// Streams that the fuzz target starts from. They are written to KORVANTA_CORPUS_DIR/pattern when
+/// that names a corpus ("fuzz/corpus" in the sources), and load in any case.
+TEST_F(PatternFormat, SeedsOfTheFuzzTargetLoad) {
+    std::map<std::string, std::vector<std::uint8_t>> seeds;
+    PatternBytes file;
+    seeds["every-block.pat"] = file.All();
+    file.flags = 4;
+    file.checksum = PatternBytes::SumOf(file.All());
+    seeds["checksum.pat"] = file.All();
+    file.flags = 0;
+    file.version = 0x20202020;
+    file.orientedKnots.clear();
+    seeds["four-blanks.pat"] = file.All();
+    file.version = 50199;
+    seeds["early.pat"] = file.All();
+    pattern.Initialize(6, 5, 14, 14);
+    std::mt19937 random(4);
+    test::Scatter(pattern, random, 40, 6, 4, 16);
+    seeds["scattered.pat"] = Save();
+    const char* corpus = std::getenv("KORVANTA_CORPUS_DIR");
+    for (const auto& [name, bytes] : seeds) {
+        EXPECT_EQ(Load(bytes), 0) << name;
+        if (corpus != nullptr) {
+            const std::filesystem::path folder = std::filesystem::path(corpus) / "pattern";
+            std::filesystem::create_directories(folder);
+            test::WriteFile(folder / name, std::string(bytes.begin(), bytes.end()));
+        }
     }
 }
 
