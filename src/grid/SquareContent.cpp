@@ -77,28 +77,34 @@ std::vector<PlacedKnot> KnotsOf(const Pattern& pattern, const SquareRect& rect,
                                 const std::vector<SquarePos>& flagged) {
     std::vector<PlacedKnot> shown;
     const KeyedTable<FrenchKnot>& knots = pattern.FrenchKnots();
+    const auto add = [&](const FrenchKnot& knot) {
+        if (const auto square = LastSquareOf(pattern, rect, knot); square) {
+            shown.push_back(Placed(*square, knot));
+        }
+    };
     // Whichever is less work: walking the table, or asking for the points of the squares.
     if (knots.Count() <= flagged.size() * 9) {
-        knots.ForEach([&](const FrenchKnot& knot) {
-            if (const auto square = LastSquareOf(pattern, rect, knot); square) {
-                shown.push_back(Placed(*square, knot));
-            }
-        });
+        knots.ForEach(add);
     } else {
         for (const SquarePos& square : flagged) {
             for (int position = 1; position <= 9; ++position) {
                 const LatticePos at = LatticeOf(square.X, square.Y, position);
-                const FrenchKnot* knot = knots.Find(KeyedTable<FrenchKnot>::KeyOf(at.LY, at.LX));
-                if (knot != nullptr && LastSquareOf(pattern, rect, *knot) == square) {
-                    shown.push_back(Placed(square, *knot));
+                if (const auto* knot = knots.Find(KeyedTable<FrenchKnot>::KeyOf(at.LY, at.LX));
+                    knot != nullptr) {
+                    add(*knot);
                 }
             }
         }
     }
-    std::sort(shown.begin(), shown.end(), [](const PlacedKnot& a, const PlacedKnot& b) {
-        return std::tuple(a.Square.X, a.Square.Y, a.Knot.Position) <
-               std::tuple(b.Square.X, b.Square.Y, b.Knot.Position);
-    });
+    const auto place = [](const PlacedKnot& knot) {
+        return std::tuple(knot.Square.X, knot.Square.Y, knot.Knot.Position);
+    };
+    std::sort(shown.begin(), shown.end(),
+              [&](const PlacedKnot& a, const PlacedKnot& b) { return place(a) < place(b); });
+    shown.erase(
+        std::unique(shown.begin(), shown.end(),
+                    [&](const PlacedKnot& a, const PlacedKnot& b) { return place(a) == place(b); }),
+        shown.end());
     return shown;
 }
 

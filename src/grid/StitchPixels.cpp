@@ -14,9 +14,17 @@ namespace {
 /// The corners lie in the middles of pixels and the pen is one pixel wide.
 void DrawPolygon(QPainter& painter, int kind, const PixelRect& square, const QColor& color,
                  const QBrush& brush) {
+    const QPolygonF polygon = StitchShapes::Polygon(kind, square);
+    if (square.Width() == 1 || square.Height() == 1) {
+        // Nothing of a shape is left in a single pixel's width: it is all of it.
+        if (!polygon.isEmpty()) {
+            painter.fillRect(square.Area(), color);
+        }
+        return;
+    }
     painter.setPen(QPen(color, 1, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
     painter.setBrush(brush);
-    painter.drawPolygon(StitchShapes::Polygon(kind, square).translated(0.5, 0.5));
+    painter.drawPolygon(polygon.translated(0.5, 0.5));
 }
 
 QImage Stretched(const QImage& image, int width, int height) {
