@@ -151,7 +151,7 @@ struct PictureFile::Decoder {
     /// Upright sRGB. Turning needs the rows in another order than they are read in, so only a
     /// picture that has to be turned is held whole.
     [[nodiscard]] VImage Upright() const {
-        const VImage srgb = VipsStages::ToSrgb(image);
+        VImage srgb = VipsStages::ToSrgb(image);
         if (vips_image_get_orientation(srgb.get_image()) == 1) {
             return srgb;
         }

@@ -112,7 +112,7 @@ ImportStatus ImportSession::CreateThePattern(Pattern& pattern, int maxColors, in
         return {ImportStatus::Outcome::Invalid, std::string(ImportMessages::NoImage)};
     }
     if (m_preview.IsEmpty()) {
-        const ImportStatus status = RecolorImage(maxColors);
+        ImportStatus status = RecolorImage(maxColors);
         if (!status.IsDone()) {
             return status;
         }

@@ -118,14 +118,4 @@ inline std::vector<std::uint8_t> SavedLying(const vips::VImage& upright, int ori
     return SavedAs(lying, suffix);
 }
 
-/// Empty where no encoder is installed.
-inline std::vector<std::uint8_t> SavedAsHeic(const vips::VImage& image) {
-    try {
-        return SavedAs(image, ".heic[Q=95]");
-    } catch (const vips::VError&) {
-        vips_error_clear();
-        return {};
-    }
-}
-
 } // namespace zol::test

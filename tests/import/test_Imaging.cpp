@@ -64,11 +64,24 @@ TEST(Imaging, EveryFormatIsDecodedByItsContent) {
 }
 
 TEST(Imaging, HeicIsDecoded) {
-    const std::vector<std::uint8_t> bytes = test::SavedAsHeic(Quarters());
-    if (bytes.empty()) {
-        GTEST_SKIP() << "no encoder on this machine";
+    // The quarters as heif-enc saved them once: the encoder is not clean under the sanitizers.
+    const ImagingResult result =
+        LoadImage(std::filesystem::path(KORVANTA_SOURCE_DIR) / "tests/import/quarters.heic");
+    ASSERT_TRUE(result.IsGood()) << result.Text;
+    ExpectQuarters(result.Image, 12);
+}
+
+TEST(Imaging, TruncatedHeicGivesAMessageAndNoPicture) {
+    const std::string whole =
+        test::ReadFile(std::filesystem::path(KORVANTA_SOURCE_DIR) / "tests/import/quarters.heic");
+    ASSERT_FALSE(whole.empty());
+    for (std::size_t size = 0; size < whole.size() * 9 / 10; size += 9) {
+        const std::vector<std::uint8_t> part(whole.begin(),
+                                             whole.begin() + static_cast<std::ptrdiff_t>(size));
+        const ImagingResult result = PictureFile(part).LoadImage();
+        ASSERT_FALSE(result.IsGood()) << size;
+        EXPECT_FALSE(result.Text.empty());
     }
-    ExpectQuarters(Loaded(bytes), 12);
 }
 
 TEST(Imaging, AFileIsReadLikeItsBytesWhateverItsName) {
