@@ -21,6 +21,40 @@ std::int16_t Moved(std::int16_t value, int delta) {
     return static_cast<std::int16_t>(value + delta);
 }
 
+/// The target's numbers of a source's flosses, merged when they are first asked for.
+class FlossMerge {
+public:
+    FlossMerge(const Palette& source, Palette& target, int paletteOverride)
+        : m_source(source),
+          m_target(target),
+          m_override(paletteOverride),
+          m_map(static_cast<std::size_t>(source.GetEntriesCount()) + 1, notYet) {}
+
+    /// 0 for a number that the source's palette lacks: such a stitch is not copied.
+    int operator()(int floss) {
+        if (m_override != merge) {
+            return m_override;
+        }
+        if (floss < 1 || static_cast<std::size_t>(floss) >= m_map.size()) {
+            return 0;
+        }
+        int& mapped = m_map[static_cast<std::size_t>(floss)];
+        if (mapped == notYet) {
+            mapped = m_source.MergePaletteEntrytoTarget(m_target, floss);
+        }
+        return mapped < NoFloss ? mapped : 0;
+    }
+
+private:
+    static constexpr int merge = -1;
+    static constexpr int notYet = -1;
+
+    const Palette& m_source;
+    Palette& m_target;
+    int m_override;
+    std::vector<int> m_map;
+};
+
 } // namespace
 
 SquareRect Pattern::InGrid(const SquareRect& rect) const {
@@ -236,24 +270,7 @@ void Pattern::ShrinkToFit() {
 void Pattern::CopySectionToTarget(Pattern& target, int targetX, int targetY, int sourceX,
                                   int sourceY, int sourceWidth, int sourceHeight,
                                   int paletteOverride) const {
-    constexpr int merge = -1;
-    constexpr int notYet = -1;
-    const int entries = m_palette.GetEntriesCount();
-    std::vector<int> map(static_cast<std::size_t>(entries) + 1, notYet);
-    // The target's floss; 0 for a number that this palette lacks, which is not copied.
-    const auto flossOf = [&](int floss) {
-        if (paletteOverride != merge) {
-            return paletteOverride;
-        }
-        if (floss < 1 || floss > entries) {
-            return 0;
-        }
-        int& mapped = map[static_cast<std::size_t>(floss)];
-        if (mapped == notYet) {
-            mapped = m_palette.MergePaletteEntrytoTarget(target.m_palette, floss);
-        }
-        return mapped < NoFloss ? mapped : 0;
-    };
+    FlossMerge flossOf(m_palette, target.m_palette, paletteOverride);
     const int shiftX = targetX - sourceX;
     const int shiftY = targetY - sourceY;
     const SquareRect wanted{sourceX, sourceY, sourceX + sourceWidth - 1,
