@@ -3,6 +3,9 @@
 
 #include "model/PatternWriter.h"
 
+#include <array>
+#include <span>
+
 #include "model/PatternChecksum.h"
 #include "model/RunTimeError.h"
 
@@ -10,31 +13,34 @@ namespace zol {
 
 namespace {
 
-/// Codes runs into a small buffer, so that the stream grows by blocks.
+/// Codes runs into a small block, so that the stream grows by blocks.
 class RunCoder {
 public:
-    explicit RunCoder(ByteWriter& stream) : m_stream(stream) { m_buffer.reserve(bufferSize); }
+    explicit RunCoder(ByteWriter& stream) : m_stream(stream) {}
 
     void Put(int length, std::uint8_t paletteIndex, std::uint8_t kind) {
         const auto bits = static_cast<unsigned>(length);
-        m_buffer.push_back(static_cast<std::uint8_t>(bits & 0xFFU));
-        m_buffer.push_back(static_cast<std::uint8_t>(bits >> 8U));
-        m_buffer.push_back(kind == NoStitch ? NoFloss : paletteIndex);
-        m_buffer.push_back(kind);
-        if (m_buffer.size() >= bufferSize) {
+        std::uint8_t* run = m_block.data() + m_used;
+        run[0] = static_cast<std::uint8_t>(bits & 0xFFU);
+        run[1] = static_cast<std::uint8_t>(bits >> 8U);
+        run[2] = kind == NoStitch ? NoFloss : paletteIndex;
+        run[3] = kind;
+        m_used += RunSize;
+        if (m_used == m_block.size()) {
             Flush();
         }
     }
     void Flush() {
-        m_stream.WriteBytes(m_buffer);
-        m_buffer.clear();
+        m_stream.WriteBytes(std::span(m_block).first(m_used));
+        m_used = 0;
     }
 
-private:
-    static constexpr std::size_t bufferSize = 16384;
+    static constexpr std::size_t RunSize = 4;
 
+private:
     ByteWriter& m_stream;
-    std::vector<std::uint8_t> m_buffer;
+    std::array<std::uint8_t, 4096 * RunSize> m_block{};
+    std::size_t m_used = 0;
 };
 
 struct RunValue {
@@ -51,6 +57,9 @@ std::vector<std::uint8_t> PatternWriter::Write(Pattern& pattern) {
         throw RunTimeError(ErrInvalidCall, "A pattern without squares cannot be saved");
     }
     ByteWriter stream;
+    // Room for a run a square, so that no growing stream is copied. What is not used is not touched
+    // either.
+    stream.Reserve(pattern.m_grid.size() * RunCoder::RunSize);
     PatternWriter writer(pattern, stream);
     writer.WriteHeader();
     writer.WriteSizeAndProperties();
@@ -98,8 +107,9 @@ void PatternWriter::WriteSizeAndProperties() {
 void PatternWriter::WriteRuns() {
     // Index 0 of a square as readers see it. An empty square reads as floss 0 and one with a knot
     // alone counts as floss 255: both are stored alike, but they do not share a run.
-    const auto valueAt = [this](std::size_t square) {
-        const StitchCell& cell = m_pattern.m_grid[square];
+    const std::vector<StitchCell>& cells = m_pattern.m_grid;
+    const auto valueAt = [this, &cells](std::size_t square) {
+        const StitchCell& cell = cells[square];
         if (cell.StitchType != NoStitch) {
             return RunValue{cell.StitchType, cell.PaletteIndex};
         }
@@ -115,7 +125,7 @@ void PatternWriter::WriteRuns() {
     RunCoder coder(m_stream);
     RunValue run = valueAt(0);
     int length = 1;
-    for (std::size_t square = 1; square < m_pattern.m_grid.size(); ++square) {
+    for (std::size_t square = 1; square < cells.size(); ++square) {
         const RunValue value = valueAt(square);
         if (value == run && length < MaxRunLength) {
             ++length;
