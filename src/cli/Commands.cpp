@@ -15,6 +15,26 @@ constexpr std::array commands{
     Command{"edit", RunEdit, false, "edit [IN] --script OPS -o OUT [--dump]",
             "run an operation script on a pattern"},
     Command{"convert", RunConvert, false, "convert IN OUT", "write a pattern in another format"},
+    Command{"import", RunImport, false,
+            "import PICTURE -o OUT [--catalogue NAME.col | --palette FILE.fls]\n"
+            "    [--max-colors N] [--width W] [--height H]\n"
+            "    [--units stitches|inches|centimetres] [--cloth-count N] [--no-smooth]\n"
+            "    [--crop X,Y,W,H] [--brightness N] [--contrast N] [--saturation N] [--hue N]\n"
+            "    [--gamma N] [--equalize] [--grey] [--stretch] [--edges]",
+            "turn a picture into a pattern"},
+    Command{"chart", RunChart, true,
+            "chart FILE -o OUT.pdf [--stitches-as N] [--backstitches-as N]\n"
+            "    [--gspi X | --fit-page] [--page-size NAME] [--landscape]\n"
+            "    [--margins L,R,T,B] [--no-grid] [--no-key] [--no-page-numbers] [--pages A-B]",
+            "print chart pages and colour key to a PDF"},
+    Command{"render", RunRender, true,
+            "render FILE -o OUT.png|.bmp [--style 1..6] [--pixels-per-square N] [--grid]\n"
+            "    [--area X1,Y1,X2,Y2]",
+            "paint a pattern as a picture"},
+    Command{"usage", RunUsage, false, "usage FILE [--json | --csv]", "the floss usage report"},
+    Command{"catalogue", RunCatalogue, false,
+            "catalogue build IN.csv -o OUT.col --name N --short-name S --base-id B",
+            "make a floss catalogue from a table"},
 };
 
 } // namespace

@@ -82,6 +82,12 @@ Environment::Environment(const GlobalOptions& global)
     m_context.RecolorPatterns = false;
 }
 
+void Environment::Say(const std::string& text) const {
+    if (!m_quiet) {
+        std::cout << text << '\n';
+    }
+}
+
 void Environment::LoadPattern(Pattern& pattern, const std::string& fileName) {
     int result = 0;
     if (fileName == "-") {

@@ -69,7 +69,8 @@ public:
     [[nodiscard]] ProgramContext& Context() { return m_context; }
     [[nodiscard]] const Options& GetOptions() const { return m_options; }
     [[nodiscard]] const LastMessage& Messages() const { return m_messages; }
-    [[nodiscard]] bool IsQuiet() const { return m_quiet; }
+    /// A line about what was done, for people; nothing with --quiet.
+    void Say(const std::string& text) const;
 
     /// Throws CommandFailed with the words that a window would show last. "-" reads standard
     /// input.

@@ -57,12 +57,20 @@ GlobalOptions TakeGlobalOptions(std::vector<std::string>& words) {
     return global;
 }
 
+/// Remarks of the libraries below are nothing that a script should find in its error output.
+void DropRemarks(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+    if (type == QtFatalMsg) {
+        std::cerr << "korvanta-cli: " << text.toStdString() << '\n';
+    }
+}
+
 /// Commands that paint need fonts, which need a GUI application; it asks for no display.
 std::unique_ptr<QCoreApplication> MakeApplication(const Command& command, int& argc, char** argv) {
     if (!command.Paints) {
         return std::make_unique<QCoreApplication>(argc, argv);
     }
     ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    qInstallMessageHandler(DropRemarks);
     return std::make_unique<QGuiApplication>(argc, argv);
 }
 

@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "cli/CliRunner.h"
+
+namespace zol {
+namespace {
+
+using test::CliResult;
+using test::CliRunner;
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+
+constexpr const char* csvHeader = "FlossID,Description,Red,Green,Blue,MasterID\n";
+
+class FlossCommands : public ::testing::Test {
+protected:
+    CliResult Build(const std::string& csv) {
+        return cli.Run({"catalogue", "build", cli.Write("in.csv", csv), "-o", cli.File("out.col"),
+                        "--name", "Test", "--short-name", "Test", "--base-id", "7"});
+    }
+
+    CliRunner cli;
+};
+
+TEST_F(FlossCommands, CatalogueIsBuiltByteForByte) {
+    ::setenv("SOURCE_DATE_EPOCH", "86400", 1);
+    const CliResult result = Build(std::string(csvHeader) + "310,Black,1,2,3,258\n");
+    ::unsetenv("SOURCE_DATE_EPOCH");
+    ASSERT_EQ(result.exitCode, 0) << result.err;
+    std::string expected =
+        "Test" + std::string(26, ' ') + std::string("\x07\0\0\0", 4) + "Test" + std::string(6, ' ');
+    expected += std::string(8, '?'); // the date, looked at below
+    expected += std::string(2, '\0');
+    expected += std::string("\x02\x01\0\0", 4) + "Black" + std::string(25, ' ') + "310" +
+                std::string(7, ' ') + std::string("\x01\0\x02\0\x03\0", 6);
+    const std::string built = cli.Read("out.col");
+    ASSERT_EQ(built.size(), 54U + 57U);
+    EXPECT_EQ(built.substr(0, 44), expected.substr(0, 44));
+    EXPECT_EQ(built.substr(52, 52), expected.substr(52, 52));
+    double date = 0;
+    std::copy_n(built.data() + 44, sizeof date, reinterpret_cast<char*>(&date));
+    EXPECT_EQ(date, 25570.0) << "2 January 1970";
+}
+
+TEST_F(FlossCommands, TwoBuildsAreEqual) {
+    const std::string csv = std::string(csvHeader) + "1,One,1,2,3,4\n2,Two,5,6,7,8\n";
+    ASSERT_EQ(Build(csv).exitCode, 0);
+    const std::string first = cli.Read("out.col");
+    const auto date = std::filesystem::last_write_time(cli.File("in.csv"));
+    (void)cli.Write("in.csv", csv);
+    std::filesystem::last_write_time(cli.File("in.csv"), date);
+    ASSERT_EQ(cli.Run({"catalogue", "build", cli.File("in.csv"), "-o", cli.File("again.col"),
+                       "--name", "Test", "--short-name", "Test", "--base-id", "7"})
+                  .exitCode,
+              0);
+    EXPECT_EQ(cli.Read("again.col"), first);
+}
+
+TEST_F(FlossCommands, DamagedTableIsToldWithItsLineAndWritesNothing) {
+    const CliResult result = Build(std::string(csvHeader) + "310,Black,1,2,300,1\n");
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.err, HasSubstr("2"));
+    EXPECT_FALSE(cli.Exists("out.col"));
+    EXPECT_EQ(Build("").exitCode, 1);
+}
+
+TEST_F(FlossCommands, InfoAndDumpTellOfCataloguesAndPalettes) {
+    ASSERT_EQ(Build(std::string(csvHeader) + "310,Black,1,2,3,258\n").exitCode, 0);
+    const CliResult info = cli.Run({"info", cli.File("out.col"), "--json"});
+    EXPECT_EQ(info.out, "{\"baseID\":7,\"flosses\":1,\"kind\":\"catalogue\","
+                        "\"name\":\"Test\",\"shortName\":\"Test\"}\n");
+    EXPECT_THAT(cli.Run({"dump", cli.File("out.col")}).out,
+                HasSubstr("\"FlossID\":\"310\",\"Green\":2,\"MasterID\":258,\"Red\":1"));
+    std::string palette = "Korvanta 6 Floss Palette!";
+    palette += std::string(2, '\0') + std::string(2, '\0') + std::string("\x01\0A\0\0\0\0", 7);
+    EXPECT_EQ(cli.Run({"info", cli.Write("a.fls", palette), "--json"}).out,
+              "{\"flosses\":0,\"kind\":\"palette\",\"symbolFont\":\"A\"}\n");
+    const CliResult damaged = cli.Run({"info", cli.Write("b.fls", "no palette")});
+    EXPECT_EQ(damaged.exitCode, 1);
+    EXPECT_THAT(damaged.err, StartsWith("korvanta-cli: Invalid File Format"));
+}
+
+TEST_F(FlossCommands, UsageComesAsTableCsvAndJson) {
+    const std::string file =
+        cli.Pattern("p.pat", "SetStitch 1 1 1 1 0\nSetBackstitchLine 1 1 1 14 1 3 2 0\n"
+                             "SetFlossDesc 1 \"ink, black\"\n");
+    const CliResult csv = cli.Run({"usage", file, "--csv"});
+    EXPECT_EQ(csv.out, "Floss ID,Description,Stitches,Back Stitch (Inches),Skeins\n"
+                       "DMC 310,\"ink, black\",1,0.0,0.1\n"
+                       "DMC 820,royal blue - vy dk,0,1.0,0.1\n");
+    const CliResult json = cli.Run({"usage", file, "--json"});
+    EXPECT_THAT(json.out, StartsWith("{\"flosses\":[{\"backStitch\":0.0,\"description\":"
+                                     "\"ink, black\",\"flossID\":\"DMC 310\",\"skeins\":"));
+    const CliResult table = cli.Run({"usage", file});
+    EXPECT_THAT(table.out, HasSubstr("DMC 310   ink, black "));
+    EXPECT_EQ(cli.Run({"usage", file, "--csv", "--json"}).exitCode, 2);
+}
+
+} // namespace
+} // namespace zol
