@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <vector>
 
 #include "grid/BackStitchLines.h"
 #include "grid/GridLines.h"
@@ -22,6 +23,19 @@ SquareRect CutToPattern(const GridView& view, const SquareRect& rect) {
     const SquareRect all = view.Everything();
     return {std::max(rect.Left, all.Left), std::max(rect.Top, all.Top),
             std::min(rect.Right, all.Right), std::min(rect.Bottom, all.Bottom)};
+}
+
+/// On paper every second column comes first, then those between. Symbols that lie side by side then
+/// do not follow one another in a document, where a reader of its text would take them for a word.
+std::vector<int> ColumnsInOrder(const SquareRect& rect, RenderTarget target) {
+    const int passes = target == TargetPrinter ? 2 : 1;
+    std::vector<int> columns;
+    for (int pass = 0; pass < passes; ++pass) {
+        for (int column = rect.Left + pass; column <= rect.Right; column += passes) {
+            columns.push_back(column);
+        }
+    }
+    return columns;
 }
 
 } // namespace
@@ -71,7 +85,7 @@ void GridPainter::DrawSquares(QPainter& painter, const GridView& view, const Squ
     const SquareSpans y = SquareSpans::Rows(view, cut.Top, cut.Bottom);
     SquarePainter squares(painter, view, *m_images, *m_symbols);
     std::vector<SquarePos> knotted;
-    for (int column = cut.Left; column <= cut.Right; ++column) {
+    for (const int column : ColumnsInOrder(cut, view.Options.Target)) {
         for (int row = cut.Top; row <= cut.Bottom; ++row) {
             const StitchCell& cell = view.Source->Cell(column, row);
             if (cell.StitchType != NoStitch) {

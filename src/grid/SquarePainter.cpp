@@ -33,6 +33,7 @@ SquarePainter::SquarePainter(QPainter& painter, const GridView& view, StitchImag
 }
 
 SquarePainter::~SquarePainter() {
+    FlushSymbols();
     m_painter.restore();
 }
 
@@ -108,8 +109,7 @@ void SquarePainter::DrawSymbol(const PixelRect& rect, int symbol, Colour colour)
         return;
     }
     if (IsPaper()) {
-        m_symbols.DrawText(m_painter, rect.Area(), symbol, ToQColor(colour),
-                           m_view.Options.SymbolScale);
+        m_batch.Add(m_symbols, rect.Area(), symbol, ToQColor(colour), m_view.Options.SymbolScale);
         return;
     }
     m_painter.fillPath(m_symbols.Outline(rect.Area(), symbol, m_view.Options.SymbolScale, true),
@@ -136,7 +136,13 @@ void SquarePainter::DrawImage(int kind, const PixelRect& square, Colour floss) {
     m_painter.restore();
 }
 
+void SquarePainter::FlushSymbols() {
+    m_batch.Flush(m_painter);
+}
+
 void SquarePainter::DrawKnot(const PlacedKnot& placed) {
+    // A knot lies on the symbols round it, those of earlier knots included.
+    FlushSymbols();
     const PixelRect box =
         KnotShapes::Box(m_view, placed.Square.X, placed.Square.Y, placed.Knot.Position);
     const Palette& palette = m_view.Source->GetPalette();

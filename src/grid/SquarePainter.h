@@ -8,6 +8,7 @@
 #include "grid/SquareContent.h"
 #include "grid/StitchImages.h"
 #include "grid/StitchLayers.h"
+#include "grid/SymbolBatch.h"
 #include "grid/SymbolText.h"
 
 class QPainter;
@@ -15,7 +16,8 @@ class QPainter;
 namespace zol {
 
 /// Paints squares shape by shape onto any QPainter. Made for one view and used up with it; the
-/// painter is left as it was found.
+/// painter is left as it was found. On paper the symbols of squares come after their shapes, many
+/// at once, and before the knots.
 class SquarePainter {
 public:
     SquarePainter(QPainter& painter, const GridView& view, StitchImages& images,
@@ -36,6 +38,7 @@ private:
     void FillShape(int kind, const PixelRect& square, Colour colour);
     void DrawOutline(int kind, const PixelRect& square, Colour colour);
     void DrawImage(int kind, const PixelRect& square, Colour floss);
+    void FlushSymbols();
     void DrawKnotCurve(const PixelRect& box, int orientation, Colour colour, bool filled);
     [[nodiscard]] bool IsPaper() const { return m_view.Options.Target == TargetPrinter; }
 
@@ -43,6 +46,7 @@ private:
     GridView m_view;
     StitchImages& m_images;
     SymbolText& m_symbols;
+    SymbolBatch m_batch; ///< symbols of squares that paper gets together
 };
 
 } // namespace zol

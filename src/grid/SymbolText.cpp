@@ -5,6 +5,7 @@
 
 #include <QFont>
 #include <QFontDatabase>
+#include <QGlyphRun>
 #include <QPainter>
 #include <QTransform>
 
@@ -102,8 +103,6 @@ void SymbolText::SetFont(const std::string& name, bool bold, bool italic) {
     m_italic = italic;
     m_font = FontOf(QString::fromStdString(name), bold, italic);
     m_glyphs.fill({});
-    m_runs.fill({});
-    m_runSize = 0;
 }
 
 SymbolText::Glyph SymbolText::MakeGlyph(const QRawFont& font, quint32 index) {
@@ -136,38 +135,38 @@ const SymbolText::Glyph& SymbolText::GlyphOf(int symbol) {
     return *slot;
 }
 
-const QGlyphRun& SymbolText::RunOf(int symbol, double pixelSize) {
-    if (pixelSize != m_runSize) {
-        m_runSize = pixelSize;
-        m_runs.fill({});
-        m_sizedFont = m_font;
-        m_sizedFont.setPixelSize(pixelSize);
-        m_sizedBuiltIn = m_builtIn;
-        m_sizedBuiltIn.setPixelSize(pixelSize);
+std::optional<SymbolText::PlacedGlyph> SymbolText::Place(const QRectF& rect, int symbol,
+                                                         double scale) {
+    const double height = rect.height() * scale;
+    if (ToUnicode(symbol) == 0 || height <= 0) {
+        return std::nullopt;
     }
-    std::optional<QGlyphRun>& run = m_runs[static_cast<std::size_t>(symbol)];
-    if (!run) {
-        const Glyph& glyph = GlyphOf(symbol);
-        run.emplace();
-        run->setRawFont(glyph.font == &m_font ? m_sizedFont : m_sizedBuiltIn);
-        run->setGlyphIndexes({glyph.index});
-        run->setPositions({QPointF(0, 0)});
+    const Glyph& glyph = GlyphOf(symbol);
+    if (glyph.size <= 0) {
+        return std::nullopt;
     }
-    return *run;
+    return PlacedGlyph{glyph.index, rect.center() + glyph.origin * height, glyph.size * height,
+                       glyph.font == &m_builtIn};
+}
+
+QRawFont SymbolText::FontOfSize(double pixelSize, bool isBuiltIn) const {
+    QRawFont font = isBuiltIn ? m_builtIn : m_font;
+    font.setPixelSize(pixelSize);
+    return font;
 }
 
 void SymbolText::DrawText(QPainter& painter, const QRectF& rect, int symbol, const QColor& color,
                           double scale) {
-    if (ToUnicode(symbol) == 0) {
+    const std::optional<PlacedGlyph> glyph = Place(rect, symbol, scale);
+    if (!glyph) {
         return;
     }
-    const Glyph& glyph = GlyphOf(symbol);
-    const double height = rect.height() * scale;
-    if (glyph.size * height <= 0) {
-        return;
-    }
+    QGlyphRun run;
+    run.setRawFont(FontOfSize(glyph->PixelSize, glyph->IsBuiltIn));
+    run.setGlyphIndexes({glyph->Index});
+    run.setPositions({QPointF(0, 0)});
     painter.setPen(color);
-    painter.drawGlyphRun(rect.center() + glyph.origin * height, RunOf(symbol, glyph.size * height));
+    painter.drawGlyphRun(glyph->Position, run);
 }
 
 QPainterPath SymbolText::Outline(const QRectF& rect, int symbol, double scale, bool snap) {

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <QColor>
-#include <QGlyphRun>
 #include <QPainterPath>
 #include <QRawFont>
 #include <QRectF>
@@ -49,6 +48,17 @@ public:
     /// pixel borders, which keeps it crisp.
     [[nodiscard]] QPainterPath Outline(const QRectF& rect, int symbol, double scale, bool snap);
 
+    /// Where a symbol's glyph begins, and in which of the two fonts at which size.
+    struct PlacedGlyph {
+        quint32 Index = 0;
+        QPointF Position;
+        double PixelSize = 0;
+        bool IsBuiltIn = false; ///< taken from the built-in font
+    };
+    /// As DrawText paints it; nothing for symbol 0 and for a rectangle without height.
+    [[nodiscard]] std::optional<PlacedGlyph> Place(const QRectF& rect, int symbol, double scale);
+    [[nodiscard]] QRawFont FontOfSize(double pixelSize, bool isBuiltIn) const;
+
 private:
     /// A glyph in a cell of height 1 whose centre is (0, 0).
     struct Glyph {
@@ -60,7 +70,6 @@ private:
     };
     [[nodiscard]] const Glyph& GlyphOf(int symbol);
     [[nodiscard]] static Glyph MakeGlyph(const QRawFont& font, quint32 index);
-    [[nodiscard]] const QGlyphRun& RunOf(int symbol, double pixelSize);
 
     std::string m_name;
     bool m_bold = false;
@@ -68,10 +77,6 @@ private:
     QRawFont m_font;
     QRawFont m_builtIn;
     std::array<std::optional<Glyph>, 256> m_glyphs;
-    double m_runSize = 0; ///< pixel size of the runs
-    std::array<std::optional<QGlyphRun>, 256> m_runs;
-    QRawFont m_sizedFont;
-    QRawFont m_sizedBuiltIn;
 };
 
 } // namespace zol

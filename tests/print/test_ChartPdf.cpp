@@ -104,7 +104,9 @@ protected:
             const int row = squares.Top + static_cast<int>(y / cellY);
             if (word.Page <= functions.PatternPages() && x >= 0 && y >= 0 &&
                 column <= squares.Right && row <= squares.Bottom) {
-                EXPECT_EQ(word.Text.size(), 1) << word.Text.toStdString();
+                EXPECT_EQ(word.Text.size(), 1)
+                    << word.Text.toStdString() << " on page " << word.Page << " from " << word.Left
+                    << ", " << word.Top << " to " << word.Right << ", " << word.Bottom;
                 found[{column, row}].append(word.Text);
             }
         }
@@ -170,6 +172,19 @@ TEST_F(ChartPdfTest, PartStitchesOfOneSquareBothShowTheirSymbols) {
         pattern->DeleteStitch(i, i, Pattern::Everything);
         pattern->SetStitch(i, i, StitchUL3Q, 1 + i % 19, 1);
         pattern->SetStitch(i, i, StitchLRQ, 1 + (i + 7) % 19, 9);
+    }
+    ExpectSameChart(*pattern, {});
+}
+
+TEST_F(ChartPdfTest, SymbolsInARowAreNotTakenForAWord) {
+    const auto pattern = scene.MakePattern(60, 30);
+    Fill(*pattern, 20);
+    for (int x = 1; x <= 60; ++x) {
+        for (int y = 1; y <= 30; ++y) {
+            if (y != 7 && y != 11) {
+                pattern->DeleteStitch(x, y, Pattern::Everything);
+            }
+        }
     }
     ExpectSameChart(*pattern, {});
 }
