@@ -119,7 +119,7 @@ void Pattern::PlaceStitch(int x, int y, std::uint8_t kind, std::uint8_t paletteI
     if (cell.StitchType == NoStitch && (dup == nullptr || dup->GetStitchCount() == 0)) {
         cell.StitchType = kind;
         cell.PaletteIndex = paletteIndex;
-    } else if (kind != NoStitch) {
+    } else {
         AddToDup(x, y, kind, paletteIndex);
     }
 }

@@ -145,6 +145,17 @@ TEST_F(PatternStitches, FifthFurtherStitchFindsNoSlotAndIsDropped) {
     EXPECT_EQ(pattern.GetStitchType(1, 1, 4), 23);
 }
 
+TEST_F(PatternStitches, NoStitchSetOnAStitchedSquareOpensARecordWithoutStitches) {
+    pattern.SetStitch(1, 1, StitchWhole, 3, 0);
+    pattern.SetStitch(1, 1, NoStitch, 4, 0);
+    EXPECT_EQ(pattern.Cell(1, 1), (StitchCell{StitchWhole, 3, CellHasDup}));
+    const DupStitch* dup = pattern.DupStitches().Find(KeyedTable<DupStitch>::KeyOf(1, 1));
+    ASSERT_NE(dup, nullptr);
+    EXPECT_THAT(dup->PaletteIndexes(), ElementsAre(4, 255, 255, 255));
+    EXPECT_EQ(dup->GetStitchCount(), 0);
+    EXPECT_EQ(pattern.GetStitchCount(1, 1), 1);
+}
+
 TEST_F(PatternStitches, DupBesideAnEmptyPrimaryIsCountedButNotListed) {
     // Only a damaged file can hold this; it is built by hand here.
     ByteWriter stream;
