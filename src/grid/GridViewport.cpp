@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 #include "model/Rounding.h"
 
@@ -18,13 +19,15 @@ int RoundClamped(double value) {
     return RoundToInt(std::clamp(value, -limit, limit));
 }
 
-/// Snaps an edge to the pixel that it falls into.
+/// Snaps an edge, in whole twips, to the pixel that it falls into.
 int Snapped(double edge, double twipsPerPixel) {
-    const double pixel = RoundHalfEven(twipsPerPixel * 100);
+    const auto twips = static_cast<std::int64_t>(std::clamp(edge, -2e9, 2e9));
+    const auto pixel = static_cast<std::int64_t>(RoundHalfEven(twipsPerPixel * 100));
     if (pixel < 1) {
-        return RoundClamped(edge);
+        return static_cast<int>(twips);
     }
-    return RoundClamped(edge - RoundHalfEven(std::fmod(RoundHalfEven(edge * 100), pixel) / 100));
+    const auto beyond = static_cast<double>(twips * 100 % pixel) / 100;
+    return static_cast<int>(twips - static_cast<std::int64_t>(RoundHalfEven(beyond)));
 }
 
 int ToSquare(double twips, int squareTwips) {

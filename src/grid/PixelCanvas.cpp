@@ -17,29 +17,33 @@ class Capsule {
 public:
     Capsule(QPointF start, QPointF end, double radius)
         : m_start(start),
-          m_along(end - start),
-          m_radius(radius) {
-        const double square = m_along.x() * m_along.x() + m_along.y() * m_along.y();
-        m_inverse = square > 0 ? 1 / square : 0;
+          m_end(end),
+          m_radius(radius),
+          m_length(QLineF(start, end).length()) {
+        if (m_length > 0) {
+            m_direction = (end - start) / m_length;
+        }
         const double inner = std::max(0.0, radius - 0.5);
         m_innerSquare = inner * inner;
         m_outerSquare = (radius + 0.5) * (radius + 0.5);
-        const double run = std::abs(m_along.y());
-        m_rowReach = run > 1e-9 ? (radius + 0.5) * std::sqrt(square) / run : 1e9;
-        m_slope = run > 1e-9 ? m_along.x() / m_along.y() : 0;
+        m_slanted = std::abs(m_direction.y()) > 1e-9;
+        if (m_slanted) {
+            m_slope = m_direction.x() / m_direction.y();
+            m_rowReach = (radius + 0.5) / std::abs(m_direction.y());
+        }
     }
 
     [[nodiscard]] int Top() const {
-        return FirstPixel(std::min(0.0, m_along.y()) + m_start.y() - m_radius - 0.5);
+        return FirstPixel(std::min(m_start.y(), m_end.y()) - m_radius - 0.5);
     }
     [[nodiscard]] int Bottom() const {
-        return LastPixel(std::max(0.0, m_along.y()) + m_start.y() + m_radius + 0.5);
+        return LastPixel(std::max(m_start.y(), m_end.y()) + m_radius + 0.5);
     }
     /// The pixels of a row that may be covered.
     [[nodiscard]] std::pair<int, int> Row(int row) const {
-        double from = std::min(0.0, m_along.x()) + m_start.x() - m_radius - 0.5;
-        double to = std::max(0.0, m_along.x()) + m_start.x() + m_radius + 0.5;
-        if (m_rowReach < 1e9) {
+        double from = std::min(m_start.x(), m_end.x()) - m_radius - 0.5;
+        double to = std::max(m_start.x(), m_end.x()) + m_radius + 0.5;
+        if (m_slanted) {
             const double middle = m_start.x() + (row + 0.5 - m_start.y()) * m_slope;
             from = std::max(from, middle - m_rowReach);
             to = std::min(to, middle + m_rowReach);
@@ -51,18 +55,17 @@ public:
     [[nodiscard]] unsigned Cover(int x, int y) const {
         const double dx = x + 0.5 - m_start.x();
         const double dy = y + 0.5 - m_start.y();
-        const double along =
-            std::clamp((dx * m_along.x() + dy * m_along.y()) * m_inverse, 0.0, 1.0);
-        const double ex = dx - along * m_along.x();
-        const double ey = dy - along * m_along.y();
-        const double square = ex * ex + ey * ey;
+        const double along = dx * m_direction.x() + dy * m_direction.y();
+        const double across = dx * m_direction.y() - dy * m_direction.x();
+        if (along >= 0 && along <= m_length) {
+            return Share(m_radius + 0.5 - std::abs(across));
+        }
+        const double beyond = along < 0 ? along : along - m_length;
+        const double square = m_length > 0 ? beyond * beyond + across * across : dx * dx + dy * dy;
         if (square <= m_innerSquare) {
             return 255;
         }
-        if (square >= m_outerSquare) {
-            return 0;
-        }
-        return static_cast<unsigned>((m_radius + 0.5 - std::sqrt(square)) * 255 + 0.5);
+        return square >= m_outerSquare ? 0 : Share(m_radius + 0.5 - std::sqrt(square));
     }
 
 private:
@@ -74,14 +77,20 @@ private:
         return static_cast<int>(std::floor(edge - 0.5));
     }
 
+    [[nodiscard]] static unsigned Share(double cover) {
+        return static_cast<unsigned>(std::clamp(cover, 0.0, 1.0) * 255 + 0.5);
+    }
+
     QPointF m_start;
-    QPointF m_along;
+    QPointF m_end;
     double m_radius;
-    double m_inverse;
+    double m_length;
+    QPointF m_direction; ///< of length 1; (0, 0) for a point
     double m_innerSquare;
     double m_outerSquare;
-    double m_rowReach;
-    double m_slope;
+    bool m_slanted;
+    double m_rowReach = 0;
+    double m_slope = 0;
 };
 
 /// Without antialiasing a pixel is covered or not.

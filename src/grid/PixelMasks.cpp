@@ -24,6 +24,25 @@ std::uint64_t KeyOf(unsigned sort, int variant, int symbol, int width, int heigh
            static_cast<std::uint64_t>(height & 0xFFFF);
 }
 
+const QRgb* LineOf(const QImage& image, int y) {
+    return reinterpret_cast<const QRgb*>(image.constScanLine(y));
+}
+
+/// The smallest rectangle that holds everything not transparent; no masks of blank pixels are
+/// walked for symbols and part stitches, which leave much of their square bare.
+QRect InkedPart(const QImage& image) {
+    QRect inked;
+    for (int y = 0; y < image.height(); ++y) {
+        const QRgb* line = LineOf(image, y);
+        for (int x = 0; x < image.width(); ++x) {
+            if (qAlpha(line[x]) != 0) {
+                inked |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return inked;
+}
+
 } // namespace
 
 void BlendMask(const PixelBuffer& target, int x, int y, const PixelMask& mask, QRgb colour) {
@@ -64,11 +83,13 @@ const PixelMask& MaskStore::Make(std::uint64_t key, const QRect& area, const Pai
         painter.translate(-area.topLeft());
         paint(painter);
     }
-    PixelMask mask{area.left(), area.top(), area.width(), area.height(), {}};
+    const QRect inked = InkedPart(image);
+    PixelMask mask{
+        area.left() + inked.left(), area.top() + inked.top(), inked.width(), inked.height(), {}};
     mask.Cover.reserve(static_cast<std::size_t>(mask.Width) *
                        static_cast<std::size_t>(mask.Height));
-    for (int y = 0; y < mask.Height; ++y) {
-        const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+    for (int y = inked.top(); y <= inked.bottom(); ++y) {
+        const QRgb* line = LineOf(image, y) + inked.left();
         std::transform(line, line + mask.Width, std::back_inserter(mask.Cover),
                        [](QRgb pixel) { return static_cast<std::uint8_t>(qAlpha(pixel)); });
     }

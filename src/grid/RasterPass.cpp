@@ -164,9 +164,14 @@ void RasterPass::PaintLineAbove(int row) {
     if (width == 0 || top + width <= m_area.top() || top > m_area.bottom()) {
         return;
     }
-    // Bold columns lie over every row's line.
     const Colour colour = RowLineColour(m_view.Options, row, m_y->IsBold(row));
-    CopyTemplate(TemplateRow(ToRgb(colour), false), top, top + width - 1);
+    auto known = std::find_if(m_lineRows.begin(), m_lineRows.end(),
+                              [colour](const auto& entry) { return entry.first == colour; });
+    if (known == m_lineRows.end()) {
+        // Bold columns lie over every row's line.
+        known = m_lineRows.insert(known, {colour, TemplateRow(ToRgb(colour), false)});
+    }
+    CopyTemplate(known->second, top, top + width - 1);
 }
 
 void RasterPass::PaintSolidSquares(const Stretch& row) {
@@ -308,8 +313,8 @@ void RasterPass::PaintKnot(const PlacedKnot& placed) {
     if (ink.Symbol && symbol != 0 && placed.Knot.Orientation == KnotNormal && !inner.IsEmpty()) {
         const PixelMask& mask =
             m_tiles.Masks().Symbol(symbol, StitchFKnot, inner.Width(), inner.Height());
-        BlendMask(target, x + inner.Left - box.Left, y + inner.Top - box.Top, mask,
-                  ToRgb(*ink.Symbol));
+        BlendMask(target, x + inner.Left - box.Left + mask.Left, y + inner.Top - box.Top + mask.Top,
+                  mask, ToRgb(*ink.Symbol));
     }
 }
 

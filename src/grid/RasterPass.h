@@ -8,6 +8,7 @@
 #include <QRect>
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "grid/GridLines.h"
@@ -85,10 +86,11 @@ private:
     Axis m_columns;
     Axis m_rows;
     std::vector<TileCache::Size*> m_sizes;
-    std::vector<TileCopier> m_copiers; ///< by the column's size
-    std::vector<QRgb> m_groundRow;     ///< ground and upright lines
-    std::vector<QRgb> m_line;          ///< a scan line in the making
-    std::vector<SquarePos> m_mixed;    ///< squares with more than one stitch
+    std::vector<TileCopier> m_copiers;                            ///< by the column's size
+    std::vector<QRgb> m_groundRow;                                ///< ground and upright lines
+    std::vector<std::pair<Colour, std::vector<QRgb>>> m_lineRows; ///< rows' own lines, by colour
+    std::vector<QRgb> m_line;                                     ///< a scan line in the making
+    std::vector<SquarePos> m_mixed; ///< squares with more than one stitch
     std::vector<SquarePos> m_knotted;
     std::vector<std::pair<const Stretch*, const StitchCell*>> m_parts;
     std::vector<QRgb> m_scratch;

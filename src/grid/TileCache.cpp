@@ -132,7 +132,7 @@ void TileCache::AddLayer(const PixelBuffer& target, Size& size, const StitchLaye
         if (known == nullptr) {
             known = &find();
         }
-        BlendMask(target, 0, 0, *known, ink);
+        BlendMask(target, known->Left, known->Top, *known, ink);
     };
     switch (layer.What) {
     case StitchLayer::Paint::Fill:
@@ -173,13 +173,14 @@ void TileCache::AddImage(const PixelBuffer& target, Size& size, std::uint8_t kin
     if (region == nullptr) {
         region = &m_masks.ImageRegion(kind, size.m_width, size.m_height);
     }
-    const QRgb* from = Tile(size, kind, floss);
-    const std::uint8_t* cover = region->Cover.data();
-    for (int y = 0; y < target.Height; ++y) {
-        QRgb* to = target.Row(y);
-        for (int x = 0; x < target.Width; ++x, ++from, ++cover) {
-            if (*cover != 0) {
-                to[x] = *from;
+    const QRgb* from = Tile(size, kind, floss) +
+                       static_cast<std::ptrdiff_t>(region->Top) * target.Width + region->Left;
+    for (int y = 0; y < region->Height; ++y, from += target.Width) {
+        const std::uint8_t* cover = region->Row(y);
+        QRgb* to = target.Row(region->Top + y) + region->Left;
+        for (int x = 0; x < region->Width; ++x) {
+            if (cover[x] != 0) {
+                to[x] = from[x];
             }
         }
     }
