@@ -51,7 +51,9 @@ FlatLine Flattened(QPoint start, QPoint end) {
     if (start.x() > end.x()) {
         std::swap(start, end);
     }
-    const double length = std::hypot(end.x() - start.x(), end.y() - start.y());
+    const double run = end.x() - start.x();
+    const double rise = end.y() - start.y();
+    const double length = std::sqrt(run * run + rise * rise);
     return {start, TruncToInt(start.x() + length), Rotation(start, AngleOf(start, end))};
 }
 

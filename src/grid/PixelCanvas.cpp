@@ -19,14 +19,14 @@ public:
         : m_start(start),
           m_end(end),
           m_radius(radius),
-          m_length(QLineF(start, end).length()) {
+          m_length(LengthOf(end - start)) {
         if (m_length > 0) {
             m_direction = (end - start) / m_length;
         }
         const double inner = std::max(0.0, radius - 0.5);
         m_innerSquare = inner * inner;
         m_outerSquare = (radius + 0.5) * (radius + 0.5);
-        m_slanted = std::abs(m_direction.y()) > 1e-9;
+        m_slanted = std::abs(m_direction.y()) > 1e-6;
         if (m_slanted) {
             m_slope = m_direction.x() / m_direction.y();
             m_rowReach = (radius + 0.5) / std::abs(m_direction.y());
@@ -70,11 +70,14 @@ public:
 
 private:
     /// The first and last pixel whose middle lies on the inner side of an edge.
-    [[nodiscard]] static int FirstPixel(double edge) {
-        return static_cast<int>(std::ceil(edge - 0.5));
-    }
+    [[nodiscard]] static int FirstPixel(double edge) { return -LastPixel(-edge) - 1; }
     [[nodiscard]] static int LastPixel(double edge) {
-        return static_cast<int>(std::floor(edge - 0.5));
+        const double place = edge - 0.5;
+        const int cut = static_cast<int>(place);
+        return place < cut ? cut - 1 : cut;
+    }
+    static double LengthOf(QPointF span) {
+        return std::sqrt(span.x() * span.x() + span.y() * span.y());
     }
 
     [[nodiscard]] static unsigned Share(double cover) {

@@ -39,9 +39,7 @@ RasterPass::RasterPass(QImage& image, QPoint position, const GridView& view, con
       m_tiles(tiles),
       m_buffer{reinterpret_cast<QRgb*>(image.bits()),
                image.bytesPerLine() / static_cast<std::ptrdiff_t>(sizeof(QRgb)), image.width(),
-               image.height()},
-      m_cells(view.Source->Cells().data()),
-      m_height(view.Source->GetPatternHeight()) {}
+               image.height()} {}
 
 RasterGrid::Painted RasterPass::Run() {
     FindArea();
@@ -55,11 +53,15 @@ RasterGrid::Painted RasterPass::Run() {
     for (int number = m_rect.Top; number <= m_rect.Bottom + 1; ++number) {
         PaintLineAbove(number);
         if (next < m_rows.Shown.size() && m_rows.Shown[next].Number == number) {
+            if (next % BandRows == 0) {
+                GatherCells(next);
+            }
+            const StitchCell* cells = m_band.data() + next % BandRows * m_columns.Shown.size();
             const Stretch& row = m_rows.Shown[next++];
             if (m_view.Options.StitchStyle == ShowColorSquares) {
-                PaintSolidSquares(row);
+                PaintSolidSquares(row, cells);
             } else {
-                PaintTiles(row);
+                PaintTiles(row, cells);
             }
         }
     }
@@ -174,26 +176,42 @@ void RasterPass::PaintLineAbove(int row) {
     CopyTemplate(known->second, top, top + width - 1);
 }
 
-void RasterPass::PaintSolidSquares(const Stretch& row) {
+void RasterPass::GatherCells(std::size_t firstRow) {
+    const std::size_t columns = m_columns.Shown.size();
+    const std::size_t rows = std::min(BandRows, m_rows.Shown.size() - firstRow);
+    m_band.resize(BandRows * columns);
+    for (std::size_t i = 0; i < columns; ++i) {
+        for (std::size_t j = 0; j < rows; ++j) {
+            m_band[j * columns + i] =
+                m_view.Source->Cell(m_columns.Shown[i].Number, m_rows.Shown[firstRow + j].Number);
+        }
+    }
+}
+
+void RasterPass::NoteFlags(const Stretch& column, const Stretch& row, const StitchCell& cell) {
+    if ((cell.CellFlags & CellHasKnot) != 0) {
+        m_knotted.push_back({column.Number, row.Number});
+    }
+    if ((cell.CellFlags & CellHasDup) != 0) {
+        m_mixed.push_back({column.Number, row.Number});
+    }
+}
+
+void RasterPass::PaintSolidSquares(const Stretch& row, const StitchCell* cells) {
     m_line = m_groundRow;
     m_parts.clear();
     QRgb* line = m_line.data() - m_area.left();
-    const StitchCell* cells = RowOfCells(row.Number);
+    const QRgb* flosses = m_tiles.Flosses();
     for (const Stretch& column : m_columns.Shown) {
-        const StitchCell& cell = CellOf(cells, column.Number);
+        const StitchCell& cell = *cells++;
         if (cell.StitchType == StitchWhole && !column.Cut) {
             FillSpan(line + column.First, column.Last - column.First + 1,
-                     m_tiles.FlossOf(cell.PaletteIndex));
+                     flosses[cell.PaletteIndex]);
         } else if (cell.StitchType != NoStitch) {
             m_parts.emplace_back(&column, &cell);
         }
         if (cell.CellFlags != 0) {
-            if ((cell.CellFlags & CellHasKnot) != 0) {
-                m_knotted.push_back({column.Number, row.Number});
-            }
-            if ((cell.CellFlags & CellHasDup) != 0) {
-                m_mixed.push_back({column.Number, row.Number});
-            }
+            NoteFlags(column, row, cell);
         }
     }
     CopyTemplate(m_line, row.First, row.Last);
@@ -204,21 +222,14 @@ void RasterPass::PaintSolidSquares(const Stretch& row) {
     }
 }
 
-void RasterPass::PaintTiles(const Stretch& row) {
+void RasterPass::PaintTiles(const Stretch& row, const StitchCell* cells) {
     CopyTemplate(m_groundRow, row.First, row.Last);
-    const StitchCell* cells = RowOfCells(row.Number);
     for (const Stretch& column : m_columns.Shown) {
-        const StitchCell& cell = CellOf(cells, column.Number);
+        const StitchCell& cell = *cells++;
         if (cell.CellFlags != 0) {
-            if ((cell.CellFlags & CellHasKnot) != 0) {
-                m_knotted.push_back({column.Number, row.Number});
-            }
-            if ((cell.CellFlags & CellHasDup) != 0) {
-                m_mixed.push_back({column.Number, row.Number});
-                continue;
-            }
+            NoteFlags(column, row, cell);
         }
-        if (cell.StitchType != NoStitch) {
+        if (cell.StitchType != NoStitch && (cell.CellFlags & CellHasDup) == 0) {
             PaintTile(column, row, cell);
         }
     }
@@ -263,7 +274,7 @@ void RasterPass::PaintMixedSquares() {
 }
 
 void RasterPass::PaintMixedSquare(const Stretch& column, const Stretch& row, const DupStitch* dup) {
-    const StitchCell& cell = CellOf(RowOfCells(row.Number), column.Number);
+    const StitchCell& cell = m_view.Source->Cell(column.Number, row.Number);
     if ((cell.CellFlags & CellHasDup) == 0 || cell.StitchType == NoStitch) {
         return;
     }

@@ -48,13 +48,19 @@ private:
         [[nodiscard]] const Stretch* At(int number, int from) const;
     };
 
+    /// Rows whose cells are gathered at a time. The pattern keeps its cells column by column, so
+    /// reading them row by row would wait for memory at each.
+    static constexpr std::size_t BandRows = 16;
+
     void FindArea();
     void FindTiles();
     [[nodiscard]] std::vector<QRgb> TemplateRow(QRgb ground, bool normalColumns) const;
     void CopyTemplate(const std::vector<QRgb>& row, int fromPixel, int toPixel);
     void PaintLineAbove(int row);
-    void PaintSolidSquares(const Stretch& row);
-    void PaintTiles(const Stretch& row);
+    void GatherCells(std::size_t firstRow);
+    void PaintSolidSquares(const Stretch& row, const StitchCell* cells);
+    void PaintTiles(const Stretch& row, const StitchCell* cells);
+    void NoteFlags(const Stretch& column, const Stretch& row, const StitchCell& cell);
     void PaintTile(const Stretch& column, const Stretch& row, const StitchCell& cell);
     void CopyTile(const Stretch& column, const Stretch& row, const QRgb* tile);
     void PaintMixedSquares();
@@ -63,12 +69,6 @@ private:
     void PaintKnot(const PlacedKnot& placed);
 
     [[nodiscard]] QRgb* Pixel(int x, int y) { return m_buffer.Row(y) + x; }
-    [[nodiscard]] const StitchCell* RowOfCells(int row) const {
-        return m_cells + (static_cast<std::ptrdiff_t>(row) - 1);
-    }
-    [[nodiscard]] const StitchCell& CellOf(const StitchCell* rowOfCells, int column) const {
-        return rowOfCells[(static_cast<std::ptrdiff_t>(column) - 1) * m_height];
-    }
     [[nodiscard]] TileCache::Size& SizeOf(const Stretch& column, const Stretch& row) {
         return *m_sizes[row.Size * m_columns.Sizes.size() + column.Size];
     }
@@ -78,16 +78,15 @@ private:
     SquareRect m_rect;
     TileCache& m_tiles;
     PixelBuffer m_buffer;
-    const StitchCell* m_cells;
-    std::ptrdiff_t m_height;
     std::optional<SquareSpans> m_x;
     std::optional<SquareSpans> m_y;
     QRect m_area; ///< what is painted, in the image's pixels
     Axis m_columns;
     Axis m_rows;
     std::vector<TileCache::Size*> m_sizes;
-    std::vector<TileCopier> m_copiers;                            ///< by the column's size
-    std::vector<QRgb> m_groundRow;                                ///< ground and upright lines
+    std::vector<StitchCell> m_band;    ///< cells of some rows, row by row as they are painted
+    std::vector<TileCopier> m_copiers; ///< by the column's size
+    std::vector<QRgb> m_groundRow;     ///< ground and upright lines
     std::vector<std::pair<Colour, std::vector<QRgb>>> m_lineRows; ///< rows' own lines, by colour
     std::vector<QRgb> m_line;                                     ///< a scan line in the making
     std::vector<SquarePos> m_mixed; ///< squares with more than one stitch

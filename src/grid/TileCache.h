@@ -64,7 +64,8 @@ public:
     void Compose(const PixelBuffer& target, Size& size, const SquareContent& content);
 
     [[nodiscard]] QRgb GroundOf() const { return m_ground; }
-    [[nodiscard]] QRgb FlossOf(std::uint8_t floss) const { return m_flosses[floss]; }
+    /// The colours of all 256 floss numbers.
+    [[nodiscard]] const QRgb* Flosses() const { return m_flosses.data(); }
     [[nodiscard]] Colour ColourOf(std::uint8_t floss) const { return m_looks[floss].Floss; }
     [[nodiscard]] int SymbolOf(std::uint8_t floss) const { return m_looks[floss].Symbol; }
     [[nodiscard]] MaskStore& Masks() { return m_masks; }
