@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 // Writing the chart of a full design as a PDF, against drawing the same glyphs, one glyph run
-// each, on the same pages of a QPdfWriter. Both are measured in turn, so that both see the same
-// machine; the ratio of the medians is "glyphs_only".
+// each, on the same pages of a QPdfWriter.
 
 #include <benchmark/benchmark.h>
 
@@ -13,11 +12,10 @@
 #include <QRawFont>
 #include <QTemporaryDir>
 
-#include <algorithm>
 #include <array>
-#include <ctime>
-#include <vector>
+#include <string>
 
+#include "Ratio.h"
 #include "grid/SymbolText.h"
 #include "print/ChartPdf.h"
 #include "print/PageDevice.h"
@@ -52,26 +50,6 @@ zol::Pattern& Design() {
         return &pattern;
     }();
     return *design;
-}
-
-/// Time of this thread alone: others that keep the machine busy shall not count.
-double Now() {
-    timespec now{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
-}
-
-template<typename Work>
-double Seconds(Work work) {
-    const double begin = Now();
-    work();
-    return Now() - begin;
-}
-
-double Median(std::vector<double> times) {
-    std::nth_element(times.begin(), times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2),
-                     times.end());
-    return times[times.size() / 2];
 }
 
 /// One glyph run for each symbol of the design, at the size of a square.
@@ -126,35 +104,29 @@ void ChartOfAFullDesign(benchmark::State& state) {
     const QString glyphs = folder.filePath(QStringLiteral("glyphs.pdf"));
     zol::ChartPdfOptions options;
     options.Print.StitchSymbol = static_cast<int>(state.range(0));
-    std::vector<double> charts;
-    std::vector<double> floors;
-    for ([[maybe_unused]] auto _ : state) {
-        floors.push_back(Seconds([&] { DrawGlyphsOnly(glyphs); }));
-        charts.push_back(Seconds([&] {
-            const zol::ChartPdfResult result = zol::WriteChartPdf(
-                Design(), options, std::filesystem::path(chart.toStdString()), nullptr);
-            if (!result.IsWhole()) {
-                state.SkipWithError(result.ErrorText.c_str());
-            }
-        }));
-        state.SetIterationTime(charts.back());
-    }
-    state.counters["glyphs_only"] = Median(charts) / Median(floors);
+    zol::Ratio(state, 2).Measure([&] { DrawGlyphsOnly(glyphs); },
+                                 [&] {
+                                     const zol::ChartPdfResult result = zol::WriteChartPdf(
+                                         Design(), options,
+                                         std::filesystem::path(chart.toStdString()), nullptr);
+                                     if (!result.IsWhole()) {
+                                         state.SkipWithError(result.ErrorText.c_str());
+                                     }
+                                 });
 }
 
 BENCHMARK(ChartOfAFullDesign)
-    ->Name("chart of a full 300 x 300 design, print style")
+    ->ArgName("print style")
     ->Arg(zol::PrintBlackSymbols)
     ->Arg(zol::PrintColorSymbols)
     ->Arg(zol::PrintBlocksAndSymbols)
     ->Arg(zol::PrintColorBlocks)
-    ->UseManualTime()
-    ->Iterations(5)
-    ->Unit(benchmark::kMillisecond);
+    ->Apply(zol::AsRatio);
 
 } // namespace
 
 int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
