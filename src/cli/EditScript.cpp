@@ -100,6 +100,12 @@ std::string EditScript::Arguments::Text() {
     return *text;
 }
 
+void EditScript::Arguments::ExpectEnd() const {
+    if (!IsEmpty()) {
+        throw CommandFailed("there is an argument too many");
+    }
+}
+
 void EditScript::RunLine(std::string_view line) {
     SkipBlanks(line);
     if (line.empty() || line.front() == '#') {

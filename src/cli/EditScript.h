@@ -39,6 +39,8 @@ public:
         [[nodiscard]] std::int16_t Short();
         /// A floss number or kind that a byte holds.
         [[nodiscard]] int Byte();
+        /// Throws CommandFailed if a word is left.
+        void ExpectEnd() const;
         [[nodiscard]] bool IsEmpty() const { return m_next == m_words.size(); }
 
     private:

@@ -78,6 +78,7 @@ Environment::Environment(const GlobalOptions& global)
         m_context.AppPath = global.AppPath;
     }
     m_options = basOptions::LoadOptions(*m_store, m_context);
+    LoadStartupPalette(m_context);
     // A batch run leaves colours as the file has them.
     m_context.RecolorPatterns = false;
 }

@@ -80,7 +80,7 @@ int RunCommand(int argc, char** argv) {
         PrintHelp(std::cout);
         return 0;
     }
-    if (!words.empty() && words[0] == "--version") {
+    if (std::find(words.begin(), words.end(), "--version") != words.end()) {
         std::cout << "korvanta-cli " KORVANTA_VERSION "\n";
         return 0;
     }
