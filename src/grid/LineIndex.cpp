@@ -81,7 +81,7 @@ void LineIndex::Insert(const BackStitchLine& line, int index) {
         const int top = BlockOf(static_cast<int>(std::floor(std::min(ya, yb))) - 2, m_blocksDown);
         const int bottom = BlockOf(static_cast<int>(std::ceil(std::max(ya, yb))) + 2, m_blocksDown);
         for (int row = top; row <= bottom; ++row) {
-            m_blocks[static_cast<std::size_t>(row * m_blocksAcross + block)].push_back(index);
+            m_blocks[PlaceOf(block, row)].push_back(index);
         }
     }
 }
@@ -95,8 +95,7 @@ std::vector<int> LineIndex::FindInBlocks(const SquareRect& rect) {
     const int bottom = BlockOf(rect.Bottom + 2, m_blocksDown);
     for (int row = top; row <= bottom; ++row) {
         for (int column = left; column <= right; ++column) {
-            for (const int index :
-                 m_blocks[static_cast<std::size_t>(row * m_blocksAcross + column)]) {
+            for (const int index : m_blocks[PlaceOf(column, row)]) {
                 std::uint32_t& seen = m_seen[static_cast<std::size_t>(index)];
                 if (seen != m_search) {
                     seen = m_search;

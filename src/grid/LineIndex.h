@@ -29,6 +29,10 @@ private:
     void Insert(const BackStitchLine& line, int index);
     [[nodiscard]] std::vector<int> FindInBlocks(const SquareRect& rect);
     [[nodiscard]] int BlockOf(int square, int blocks) const;
+    [[nodiscard]] std::size_t PlaceOf(int column, int row) const {
+        return static_cast<std::size_t>(row) * static_cast<std::size_t>(m_blocksAcross) +
+               static_cast<std::size_t>(column);
+    }
 
     std::vector<BackStitchLine> m_lines; ///< as they stand in the blocks
     int m_width = 0;

@@ -74,6 +74,11 @@ std::pair<double, double> VisibleStretch(const FlatLine& line, const QRect& visi
     return {line.start.x() + along - reach, line.start.x() + along + reach};
 }
 
+/// Whole steps in a stretch, -1 and less before its beginning.
+int FlooredSteps(double stretch, int step) {
+    return static_cast<int>(std::floor(stretch / step));
+}
+
 struct MarkMeasure {
     int step;
     double offset; ///< of the piece in its step
@@ -143,17 +148,20 @@ std::vector<QLine> Marks(Mark mark, QPoint start, QPoint end, double squareWidth
     const FlatLine line = Flattened(start, end);
     const MarkMeasure measure = MeasureOf(mark, squareWidth, squareHeight);
     const auto [from, to] = VisibleStretch(line, visible, measure.step + measure.half);
-    const double skipped = std::floor((from - line.start.x()) / measure.step);
-    double x = line.start.x() + std::max(0.0, skipped) * measure.step + measure.offset;
+    const double begin = line.start.x() + measure.offset;
+    const double limit = std::min<double>(line.endX, to);
+    const int first = std::max(0, FlooredSteps(from - line.start.x(), measure.step));
+    const int last = FlooredSteps(limit - begin, measure.step);
     const int y = line.start.y();
     std::vector<QLine> pieces;
-    for (; x <= std::min<double>(line.endX, to); x += measure.step) {
+    for (int k = first; k <= last; ++k) {
+        const double x = begin + static_cast<double>(k) * measure.step;
         if (measure.half > 0 || measure.length == 0) {
             pieces.emplace_back(line.turn.Map(x, y - measure.half),
                                 line.turn.Map(x, y + measure.half));
         } else {
-            const double last = std::min(x + measure.length, static_cast<double>(line.endX));
-            pieces.emplace_back(line.turn.Map(x, y), line.turn.Map(last, y));
+            const double stop = std::min(x + measure.length, static_cast<double>(line.endX));
+            pieces.emplace_back(line.turn.Map(x, y), line.turn.Map(stop, y));
         }
     }
     return pieces;

@@ -81,7 +81,8 @@ private:
     }
 
     [[nodiscard]] static unsigned Share(double cover) {
-        return static_cast<unsigned>(std::clamp(cover, 0.0, 1.0) * 255 + 0.5);
+        constexpr double half = 0.5; // rounds what is never negative
+        return static_cast<unsigned>(std::clamp(cover, 0.0, 1.0) * 255 + half);
     }
 
     QPointF m_start;

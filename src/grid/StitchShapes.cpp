@@ -111,13 +111,16 @@ constexpr double HalfStitchBand = 40;
 } // namespace
 
 QPolygonF Polygon(int kind, const PixelRect& square) {
-    const int width = square.Width();
-    const int height = square.Height();
-    return Shape(kind, {static_cast<double>(square.Left), static_cast<double>(square.Top),
-                        static_cast<double>(square.Right), static_cast<double>(square.Bottom),
-                        static_cast<double>(square.Left + width / 2),
-                        static_cast<double>(square.Top + height / 2),
-                        static_cast<double>(width / 6), static_cast<double>(height / 6)});
+    // The middle and a sixth of the square are whole pixels.
+    const int halfWidth = square.Width() / 2;
+    const int halfHeight = square.Height() / 2;
+    const int dx = square.Width() / 6;
+    const int dy = square.Height() / 6;
+    const QPointF first(square.Left, square.Top);
+    const QPointF last(square.Right, square.Bottom);
+    const QPointF middle = first + QPointF(halfWidth, halfHeight);
+    return Shape(kind, {first.x(), first.y(), last.x(), last.y(), middle.x(), middle.y(),
+                        static_cast<double>(dx), static_cast<double>(dy)});
 }
 
 QPolygonF Area(int kind, const PixelRect& square) {
