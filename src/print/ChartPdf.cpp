@@ -35,6 +35,9 @@ void SetUpPages(QPdfWriter& writer, const Pattern& pattern, const ChartPdfOption
 
 /// Lays the job out and checks what was asked for; an empty text if it may run.
 std::string PrepareJob(PrintFuncs& functions, const ChartPdfOptions& options) {
+    if (!(options.Print.GSPI > 0)) {
+        return CheckPrintRequest({0, 1, 1, 1}).Text;
+    }
     if (options.FitPage) {
         functions.FitToPage();
     }

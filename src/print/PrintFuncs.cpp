@@ -59,7 +59,9 @@ void PrintFuncs::SetSelection(Pattern& selection, SquarePos corner) {
 }
 
 int PrintFuncs::SquareWidth() const {
-    return RoundToInt(Twips / m_options.GSPI);
+    // Neither no squares to the inch nor a square larger than any paper can be laid out.
+    constexpr double Least = 1e-3;
+    return m_options.GSPI >= Least ? RoundToInt(Twips / m_options.GSPI) : 0;
 }
 
 int PrintFuncs::SquareHeight() const {

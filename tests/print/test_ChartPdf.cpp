@@ -300,6 +300,18 @@ TEST_F(ChartPdfTest, PageRangeBeyondTheJobIsRefusedAndWritesNothing) {
     EXPECT_FALSE(std::filesystem::exists(path));
 }
 
+TEST_F(ChartPdfTest, NoSquaresToTheInchAreRefused) {
+    const auto pattern = scene.MakePattern(20, 20);
+    ChartPdfOptions options;
+    options.Print.GSPI = 0;
+    EXPECT_EQ(WriteChartPdf(*pattern, options, scene.Path("a.pdf"), nullptr).ErrorText,
+              "Stitches per inch can not be 0.  Please enter a valid entry here.");
+    options.Print.GSPI = 1e-12;
+    EXPECT_EQ(WriteChartPdf(*pattern, options, scene.Path("a.pdf"), nullptr).ErrorText,
+              "A page with these margins holds no whole square.");
+    EXPECT_FALSE(std::filesystem::exists(scene.Path("a.pdf")));
+}
+
 TEST_F(ChartPdfTest, FailureLeavesTheOldFileAndNothingElse) {
     const auto pattern = scene.MakePattern(20, 20);
     const TempFolder folder;
