@@ -54,8 +54,10 @@ void GridNumbers::PrintCentreMarks(int patternWidth, int patternHeight) const {
     const double width = m_font.TextWidth(QStringLiteral("W"));
     const double line = m_canvas->Hairline();
     // Half the mark's width is half a square: the middle of an odd size lies within its square.
-    const double centreX = LineX(patternWidth / 2) + (patternWidth % 2 != 0 ? width / 2 : 0);
-    const double centreY = LineY(patternHeight / 2) + (patternHeight % 2 != 0 ? width / 2 : 0);
+    const int middleColumn = patternWidth / 2;
+    const int middleRow = patternHeight / 2;
+    const double centreX = LineX(middleColumn) + (patternWidth % 2 != 0 ? width / 2 : 0);
+    const double centreY = LineY(middleRow) + (patternHeight % 2 != 0 ? width / 2 : 0);
     const double left = LineX(m_squares.Left - 1);
     const double top = LineY(m_squares.Top - 1);
     if (centreX >= left && centreX <= LineX(m_squares.Right)) {

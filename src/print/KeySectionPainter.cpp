@@ -61,8 +61,9 @@ std::size_t KeySectionPainter::PrintPart(std::size_t first) {
     const std::size_t lines = std::min(fitting, (left + columns - 1) / columns);
     const std::size_t taken = std::min(left, lines * columns);
     for (std::size_t i = 0; i < taken; ++i) {
+        const std::size_t column = i / lines;
         PrintRow(m_section->Rows[first + i],
-                 m_pages->Left() + static_cast<double>(i / lines) * m_pitch,
+                 m_pages->Left() + static_cast<double>(column) * m_pitch,
                  top + static_cast<double>(i % lines) * m_rowHeight);
     }
     const double height = static_cast<double>(lines) * m_rowHeight;

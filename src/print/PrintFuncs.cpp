@@ -109,7 +109,8 @@ double PrintFuncs::FitGSPI() {
     const int rows = std::max(1, m_pattern->GetPatternHeight());
     const bool wide = static_cast<double>(width) / height <= static_cast<double>(columns) / rows;
     const int square = std::max(1, wide ? width / columns : height / rows);
-    return Twips / square + (Twips % square != 0 ? 1 : 0);
+    const int squaresPerInch = Twips / square + (Twips % square != 0 ? 1 : 0);
+    return squaresPerInch;
 }
 
 void PrintFuncs::FitToPage() {
