@@ -63,7 +63,7 @@ private:
 const fs::path& SceneFile() {
     static const Folder folder;
     static const fs::path path = [] {
-        const fs::path file = folder / "scene.pat";
+        fs::path file = folder / "scene.pat";
         if (Scene().Save(file) != 0) {
             throw std::runtime_error("the scene cannot be saved");
         }
@@ -122,7 +122,7 @@ void Load(benchmark::State& state) {
 
 void MeasureSave(benchmark::State& state, Timing timing) {
     Pattern& scene = Scene();
-    const fs::path file = SceneFile();
+    const fs::path& file = SceneFile();
     std::ifstream stream(file, std::ios::binary);
     const std::vector<char> bytes{std::istreambuf_iterator<char>(stream), {}};
     const fs::path copy = file.string() + ".floor";
