@@ -87,7 +87,7 @@ ImagePageDevice::ImagePageDevice(int width, int height, int dotsPerInch)
 }
 
 ImagePageDevice::~ImagePageDevice() {
-    KillDoc();
+    ImagePageDevice::KillDoc();
 }
 
 QPainter* ImagePageDevice::Painter() {

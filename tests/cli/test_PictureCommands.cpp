@@ -43,7 +43,7 @@ protected:
         }
         image.setPixel(0, 0, qRgba(0, 0, 0, 0));
         image.setPixel(7, 3, qRgba(255, 255, 255, 255));
-        const std::string file = cli.File("picture.png");
+        std::string file = cli.File("picture.png");
         EXPECT_TRUE(image.save(QString::fromStdString(file)));
         return file;
     }

@@ -19,8 +19,9 @@ std::vector<double> Blackness(const QImage& cell) {
     std::vector<double> black(SymbolBlot::Room * SymbolBlot::Room, 0.0);
     for (int y = 0; y < cell.height(); ++y) {
         for (int x = 0; x < cell.width(); ++x) {
-            const auto at = static_cast<std::size_t>((y + Border) * SymbolBlot::Room + x + Border);
-            black[at] = 1.0 - qGray(cell.pixel(x, y)) / 255.0;
+            const auto row = static_cast<std::size_t>(y + Border);
+            const auto column = static_cast<std::size_t>(x + Border);
+            black[row * SymbolBlot::Room + column] = 1.0 - qGray(cell.pixel(x, y)) / 255.0;
         }
     }
     return black;
