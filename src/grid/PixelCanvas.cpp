@@ -102,6 +102,27 @@ unsigned Sharpened(unsigned cover, bool antialias) {
     return antialias ? cover : cover >= 128 ? 255 : 0;
 }
 
+/// The mask of a piece from (0, 0), before the shift of its pen.
+PixelMask MaskOf(QPoint span, int width, bool antialias) {
+    const double shift = width % 2 != 0 ? 0.5 : 0.0;
+    const Capsule capsule({shift, shift}, span + QPointF(shift, shift), width / 2.0);
+    PixelMask mask;
+    mask.Left = std::min(0, span.x()) - width / 2 - 1;
+    mask.Top = capsule.Top();
+    mask.Width = std::abs(span.x()) + width + 3;
+    mask.Height = capsule.Bottom() - capsule.Top() + 1;
+    mask.Cover.reserve(static_cast<std::size_t>(mask.Width) *
+                       static_cast<std::size_t>(mask.Height));
+    for (int y = 0; y < mask.Height; ++y) {
+        const auto [from, to] = capsule.Row(mask.Top + y);
+        for (int x = mask.Left; x < mask.Left + mask.Width; ++x) {
+            const unsigned cover = x >= from && x <= to ? capsule.Cover(x, mask.Top + y) : 0;
+            mask.Cover.push_back(static_cast<std::uint8_t>(Sharpened(cover, antialias)));
+        }
+    }
+    return mask;
+}
+
 /// Straight pieces that stand for one Bezier curve of a squiggle.
 int PiecesOf(const std::array<QPointF, 4>& p) {
     constexpr double pixelsEach = 4;
@@ -123,6 +144,12 @@ void AddCurve(std::vector<QPointF>& curve, const std::array<QPointF, 4>& p) {
 } // namespace
 
 void PixelCanvas::Piece(const QLine& line, int width, Colour colour) {
+    if (std::abs(line.dx()) <= ShortReach && std::abs(line.dy()) <= ShortReach) {
+        const PixelMask& mask = ShortPiece({line.dx(), line.dy()}, width);
+        BlendMask(m_target, line.x1() - m_origin.x() + mask.Left,
+                  line.y1() - m_origin.y() + mask.Top, mask, ToRgb(colour));
+        return;
+    }
     const double shift = width % 2 != 0 ? 0.5 : 0.0;
     const QPointF offset = QPointF(shift, shift) - m_origin;
     const Capsule capsule(line.p1() + offset, line.p2() + offset, width / 2.0);
@@ -135,6 +162,27 @@ void PixelCanvas::Piece(const QLine& line, int width, Colour colour) {
             BlendPixel(row[x], rgb, Sharpened(capsule.Cover(x, y), m_antialias));
         }
     }
+}
+
+PixelCanvas::ShortPieces& PixelCanvas::ShortPiecesOf(int width) {
+    for (ShortPieces& pieces : m_short) {
+        if (pieces.Width == width) {
+            return pieces;
+        }
+    }
+    ShortPieces& pieces = m_short.emplace_back();
+    pieces.Width = width;
+    pieces.Masks.resize((2 * ShortReach + 1) * (2 * ShortReach + 1));
+    return pieces;
+}
+
+const PixelMask& PixelCanvas::ShortPiece(QPoint span, int width) {
+    const int place = (span.y() + ShortReach) * (2 * ShortReach + 1) + span.x() + ShortReach;
+    auto& mask = ShortPiecesOf(width).Masks[static_cast<std::size_t>(place)];
+    if (!mask) {
+        mask = std::make_unique<const PixelMask>(MaskOf(span, width, m_antialias));
+    }
+    return *mask;
 }
 
 void PixelCanvas::Wave(const std::vector<QPoint>& points, int width, Colour colour) {

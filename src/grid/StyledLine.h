@@ -6,6 +6,7 @@
 #include <QPoint>
 #include <QRect>
 
+#include <memory>
 #include <vector>
 
 #include "grid/PixelMasks.h"
@@ -66,12 +67,23 @@ public:
     [[nodiscard]] QRect Visible() const override;
 
 private:
+    /// Pieces of up to so many pixels across and down are blended by masks that are made once a
+    /// paint: the marks along a line are all alike.
+    static constexpr int ShortReach = 8;
+    struct ShortPieces {
+        int Width = 0; ///< of the pen
+        std::vector<std::unique_ptr<const PixelMask>> Masks;
+    };
+
     void CoverCurve(const std::vector<QPointF>& curve, int width, Colour colour);
+    [[nodiscard]] const PixelMask& ShortPiece(QPoint span, int width);
+    [[nodiscard]] ShortPieces& ShortPiecesOf(int width);
 
     PixelBuffer m_target;
     QPoint m_origin;
     bool m_antialias;
     PixelMask m_scratch;
+    std::vector<ShortPieces> m_short;
 };
 
 /// Draws one line in its style between two pixels. The pattern of a dash or squiggle starts at the
