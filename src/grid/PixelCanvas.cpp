@@ -102,22 +102,28 @@ unsigned Sharpened(unsigned cover, bool antialias) {
     return antialias ? cover : cover >= 128 ? 255 : 0;
 }
 
-/// The mask of a piece from (0, 0), before the shift of its pen.
+/// The mask of a piece from (0, 0), its pen's shift included.
 PixelMask MaskOf(QPoint span, int width, bool antialias) {
     const double shift = width % 2 != 0 ? 0.5 : 0.0;
     const Capsule capsule({shift, shift}, span + QPointF(shift, shift), width / 2.0);
-    PixelMask mask;
-    mask.Left = std::min(0, span.x()) - width / 2 - 1;
-    mask.Top = capsule.Top();
-    mask.Width = std::abs(span.x()) + width + 3;
-    mask.Height = capsule.Bottom() - capsule.Top() + 1;
+    const auto coverOf = [&](int x, int y) {
+        return static_cast<std::uint8_t>(Sharpened(capsule.Cover(x, y), antialias));
+    };
+    QRect inked;
+    for (int y = capsule.Top(); y <= capsule.Bottom(); ++y) {
+        const auto [from, to] = capsule.Row(y);
+        for (int x = from; x <= to; ++x) {
+            if (coverOf(x, y) != 0) {
+                inked |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    PixelMask mask{inked.left(), inked.top(), inked.width(), inked.height(), {}};
     mask.Cover.reserve(static_cast<std::size_t>(mask.Width) *
                        static_cast<std::size_t>(mask.Height));
-    for (int y = 0; y < mask.Height; ++y) {
-        const auto [from, to] = capsule.Row(mask.Top + y);
-        for (int x = mask.Left; x < mask.Left + mask.Width; ++x) {
-            const unsigned cover = x >= from && x <= to ? capsule.Cover(x, mask.Top + y) : 0;
-            mask.Cover.push_back(static_cast<std::uint8_t>(Sharpened(cover, antialias)));
+    for (int y = inked.top(); y <= inked.bottom(); ++y) {
+        for (int x = inked.left(); x <= inked.right(); ++x) {
+            mask.Cover.push_back(coverOf(x, y));
         }
     }
     return mask;

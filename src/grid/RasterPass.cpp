@@ -4,6 +4,7 @@
 #include "grid/RasterPass.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <utility>
 
@@ -29,6 +30,9 @@ std::pair<int, int> ShownOf(int first, int last, int fromPixel, int toPixel, dou
 /// Look-ups of a square's record that cost as much as walking one record of the table.
 constexpr std::size_t RecordsPerLookUp = 16;
 
+/// Columns whose cells are asked for before they are needed.
+constexpr std::size_t ColumnsAhead = 12;
+
 } // namespace
 
 RasterPass::RasterPass(QImage& image, QPoint position, const GridView& view, const SquareRect& rect,
@@ -48,21 +52,15 @@ RasterGrid::Painted RasterPass::Run() {
     }
     FindTiles();
     m_groundRow = TemplateRow(m_tiles.GroundOf(), true);
+    if (m_view.Options.StitchStyle == ShowColorSquares) {
+        PrepareSolidLine();
+    }
     // Squares lie behind their lines, so lines may be painted row by row with them.
     std::size_t next = 0;
     for (int number = m_rect.Top; number <= m_rect.Bottom + 1; ++number) {
         PaintLineAbove(number);
         if (next < m_rows.Shown.size() && m_rows.Shown[next].Number == number) {
-            if (next % BandRows == 0) {
-                GatherCells(next);
-            }
-            const StitchCell* cells = m_band.data() + next % BandRows * m_columns.Shown.size();
-            const Stretch& row = m_rows.Shown[next++];
-            if (m_view.Options.StitchStyle == ShowColorSquares) {
-                PaintSolidSquares(row, cells);
-            } else {
-                PaintTiles(row, cells);
-            }
+            PaintRow(next++);
         }
     }
     PaintMixedSquares();
@@ -94,6 +92,7 @@ void RasterPass::FindArea() {
 void RasterPass::Axis::Find(const SquareSpans& spans, int from, int to, int position, int areaFirst,
                             int areaLast) {
     for (int number = from; number <= to; ++number) {
+        const int edge = spans.Edge(number) - position;
         const int first = spans.First(number) - position;
         const int last = spans.Last(number) - position;
         const bool shown = last >= first && last >= areaFirst && first <= areaLast;
@@ -107,7 +106,23 @@ void RasterPass::Axis::Find(const SquareSpans& spans, int from, int to, int posi
         if (known == Sizes.end()) {
             Sizes.push_back(size);
         }
-        Shown.push_back({number, first, last, which, first < areaFirst || last > areaLast});
+        Shown.push_back({number, edge, first, last, which, first < areaFirst || last > areaLast});
+    }
+    FindPitch();
+}
+
+void RasterPass::Axis::FindPitch() {
+    if (Shown.empty()) {
+        return;
+    }
+    Pitch = Shown.front().Last + 1 - Shown.front().Edge;
+    int edge = Shown.front().Edge;
+    for (const Stretch& stretch : Shown) {
+        if (stretch.Edge != edge || stretch.Last + 1 - edge != Pitch) {
+            Pitch = 0;
+            return;
+        }
+        edge += Pitch;
     }
 }
 
@@ -152,11 +167,11 @@ std::vector<QRgb> RasterPass::TemplateRow(QRgb ground, bool normalColumns) const
     return row;
 }
 
-void RasterPass::CopyTemplate(const std::vector<QRgb>& row, int fromPixel, int toPixel) {
+void RasterPass::CopyTemplate(const QRgb* row, int fromPixel, int toPixel) {
     const int from = std::max(fromPixel, m_area.top());
     const int to = std::min(toPixel, m_area.bottom());
     for (int y = from; y <= to; ++y) {
-        std::memcpy(Pixel(m_area.left(), y), row.data(), row.size() * sizeof(QRgb));
+        std::memcpy(Pixel(m_area.left(), y), row, m_groundRow.size() * sizeof(QRgb));
     }
 }
 
@@ -173,7 +188,7 @@ void RasterPass::PaintLineAbove(int row) {
         // Bold columns lie over every row's line.
         known = m_lineRows.insert(known, {colour, TemplateRow(ToRgb(colour), false)});
     }
-    CopyTemplate(known->second, top, top + width - 1);
+    CopyTemplate(known->second.data(), top, top + width - 1);
 }
 
 void RasterPass::GatherCells(std::size_t firstRow) {
@@ -197,33 +212,111 @@ void RasterPass::NoteFlags(const Stretch& column, const Stretch& row, const Stit
     }
 }
 
-void RasterPass::PaintSolidSquares(const Stretch& row, const StitchCell* cells) {
-    m_line = m_groundRow;
-    m_parts.clear();
-    QRgb* line = m_line.data() - m_area.left();
-    const QRgb* flosses = m_tiles.Flosses();
-    for (const Stretch& column : m_columns.Shown) {
-        const StitchCell& cell = *cells++;
-        if (cell.StitchType == StitchWhole && !column.Cut) {
-            FillSpan(line + column.First, column.Last - column.First + 1,
-                     flosses[cell.PaletteIndex]);
-        } else if (cell.StitchType != NoStitch) {
-            m_parts.emplace_back(&column, &cell);
+void RasterPass::PaintRow(std::size_t place) {
+    const Stretch& row = m_rows.Shown[place];
+    const std::size_t inBand = place % BandRows;
+    const std::size_t first = inBand * m_columns.Shown.size();
+    if (m_view.Options.StitchStyle != ShowColorSquares) {
+        if (inBand == 0) {
+            GatherCells(place);
         }
+        PaintTiles(row, m_band.data() + first);
+        return;
+    }
+    if (inBand == 0) {
+        GatherColours(place);
+    }
+    PaintSolidRow(row, m_colours.data() + first);
+    if (inBand + 1 == BandRows || place + 1 == m_rows.Shown.size()) {
+        PaintOddSquares(place - inBand);
+    }
+}
+
+void RasterPass::PrepareSolidLine() {
+    if (m_columns.Shown.empty()) {
+        return;
+    }
+    m_lineLeft = std::min(m_area.left(), m_columns.Shown.front().Edge);
+    const int end = std::max(m_area.right(), m_columns.Shown.back().Last) + 1;
+    m_line.assign(static_cast<std::size_t>(end - m_lineLeft), m_tiles.GroundOf());
+    std::copy(m_groundRow.begin(), m_groundRow.end(), m_line.begin() + m_area.left() - m_lineLeft);
+    for (const Stretch& column : m_columns.Shown) {
+        const int first = std::max(column.Edge, m_area.left());
+        if (first < column.First) {
+            m_lineColumns.emplace_back(first, column.First - first);
+        }
+    }
+}
+
+void RasterPass::GatherColours(std::size_t firstRow) {
+    const std::size_t columns = m_columns.Shown.size();
+    const std::size_t rows = std::min(BandRows, m_rows.Shown.size() - firstRow);
+    m_colours.resize(BandRows * columns);
+    m_odd.resize(BandRows * columns);
+    std::array<int, BandRows> below{};
+    const int top = m_rows.Shown[firstRow].Number;
+    for (std::size_t j = 0; j < rows; ++j) {
+        below[j] = m_rows.Shown[firstRow + j].Number - top;
+    }
+    const int bottom = top + below[rows - 1];
+    const QRgb ground = m_tiles.GroundOf();
+    const QRgb* flosses = m_tiles.Flosses();
+    std::uint32_t* odd = m_odd.data();
+    for (std::size_t i = 0; i < columns; ++i) {
+        const StitchCell* cells = &m_view.Source->Cell(m_columns.Shown[i].Number, top);
+        // Columns lie too far apart for the machine to fetch the next by itself.
+        const int ahead = m_columns.Shown[std::min(i + ColumnsAhead, columns - 1)].Number;
+        __builtin_prefetch(&m_view.Source->Cell(ahead, top));
+        __builtin_prefetch(&m_view.Source->Cell(ahead, bottom));
+        QRgb* colours = m_colours.data() + i;
+        // Nothing here branches by what a square holds: no machine can foretell that.
+        for (std::size_t j = 0; j < rows; ++j, colours += columns) {
+            const StitchCell& cell = cells[below[j]];
+            const unsigned kind = cell.StitchType;
+            const QRgb solid = QRgb{0} - QRgb{kind == StitchWhole};
+            *colours = (flosses[cell.PaletteIndex] & solid) | (ground & ~solid);
+            *odd = static_cast<std::uint32_t>(i * BandRows + j);
+            odd += static_cast<unsigned>(((kind + 1) & 0xFFU) > StitchWhole + 1U) |
+                   static_cast<unsigned>(cell.CellFlags != 0);
+        }
+    }
+    m_oddCount = static_cast<std::size_t>(odd - m_odd.data());
+}
+
+void RasterPass::PaintSolidRow(const Stretch& row, const QRgb* colours) {
+    QRgb* line = m_line.data() - m_lineLeft;
+    if (m_columns.Pitch > 0) {
+        // Over the upright lines, and those once more over the squares.
+        SpreadColours(colours, m_columns.Shown.size(), line + m_columns.Shown.front().Edge,
+                      m_columns.Pitch);
+        const QRgb* ground = m_groundRow.data() - m_area.left();
+        for (const auto& [first, width] : m_lineColumns) {
+            FillSpan(line + first, width, ground[first]);
+        }
+    } else {
+        for (const Stretch& column : m_columns.Shown) {
+            FillSpan(line + column.First, column.Last - column.First + 1, *colours++);
+        }
+    }
+    CopyTemplate(line + m_area.left(), row.First, row.Last);
+}
+
+void RasterPass::PaintOddSquares(std::size_t firstRow) {
+    for (std::size_t i = 0; i < m_oddCount; ++i) {
+        const Stretch& column = m_columns.Shown[m_odd[i] / BandRows];
+        const Stretch& row = m_rows.Shown[firstRow + m_odd[i] % BandRows];
+        const StitchCell& cell = m_view.Source->Cell(column.Number, row.Number);
         if (cell.CellFlags != 0) {
             NoteFlags(column, row, cell);
         }
-    }
-    CopyTemplate(m_line, row.First, row.Last);
-    for (const auto& [column, cell] : m_parts) {
-        if ((cell->CellFlags & CellHasDup) == 0) {
-            PaintTile(*column, row, *cell);
+        if (cell.StitchType != NoStitch && (cell.CellFlags & CellHasDup) == 0) {
+            PaintTile(column, row, cell);
         }
     }
 }
 
 void RasterPass::PaintTiles(const Stretch& row, const StitchCell* cells) {
-    CopyTemplate(m_groundRow, row.First, row.Last);
+    CopyTemplate(m_groundRow.data(), row.First, row.Last);
     for (const Stretch& column : m_columns.Shown) {
         const StitchCell& cell = *cells++;
         if (cell.CellFlags != 0) {

@@ -7,6 +7,7 @@
 #include <QPoint>
 #include <QRect>
 
+#include <cstdint>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -32,6 +33,7 @@ private:
     /// One column or row of squares that shows; pixels are those of the image.
     struct Stretch {
         int Number;
+        int Edge;  ///< where the line before it begins
         int First; ///< behind the line
         int Last;
         std::size_t Size; ///< which of the sizes along its axis
@@ -42,9 +44,11 @@ private:
         std::vector<Stretch> Shown;
         std::vector<int> Sizes;
         std::vector<int> PlaceOf; ///< by number less the first: place in Shown, -1 if not there
+        int Pitch = 0;            ///< pixels from each edge to the next; 0 if they differ
 
         void Find(const SquareSpans& spans, int from, int to, int position, int areaFirst,
                   int areaLast);
+        void FindPitch();
         [[nodiscard]] const Stretch* At(int number, int from) const;
     };
 
@@ -55,10 +59,14 @@ private:
     void FindArea();
     void FindTiles();
     [[nodiscard]] std::vector<QRgb> TemplateRow(QRgb ground, bool normalColumns) const;
-    void CopyTemplate(const std::vector<QRgb>& row, int fromPixel, int toPixel);
+    void CopyTemplate(const QRgb* row, int fromPixel, int toPixel);
     void PaintLineAbove(int row);
     void GatherCells(std::size_t firstRow);
-    void PaintSolidSquares(const Stretch& row, const StitchCell* cells);
+    void PrepareSolidLine();
+    void GatherColours(std::size_t firstRow);
+    void PaintSolidRow(const Stretch& row, const QRgb* colours);
+    void PaintOddSquares(std::size_t firstRow);
+    void PaintRow(std::size_t place);
     void PaintTiles(const Stretch& row, const StitchCell* cells);
     void NoteFlags(const Stretch& column, const Stretch& row, const StitchCell& cell);
     void PaintTile(const Stretch& column, const Stretch& row, const StitchCell& cell);
@@ -88,10 +96,14 @@ private:
     std::vector<TileCopier> m_copiers; ///< by the column's size
     std::vector<QRgb> m_groundRow;     ///< ground and upright lines
     std::vector<std::pair<Colour, std::vector<QRgb>>> m_lineRows; ///< rows' own lines, by colour
-    std::vector<QRgb> m_line;                                     ///< a scan line in the making
+    std::vector<QRgb> m_line; ///< a scan line in the making, first and last square whole
+    int m_lineLeft = 0;       ///< of its first pixel in the image
+    std::vector<std::pair<int, int>> m_lineColumns; ///< upright lines: first pixel, width
+    std::vector<QRgb> m_colours;      ///< of a band's squares, row by row: floss or ground
+    std::vector<std::uint32_t> m_odd; ///< places in the band of squares that need more
+    std::size_t m_oddCount = 0;
     std::vector<SquarePos> m_mixed; ///< squares with more than one stitch
     std::vector<SquarePos> m_knotted;
-    std::vector<std::pair<const Stretch*, const StitchCell*>> m_parts;
     std::vector<QRgb> m_scratch;
 };
 

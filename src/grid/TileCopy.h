@@ -18,6 +18,9 @@ using TileCopier = void (*)(const QRgb* from, QRgb* to, std::ptrdiff_t stride, i
 /// its bytes.
 [[nodiscard]] TileCopier TileCopierFor(int width);
 
+/// Sets `pitch` pixels to each of `count` colours, one after the other.
+void SpreadColours(const QRgb* colours, std::size_t count, QRgb* pixels, int pitch);
+
 /// Sets `count` pixels, of which there are few: by fours, the last four over what is set already.
 inline void FillSpan(QRgb* pixels, int count, QRgb colour) {
     if (count < 4) {
