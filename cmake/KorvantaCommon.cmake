@@ -62,10 +62,8 @@ function(zol_add_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE zol_common ${ARG_LINKS} GTest::gmock)
-    target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
-    target_compile_definitions(${name} PRIVATE
-        KORVANTA_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
-        KORVANTA_BUILD_DATA_DIR="${PROJECT_BINARY_DIR}/share")
+    target_include_directories(${name} PRIVATE
+        "${PROJECT_SOURCE_DIR}/tests" "${PROJECT_BINARY_DIR}/generated")
     include(GoogleTest)
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST
         PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8" TIMEOUT 120)

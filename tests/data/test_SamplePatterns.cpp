@@ -7,11 +7,12 @@
 
 #include "flosses/AvailColors.h"
 #include "model/Pattern.h"
+#include "support/TestPaths.h"
 
 namespace zol {
 namespace {
 
-const std::filesystem::path shareFolder = KORVANTA_BUILD_DATA_DIR;
+const std::filesystem::path shareFolder = test::BuildDataFolder;
 
 /// What a design uses of the craft.
 struct Craft {

@@ -18,10 +18,13 @@
 #include <string>
 #include <vector>
 
+#include "support/TestPaths.h"
+
 namespace zol {
 namespace {
 
-const auto FontFile = QStringLiteral(KORVANTA_SOURCE_DIR "/data/symbols/KorvantaSymbols.ttf");
+const QString FontFile =
+    QString::fromUtf8(test::SourceFolder) + QStringLiteral("/data/symbols/KorvantaSymbols.ttf");
 const auto Family = QStringLiteral("Korvanta Symbols");
 constexpr int Em = 1000;
 

@@ -11,6 +11,7 @@
 #include "flosses/CatalogueCsv.h"
 #include "model/ProgramContext.h"
 #include "model/RunTimeError.h"
+#include "support/TestPaths.h"
 
 namespace zol {
 namespace {
@@ -137,12 +138,12 @@ TEST(CatalogueCsv, DatesCountFromTheEndOf1899) {
 // --- The catalogues that ship -------------------------------------------------------------------
 
 std::string ReadSource(const std::string& name) {
-    std::ifstream file(std::string(KORVANTA_SOURCE_DIR "/data/flosses/") + name);
+    std::ifstream file(std::string(test::SourceFolder) + "/data/flosses/" + name);
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
 TEST(ShippedCatalogues, EachMakerOfTheTableHasACatalogueUnderItsName) {
-    std::ifstream table(KORVANTA_SOURCE_DIR "/data/flosses/makers.csv");
+    std::ifstream table(std::string(test::SourceFolder) + "/data/flosses/makers.csv");
     std::string line;
     ASSERT_TRUE(std::getline(table, line));
     ASSERT_EQ(line, "Name,ShortName,File,BaseID");

@@ -9,6 +9,7 @@
 #include "import/Random32.h"
 #include "import/SamplePictures.h"
 #include "support/TempFolder.h"
+#include "support/TestPaths.h"
 
 using namespace zol;
 using test::SavedAs;
@@ -66,14 +67,14 @@ TEST(Imaging, EveryFormatIsDecodedByItsContent) {
 TEST(Imaging, HeicIsDecoded) {
     // The quarters as heif-enc saved them once: the encoder is not clean under the sanitizers.
     const ImagingResult result =
-        LoadImage(std::filesystem::path(KORVANTA_SOURCE_DIR) / "tests/import/quarters.heic");
+        LoadImage(std::filesystem::path(test::SourceFolder) / "tests/import/quarters.heic");
     ASSERT_TRUE(result.IsGood()) << result.Text;
     ExpectQuarters(result.Image, 12);
 }
 
 TEST(Imaging, TruncatedHeicGivesAMessageAndNoPicture) {
     const std::string whole =
-        test::ReadFile(std::filesystem::path(KORVANTA_SOURCE_DIR) / "tests/import/quarters.heic");
+        test::ReadFile(std::filesystem::path(test::SourceFolder) / "tests/import/quarters.heic");
     ASSERT_FALSE(whole.empty());
     for (std::size_t size = 0; size < whole.size() * 9 / 10; size += 9) {
         const std::vector<std::uint8_t> part(whole.begin(),
