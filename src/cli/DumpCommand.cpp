@@ -27,10 +27,6 @@ void RunDump(Environment& environment, const CommandWords& words) {
     case FileKind::Catalogue:
         CanonicalJson::WriteCatalogue(std::cout, environment.LoadCatalogue(fileName));
         break;
-    case FileKind::StitchedFont:
-        throw CommandFailed(fileName + " is a stitched font, which this version cannot read");
-    case FileKind::Library:
-        throw CommandFailed(fileName + " is a pattern library, which this version cannot read");
     }
 }
 

@@ -3,8 +3,10 @@
 
 #include "cli/FileKind.h"
 
+#include <algorithm>
 #include <fstream>
 
+#include "cli/CommandLine.h"
 #include "model/CodePage.h"
 #include "model/PatternHeader.h"
 #include "model/SafeFile.h"
@@ -15,10 +17,10 @@ FileKind KindOf(const std::string& fileName) {
     const std::string name = LowerCase(fileName);
     const std::string ending = name.substr(std::min(name.rfind('.'), name.size()));
     if (ending == ".stf") {
-        return FileKind::StitchedFont;
+        throw CommandFailed(fileName + " is a stitched font, which this version cannot read");
     }
     if (ending == ".plb") {
-        return FileKind::Library;
+        throw CommandFailed(fileName + " is a pattern library, which this version cannot read");
     }
     std::string start(25, '\0');
     std::ifstream file(PathOf(fileName), std::ios::binary);

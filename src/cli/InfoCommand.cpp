@@ -155,10 +155,6 @@ void RunInfo(Environment& environment, const CommandWords& words) {
     case FileKind::Catalogue:
         CatalogueInfo(environment.LoadCatalogue(fileName), asJson);
         break;
-    case FileKind::StitchedFont:
-        throw CommandFailed(fileName + " is a stitched font, which this version cannot read");
-    case FileKind::Library:
-        throw CommandFailed(fileName + " is a pattern library, which this version cannot read");
     }
 }
 
