@@ -19,9 +19,10 @@ std::vector<double> Blackness(const QImage& cell) {
     std::vector<double> black(SymbolBlot::Room * SymbolBlot::Room, 0.0);
     for (int y = 0; y < cell.height(); ++y) {
         for (int x = 0; x < cell.width(); ++x) {
-            const auto row = static_cast<std::size_t>(y + Border);
-            const auto column = static_cast<std::size_t>(x + Border);
-            black[row * SymbolBlot::Room + column] = 1.0 - qGray(cell.pixel(x, y)) / 255.0;
+            const int row = y + Border;
+            const int column = x + Border;
+            const int at = row * SymbolBlot::Room + column;
+            black[static_cast<std::size_t>(at)] = 1.0 - qGray(cell.pixel(x, y)) / 255.0;
         }
     }
     return black;

@@ -118,10 +118,11 @@ TEST(DistinctColours, EachColourOnceAndEveryPixelFindsIts) {
     std::vector<Colour> sorted = distinct.Colours;
     std::sort(sorted.begin(), sorted.end());
     EXPECT_EQ(std::adjacent_find(sorted.begin(), sorted.end()), sorted.end());
-    for (int y = 0; y < 70; ++y) {
-        for (int x = 0; x < 130; ++x) {
-            const std::uint32_t place = distinct.Places[static_cast<std::size_t>(x * 70 + y)];
-            ASSERT_EQ(distinct.Colours[place], picture.ImagePixel(x, y));
+    for (unsigned y = 0; y < 70; ++y) {
+        for (unsigned x = 0; x < 130; ++x) {
+            const std::uint32_t place = distinct.Places[std::size_t{70} * x + y];
+            ASSERT_EQ(distinct.Colours[place],
+                      picture.ImagePixel(static_cast<int>(x), static_cast<int>(y)));
         }
     }
 }

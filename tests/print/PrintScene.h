@@ -62,8 +62,9 @@ public:
         int masterID = 0;
         for (const std::string& id : ids) {
             ++masterID;
-            catalogue->AddEntry(masterID, name + " floss " + id, id, 10, 20, 30, masterID, 0, 0,
-                                "");
+            std::string description = name;
+            description.append(" floss ").append(id);
+            catalogue->AddEntry(masterID, description, id, 10, 20, 30, masterID, 0, 0, "");
         }
         EXPECT_TRUE(catalogue->SaveToFile(m_folder.Path() / "Flosses" / file));
         EXPECT_TRUE(catalogue->Initialize(file));

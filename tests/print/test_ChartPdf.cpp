@@ -74,7 +74,7 @@ protected:
     }
 
     std::filesystem::path Write(Pattern& pattern, const ChartPdfOptions& options) {
-        const auto path = scene.Path("chart.pdf");
+        auto path = scene.Path("chart.pdf");
         const ChartPdfResult result = WriteChartPdf(pattern, options, path, nullptr);
         EXPECT_TRUE(result.IsWhole()) << result.ErrorText;
         EXPECT_EQ(result.Pages, PdfPageCount(path));

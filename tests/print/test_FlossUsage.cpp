@@ -19,7 +19,7 @@ namespace {
 class FlossUsageTest : public ::testing::Test {
 protected:
     std::filesystem::path PrintReport(const PrintOptions& options = {}) {
-        const auto path = scene.Path("usage.pdf");
+        auto path = scene.Path("usage.pdf");
         QPdfWriter writer(QString::fromStdString(path.string()));
         writer.setResolution(PageDevice::TwipsPerInch);
         writer.setPageMargins(QMarginsF(0, 0, 0, 0));

@@ -38,7 +38,7 @@ protected:
     std::filesystem::path Print(const PrintOptions& options) {
         ChartPdfOptions chart;
         chart.Print = options;
-        const auto path = scene.Path("key.pdf");
+        auto path = scene.Path("key.pdf");
         const ChartPdfResult result = WriteChartPdf(*pattern, chart, path, nullptr);
         EXPECT_TRUE(result.IsWhole()) << result.ErrorText;
         return path;
