@@ -24,7 +24,7 @@
 #include <vector>
 
 #include "Scene.h"
-#include "grid/PaintColors.h"
+#include "grid/painting/PaintColors.h"
 #include "model/SafeFile.h"
 
 namespace zol {

@@ -16,7 +16,7 @@
 #include <string>
 
 #include "Ratio.h"
-#include "grid/SymbolText.h"
+#include "grid/painting/SymbolText.h"
 #include "print/ChartPdf.h"
 #include "print/PageDevice.h"
 #include "print/PrintFuncs.h"

@@ -12,7 +12,7 @@
 
 #include "Ratio.h"
 #include "Scene.h"
-#include "grid/GridPainter.h"
+#include "grid/painting/GridPainter.h"
 
 namespace {
 

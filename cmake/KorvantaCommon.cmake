@@ -68,3 +68,17 @@ function(zol_add_test name)
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST
         PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8" TIMEOUT 120)
 endfunction()
+
+# zol_add_window_test(NAME SOURCES ... LINKS ...): one Qt Test program of windows, driven by mouse
+# and keys without a display. Its cases run in one process, as starting one costs more than a case.
+function(zol_add_window_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    target_link_libraries(${name} PRIVATE zol_common ${ARG_LINKS} Qt6::Test)
+    target_include_directories(${name} PRIVATE
+        "${PROJECT_SOURCE_DIR}/tests" "${PROJECT_BINARY_DIR}/generated")
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8" TIMEOUT 240)
+endfunction()

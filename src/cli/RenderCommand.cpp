@@ -6,7 +6,7 @@
 
 #include "cli/CommandLine.h"
 #include "cli/Commands.h"
-#include "grid/GridPainter.h"
+#include "grid/painting/GridPainter.h"
 #include "model/CodePage.h"
 #include "model/RunTimeError.h"
 

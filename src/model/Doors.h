@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <filesystem>
 #include <optional>
 #include <string>
 
@@ -21,8 +22,33 @@ class MessageDoor {
 public:
     virtual ~MessageDoor() = default;
     virtual void Tell(const std::string& text, MessageIcon icon, const std::string& title) = 0;
+    /// The same with what was kept and what to do, which stands below the message.
+    virtual void TellMore(const std::string& text, const std::string& /*more*/, MessageIcon icon,
+                          const std::string& title) {
+        Tell(text, icon, title);
+    }
     [[nodiscard]] virtual MessageAnswer Ask(const std::string& text, MessageIcon icon,
                                             MessageButtons buttons, const std::string& title) = 0;
+};
+
+/// What a dialog for a file's name is asked with.
+struct FileChoice {
+    std::string Title;
+    std::string Filter; ///< "Words|*.PAT|Other words|*.bpt"; letters' case does not count
+    std::filesystem::path Folder;
+    std::string SuggestedName;
+    std::string DefaultExtension; ///< without the point; added to a name that has none
+};
+
+/// Lets the user choose a file. Nothing means that the user cancelled.
+class FileDoor {
+public:
+    virtual ~FileDoor() = default;
+    [[nodiscard]] virtual std::optional<std::filesystem::path>
+    AskOpenFile(const FileChoice& choice) = 0;
+    /// Asks before a file that exists would be replaced.
+    [[nodiscard]] virtual std::optional<std::filesystem::path>
+    AskSaveFile(const FileChoice& choice) = 0;
 };
 
 /// Progress of long work. MayGoOn is asked at fixed points; there a window lets events through.

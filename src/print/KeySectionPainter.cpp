@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "grid/StyledLine.h"
+#include "grid/painting/StyledLine.h"
 #include "model/Rounding.h"
 
 namespace zol {

@@ -9,7 +9,7 @@
 
 #include <memory>
 
-#include "grid/GridPainter.h"
+#include "grid/painting/GridPainter.h"
 #include "model/Doors.h"
 #include "model/Pattern.h"
 #include "print/PageCanvas.h"

@@ -5,8 +5,8 @@
 
 #include <gtest/gtest.h>
 
-#include "grid/GridLines.h"
-#include "grid/GridView.h"
+#include "grid/painting/GridLines.h"
+#include "grid/painting/GridView.h"
 
 namespace zol {
 namespace {

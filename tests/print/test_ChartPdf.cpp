@@ -11,7 +11,7 @@
 
 #include <QPdfWriter>
 
-#include "grid/SymbolText.h"
+#include "grid/painting/SymbolText.h"
 #include "print/PdfReading.h"
 #include "print/PrintFuncs.h"
 #include "print/PrintScene.h"

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 Korvanta contributors
 # SPDX-License-Identifier: MIT
-"""Draws the grey cross that virtual stitches are tinted from: src/grid/resources/StitchImage.png.
+"""Draws the grey cross that virtual stitches are tinted from: src/grid/painting/resources/StitchImage.png.
 
 A pixel whose mean is 125 or more is thread (floss colour times mean / 255), any other is cloth.
 With --preview DIR it also paints fields of tinted crosses to look at.
@@ -91,7 +91,7 @@ def preview(template, folder):
 
 if __name__ == "__main__":
     picture = draw()
-    target = Path(__file__).resolve().parents[3] / "src/grid/resources/StitchImage.png"
+    target = Path(__file__).resolve().parents[3] / "src/grid/painting/resources/StitchImage.png"
     target.parent.mkdir(parents=True, exist_ok=True)
     Image.fromarray(picture).save(target, optimize=True)
     if len(sys.argv) == 3 and sys.argv[1] == "--preview":

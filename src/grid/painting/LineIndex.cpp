@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#include "grid/painting/LineIndex.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <type_traits>
+
+#include "model/Pattern.h"
+
+namespace zol {
+
+namespace {
+
+bool SameLines(const std::vector<BackStitchLine>& a, const std::vector<BackStitchLine>& b) {
+    static_assert(std::has_unique_object_representations_v<BackStitchLine>);
+    return a.size() == b.size() &&
+           (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(BackStitchLine)) == 0);
+}
+
+} // namespace
+
+std::vector<int> LineIndex::Find(const Pattern& pattern, const SquareRect& rect) {
+    const std::size_t count = pattern.Lines().size();
+    const bool whole = rect.Left <= 1 && rect.Top <= 1 && rect.Right >= pattern.GetPatternWidth() &&
+                       rect.Bottom >= pattern.GetPatternHeight();
+    if (!whole && count > WalkUpTo) {
+        Update(pattern);
+        return FindInBlocks(rect);
+    }
+    std::vector<int> all(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        all[i] = static_cast<int>(i) + 1;
+    }
+    return all;
+}
+
+void LineIndex::Update(const Pattern& pattern) {
+    // One comparison of the table's bytes is far cheaper than telling every change apart.
+    if (m_width == pattern.GetPatternWidth() && m_height == pattern.GetPatternHeight() &&
+        SameLines(m_lines, pattern.Lines())) {
+        return;
+    }
+    m_width = pattern.GetPatternWidth();
+    m_height = pattern.GetPatternHeight();
+    m_lines = pattern.Lines();
+    m_blocksAcross = m_width / BlockSize + 1;
+    m_blocksDown = m_height / BlockSize + 1;
+    m_blocks.assign(
+        static_cast<std::size_t>(m_blocksAcross) * static_cast<std::size_t>(m_blocksDown), {});
+    m_seen.assign(m_lines.size() + 1, 0);
+    m_search = 0;
+    for (std::size_t i = 0; i < m_lines.size(); ++i) {
+        Insert(m_lines[i], static_cast<int>(i) + 1);
+    }
+}
+
+int LineIndex::BlockOf(int square, int blocks) const {
+    return std::clamp(square / BlockSize, 0, blocks - 1);
+}
+
+void LineIndex::Insert(const BackStitchLine& line, int index) {
+    const double x1 = std::min(line.StartX, line.EndX);
+    const double x2 = std::max(line.StartX, line.EndX);
+    const bool ordered = line.StartX <= line.EndX;
+    const double y1 = ordered ? line.StartY : line.EndY;
+    const double y2 = ordered ? line.EndY : line.StartY;
+    const double slope = x2 > x1 ? (y2 - y1) / (x2 - x1) : 0;
+    const int first = BlockOf(static_cast<int>(x1), m_blocksAcross);
+    const int last = BlockOf(static_cast<int>(x2), m_blocksAcross);
+    for (int block = first; block <= last; ++block) {
+        // The line's stretch within this column of blocks, a square more on each side, since its
+        // ends are known to the square only.
+        const double from = std::clamp<double>(block * BlockSize - 1, x1, x2);
+        const double to = std::clamp<double>((block + 1) * BlockSize + 1, x1, x2);
+        const bool upright = x1 == x2;
+        const double ya = upright ? y1 : y1 + (from - x1) * slope;
+        const double yb = upright ? y2 : y1 + (to - x1) * slope;
+        const int top = BlockOf(static_cast<int>(std::floor(std::min(ya, yb))) - 2, m_blocksDown);
+        const int bottom = BlockOf(static_cast<int>(std::ceil(std::max(ya, yb))) + 2, m_blocksDown);
+        for (int row = top; row <= bottom; ++row) {
+            m_blocks[PlaceOf(block, row)].push_back(index);
+        }
+    }
+}
+
+std::vector<int> LineIndex::FindInBlocks(const SquareRect& rect) {
+    std::vector<int> found;
+    ++m_search;
+    const int left = BlockOf(rect.Left - 2, m_blocksAcross);
+    const int right = BlockOf(rect.Right + 2, m_blocksAcross);
+    const int top = BlockOf(rect.Top - 2, m_blocksDown);
+    const int bottom = BlockOf(rect.Bottom + 2, m_blocksDown);
+    for (int row = top; row <= bottom; ++row) {
+        for (int column = left; column <= right; ++column) {
+            for (const int index : m_blocks[PlaceOf(column, row)]) {
+                std::uint32_t& seen = m_seen[static_cast<std::size_t>(index)];
+                if (seen != m_search) {
+                    seen = m_search;
+                    found.push_back(index);
+                }
+            }
+        }
+    }
+    // Later lines lie over earlier ones.
+    std::sort(found.begin(), found.end());
+    return found;
+}
+
+} // namespace zol

@@ -1,0 +1,425 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#include "grid/painting/RasterPass.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <utility>
+
+#include "grid/painting/PaintColors.h"
+
+namespace zol {
+
+namespace {
+
+/// The columns (or rows) of `first` to `last` that may show between two device pixels, a little
+/// more at each end.
+std::pair<int, int> ShownOf(int first, int last, int fromPixel, int toPixel, double squareTwips,
+                            double origin, double twipsPerPixel) {
+    if (squareTwips <= 0) {
+        return {first, last};
+    }
+    const double from = (fromPixel * twipsPerPixel - origin) / squareTwips - 2;
+    const double to = (toPixel * twipsPerPixel - origin) / squareTwips + 3;
+    return {std::clamp(static_cast<int>(std::clamp(from, -1e9, 1e9)), first, last + 1),
+            std::clamp(static_cast<int>(std::clamp(to, -1e9, 1e9)), first - 1, last)};
+}
+
+/// Look-ups of a square's record that cost as much as walking one record of the table.
+constexpr std::size_t RecordsPerLookUp = 16;
+
+/// Columns whose cells are asked for before they are needed.
+constexpr std::size_t ColumnsAhead = 12;
+
+} // namespace
+
+RasterPass::RasterPass(QImage& image, QPoint position, const GridView& view, const SquareRect& rect,
+                       TileCache& tiles)
+    : m_position(position),
+      m_view(view),
+      m_rect(rect),
+      m_tiles(tiles),
+      m_buffer{reinterpret_cast<QRgb*>(image.bits()),
+               image.bytesPerLine() / static_cast<std::ptrdiff_t>(sizeof(QRgb)), image.width(),
+               image.height()} {}
+
+RasterGrid::Painted RasterPass::Run() {
+    FindArea();
+    if (m_area.isEmpty()) {
+        return {};
+    }
+    FindTiles();
+    m_groundRow = TemplateRow(m_tiles.GroundOf(), true);
+    if (m_view.Options.StitchStyle == ShowColorSquares) {
+        PrepareSolidLine();
+    }
+    // Squares lie behind their lines, so lines may be painted row by row with them.
+    std::size_t next = 0;
+    for (int number = m_rect.Top; number <= m_rect.Bottom + 1; ++number) {
+        PaintLineAbove(number);
+        if (next < m_rows.Shown.size() && m_rows.Shown[next].Number == number) {
+            PaintRow(next++);
+        }
+    }
+    PaintMixedSquares();
+    PaintKnots();
+    return {m_area, m_rect};
+}
+
+void RasterPass::FindArea() {
+    const GridScale& s = m_view.Scale;
+    const auto [left, right] =
+        ShownOf(m_rect.Left, m_rect.Right, m_position.x(), m_position.x() + m_buffer.Width,
+                s.SquareTwipsX, m_view.OriginX, s.TwipsPerPixelX);
+    const auto [top, bottom] =
+        ShownOf(m_rect.Top, m_rect.Bottom, m_position.y(), m_position.y() + m_buffer.Height,
+                s.SquareTwipsY, m_view.OriginY, s.TwipsPerPixelY);
+    m_rect = {left, top, right, bottom};
+    if (m_rect.IsEmpty()) {
+        return;
+    }
+    m_x = SquareSpans::Columns(m_view, left, right);
+    m_y = SquareSpans::Rows(m_view, top, bottom);
+    // The closing lines are painted too, as far as the image holds them.
+    const QPoint corner(m_x->Edge(left), m_y->Edge(top));
+    const QPoint end(m_x->First(right + 1), m_y->First(bottom + 1));
+    m_area = QRect(corner - m_position, end - m_position - QPoint(1, 1))
+                 .intersected(QRect(0, 0, m_buffer.Width, m_buffer.Height));
+}
+
+void RasterPass::Axis::Find(const SquareSpans& spans, int from, int to, int position, int areaFirst,
+                            int areaLast) {
+    for (int number = from; number <= to; ++number) {
+        const int edge = spans.Edge(number) - position;
+        const int first = spans.First(number) - position;
+        const int last = spans.Last(number) - position;
+        const bool shown = last >= first && last >= areaFirst && first <= areaLast;
+        PlaceOf.push_back(shown ? static_cast<int>(Shown.size()) : -1);
+        if (!shown) {
+            continue;
+        }
+        const int size = last - first + 1;
+        const auto known = std::find(Sizes.begin(), Sizes.end(), size);
+        const auto which = static_cast<std::size_t>(known - Sizes.begin());
+        if (known == Sizes.end()) {
+            Sizes.push_back(size);
+        }
+        Shown.push_back({number, edge, first, last, which, first < areaFirst || last > areaLast});
+    }
+    FindPitch();
+}
+
+void RasterPass::Axis::FindPitch() {
+    if (Shown.empty()) {
+        return;
+    }
+    Pitch = Shown.front().Last + 1 - Shown.front().Edge;
+    int edge = Shown.front().Edge;
+    for (const Stretch& stretch : Shown) {
+        if (stretch.Edge != edge || stretch.Last + 1 - edge != Pitch) {
+            Pitch = 0;
+            return;
+        }
+        edge += Pitch;
+    }
+}
+
+const RasterPass::Stretch* RasterPass::Axis::At(int number, int from) const {
+    const auto at = static_cast<std::size_t>(number - from);
+    if (number < from || at >= PlaceOf.size() || PlaceOf[at] < 0) {
+        return nullptr;
+    }
+    return &Shown[static_cast<std::size_t>(PlaceOf[at])];
+}
+
+void RasterPass::FindTiles() {
+    m_columns.Find(*m_x, m_rect.Left, m_rect.Right, m_position.x(), m_area.left(), m_area.right());
+    m_rows.Find(*m_y, m_rect.Top, m_rect.Bottom, m_position.y(), m_area.top(), m_area.bottom());
+    for (const int height : m_rows.Sizes) {
+        for (const int width : m_columns.Sizes) {
+            m_sizes.push_back(&m_tiles.SizeOf(width, height));
+        }
+    }
+    for (const int width : m_columns.Sizes) {
+        m_copiers.push_back(TileCopierFor(width));
+    }
+}
+
+std::vector<QRgb> RasterPass::TemplateRow(QRgb ground, bool normalColumns) const {
+    std::vector<QRgb> row(static_cast<std::size_t>(m_area.width()), ground);
+    if (!m_view.Options.GridLines) {
+        return row;
+    }
+    for (int number = m_rect.Left; number <= m_rect.Right + 1; ++number) {
+        if (!m_x->IsBold(number) && !normalColumns) {
+            continue;
+        }
+        const int from = m_x->Edge(number) - m_position.x() - m_area.left();
+        const int to = std::min(from + m_x->LineWidth(number), m_area.width());
+        if (to > std::max(0, from)) {
+            const Colour colour =
+                m_x->IsBold(number) ? m_view.Options.BoldGLColor : m_view.Options.NormalGLColor;
+            std::fill(row.begin() + std::max(0, from), row.begin() + to, ToRgb(colour));
+        }
+    }
+    return row;
+}
+
+void RasterPass::CopyTemplate(const QRgb* row, int fromPixel, int toPixel) {
+    const int from = std::max(fromPixel, m_area.top());
+    const int to = std::min(toPixel, m_area.bottom());
+    for (int y = from; y <= to; ++y) {
+        std::memcpy(Pixel(m_area.left(), y), row, m_groundRow.size() * sizeof(QRgb));
+    }
+}
+
+void RasterPass::PaintLineAbove(int row) {
+    const int width = m_y->LineWidth(row);
+    const int top = m_y->Edge(row) - m_position.y();
+    if (width == 0 || top + width <= m_area.top() || top > m_area.bottom()) {
+        return;
+    }
+    const Colour colour = RowLineColour(m_view.Options, row, m_y->IsBold(row));
+    auto known = std::find_if(m_lineRows.begin(), m_lineRows.end(),
+                              [colour](const auto& entry) { return entry.first == colour; });
+    if (known == m_lineRows.end()) {
+        // Bold columns lie over every row's line.
+        known = m_lineRows.insert(known, {colour, TemplateRow(ToRgb(colour), false)});
+    }
+    CopyTemplate(known->second.data(), top, top + width - 1);
+}
+
+void RasterPass::GatherCells(std::size_t firstRow) {
+    const std::size_t columns = m_columns.Shown.size();
+    const std::size_t rows = std::min(BandRows, m_rows.Shown.size() - firstRow);
+    m_band.resize(BandRows * columns);
+    for (std::size_t i = 0; i < columns; ++i) {
+        for (std::size_t j = 0; j < rows; ++j) {
+            m_band[j * columns + i] =
+                m_view.Source->Cell(m_columns.Shown[i].Number, m_rows.Shown[firstRow + j].Number);
+        }
+    }
+}
+
+void RasterPass::NoteFlags(const Stretch& column, const Stretch& row, const StitchCell& cell) {
+    if ((cell.CellFlags & CellHasKnot) != 0) {
+        m_knotted.push_back({column.Number, row.Number});
+    }
+    if ((cell.CellFlags & CellHasDup) != 0) {
+        m_mixed.push_back({column.Number, row.Number});
+    }
+}
+
+void RasterPass::PaintRow(std::size_t place) {
+    const Stretch& row = m_rows.Shown[place];
+    const std::size_t inBand = place % BandRows;
+    const std::size_t first = inBand * m_columns.Shown.size();
+    if (m_view.Options.StitchStyle != ShowColorSquares) {
+        if (inBand == 0) {
+            GatherCells(place);
+        }
+        PaintTiles(row, m_band.data() + first);
+        return;
+    }
+    if (inBand == 0) {
+        GatherColours(place);
+    }
+    PaintSolidRow(row, m_colours.data() + first);
+    if (inBand + 1 == BandRows || place + 1 == m_rows.Shown.size()) {
+        PaintOddSquares(place - inBand);
+    }
+}
+
+void RasterPass::PrepareSolidLine() {
+    if (m_columns.Shown.empty()) {
+        return;
+    }
+    m_lineLeft = std::min(m_area.left(), m_columns.Shown.front().Edge);
+    const int end = std::max(m_area.right(), m_columns.Shown.back().Last) + 1;
+    m_line.assign(static_cast<std::size_t>(end - m_lineLeft), m_tiles.GroundOf());
+    std::copy(m_groundRow.begin(), m_groundRow.end(), m_line.begin() + m_area.left() - m_lineLeft);
+    for (const Stretch& column : m_columns.Shown) {
+        const int first = std::max(column.Edge, m_area.left());
+        if (first < column.First) {
+            m_lineColumns.emplace_back(first, column.First - first);
+        }
+    }
+}
+
+void RasterPass::GatherColours(std::size_t firstRow) {
+    const std::size_t columns = m_columns.Shown.size();
+    const std::size_t rows = std::min(BandRows, m_rows.Shown.size() - firstRow);
+    m_colours.resize(BandRows * columns);
+    m_odd.resize(BandRows * columns);
+    std::array<int, BandRows> below{};
+    const int top = m_rows.Shown[firstRow].Number;
+    for (std::size_t j = 0; j < rows; ++j) {
+        below[j] = m_rows.Shown[firstRow + j].Number - top;
+    }
+    const int bottom = top + below[rows - 1];
+    const QRgb ground = m_tiles.GroundOf();
+    const QRgb* flosses = m_tiles.Flosses();
+    std::uint32_t* odd = m_odd.data();
+    for (std::size_t i = 0; i < columns; ++i) {
+        const StitchCell* cells = &m_view.Source->Cell(m_columns.Shown[i].Number, top);
+        // Columns lie too far apart for the machine to fetch the next by itself.
+        const int ahead = m_columns.Shown[std::min(i + ColumnsAhead, columns - 1)].Number;
+        __builtin_prefetch(&m_view.Source->Cell(ahead, top));
+        __builtin_prefetch(&m_view.Source->Cell(ahead, bottom));
+        QRgb* colours = m_colours.data() + i;
+        // Nothing here branches by what a square holds: no machine can foretell that.
+        for (std::size_t j = 0; j < rows; ++j, colours += columns) {
+            const StitchCell& cell = cells[below[j]];
+            const unsigned kind = cell.StitchType;
+            const QRgb solid = QRgb{0} - QRgb{kind == StitchWhole};
+            *colours = (flosses[cell.PaletteIndex] & solid) | (ground & ~solid);
+            *odd = static_cast<std::uint32_t>(i * BandRows + j);
+            odd += static_cast<unsigned>(((kind + 1) & 0xFFU) > StitchWhole + 1U) |
+                   static_cast<unsigned>(cell.CellFlags != 0);
+        }
+    }
+    m_oddCount = static_cast<std::size_t>(odd - m_odd.data());
+}
+
+void RasterPass::PaintSolidRow(const Stretch& row, const QRgb* colours) {
+    QRgb* line = m_line.data() - m_lineLeft;
+    if (m_columns.Pitch > 0) {
+        // Over the upright lines, and those once more over the squares.
+        SpreadColours(colours, m_columns.Shown.size(), line + m_columns.Shown.front().Edge,
+                      m_columns.Pitch);
+        const QRgb* ground = m_groundRow.data() - m_area.left();
+        for (const auto& [first, width] : m_lineColumns) {
+            FillSpan(line + first, width, ground[first]);
+        }
+    } else {
+        for (const Stretch& column : m_columns.Shown) {
+            FillSpan(line + column.First, column.Last - column.First + 1, *colours++);
+        }
+    }
+    CopyTemplate(line + m_area.left(), row.First, row.Last);
+}
+
+void RasterPass::PaintOddSquares(std::size_t firstRow) {
+    for (std::size_t i = 0; i < m_oddCount; ++i) {
+        const Stretch& column = m_columns.Shown[m_odd[i] / BandRows];
+        const Stretch& row = m_rows.Shown[firstRow + m_odd[i] % BandRows];
+        const StitchCell& cell = m_view.Source->Cell(column.Number, row.Number);
+        if (cell.CellFlags != 0) {
+            NoteFlags(column, row, cell);
+        }
+        if (cell.StitchType != NoStitch && (cell.CellFlags & CellHasDup) == 0) {
+            PaintTile(column, row, cell);
+        }
+    }
+}
+
+void RasterPass::PaintTiles(const Stretch& row, const StitchCell* cells) {
+    CopyTemplate(m_groundRow.data(), row.First, row.Last);
+    for (const Stretch& column : m_columns.Shown) {
+        const StitchCell& cell = *cells++;
+        if (cell.CellFlags != 0) {
+            NoteFlags(column, row, cell);
+        }
+        if (cell.StitchType != NoStitch && (cell.CellFlags & CellHasDup) == 0) {
+            PaintTile(column, row, cell);
+        }
+    }
+}
+
+void RasterPass::PaintTile(const Stretch& column, const Stretch& row, const StitchCell& cell) {
+    CopyTile(column, row, m_tiles.Tile(SizeOf(column, row), cell.StitchType, cell.PaletteIndex));
+}
+
+void RasterPass::CopyTile(const Stretch& column, const Stretch& row, const QRgb* tile) {
+    const int width = column.Last - column.First + 1;
+    if (!column.Cut && !row.Cut) {
+        m_copiers[column.Size](tile, Pixel(column.First, row.First), m_buffer.Stride,
+                               row.Last - row.First + 1, width);
+        return;
+    }
+    const int first = std::max(column.First, m_area.left());
+    const int last = std::min(column.Last, m_area.right());
+    for (int y = std::max(row.First, m_area.top()); y <= std::min(row.Last, m_area.bottom()); ++y) {
+        const QRgb* from = tile + static_cast<std::ptrdiff_t>(y - row.First) * width;
+        std::copy(from + (first - column.First), from + (last - column.First) + 1, Pixel(first, y));
+    }
+}
+
+void RasterPass::PaintMixedSquares() {
+    const KeyedTable<DupStitch>& table = m_view.Source->DupStitches();
+    const auto paint = [this](int x, int y, const DupStitch* dup) {
+        const Stretch* column = m_columns.At(x, m_rect.Left);
+        const Stretch* row = m_rows.At(y, m_rect.Top);
+        if (column != nullptr && row != nullptr) {
+            PaintMixedSquare(*column, *row, dup);
+        }
+    };
+    // Whichever is less work: walking the table, or looking each square up in it.
+    if (table.Count() <= m_mixed.size() * RecordsPerLookUp) {
+        table.ForEach([&](const DupStitch& dup) { paint(dup.X, dup.Y, &dup); });
+        return;
+    }
+    for (const SquarePos& square : m_mixed) {
+        paint(square.X, square.Y, table.Find(KeyedTable<DupStitch>::KeyOf(square.Y, square.X)));
+    }
+}
+
+void RasterPass::PaintMixedSquare(const Stretch& column, const Stretch& row, const DupStitch* dup) {
+    const StitchCell& cell = m_view.Source->Cell(column.Number, row.Number);
+    if ((cell.CellFlags & CellHasDup) == 0 || cell.StitchType == NoStitch) {
+        return;
+    }
+    const SquareContent content(cell, dup);
+    TileCache::Size& size = SizeOf(column, row);
+    if (!column.Cut && !row.Cut) {
+        m_tiles.Compose(
+            {Pixel(column.First, row.First), m_buffer.Stride, size.Width(), size.Height()}, size,
+            content);
+        return;
+    }
+    m_scratch.resize(static_cast<std::size_t>(size.Width()) *
+                     static_cast<std::size_t>(size.Height()));
+    m_tiles.Compose({m_scratch.data(), size.Width(), size.Width(), size.Height()}, size, content);
+    CopyTile(column, row, m_scratch.data());
+}
+
+void RasterPass::PaintKnots() {
+    for (const PlacedKnot& placed : KnotsOf(*m_view.Source, m_rect, m_knotted)) {
+        PaintKnot(placed);
+    }
+}
+
+void RasterPass::PaintKnot(const PlacedKnot& placed) {
+    const PixelRect box =
+        KnotShapes::Box(m_view, placed.Square.X, placed.Square.Y, placed.Knot.Position);
+    const int pen = KnotShapes::PenWidth(m_view);
+    const int x = box.Left - m_position.x() - m_area.left();
+    const int y = box.Top - m_position.y() - m_area.top();
+    const PixelBuffer target{Pixel(m_area.left(), m_area.top()), m_buffer.Stride, m_area.width(),
+                             m_area.height()};
+    const std::uint8_t floss = placed.Knot.PaletteIndex;
+    const KnotInk ink = KnotInkOf(m_view.Options, m_tiles.ColourOf(floss));
+    const auto blend = [&](Colour colour, bool filled) {
+        const PixelMask& mask = m_tiles.Masks().Knot(placed.Knot.Orientation, box.Right - box.Left,
+                                                     box.Bottom - box.Top, pen, filled);
+        BlendMask(target, x + mask.Left, y + mask.Top, mask, ToRgb(colour));
+    };
+    if (ink.Body) {
+        blend(*ink.Body, true);
+    }
+    if (ink.Outline) {
+        blend(*ink.Outline, false);
+    }
+    const int symbol = m_tiles.SymbolOf(floss);
+    const PixelRect inner = KnotShapes::SymbolRect(box);
+    if (ink.Symbol && symbol != 0 && placed.Knot.Orientation == KnotNormal && !inner.IsEmpty()) {
+        const PixelMask& mask =
+            m_tiles.Masks().Symbol(symbol, StitchFKnot, inner.Width(), inner.Height());
+        BlendMask(target, x + inner.Left - box.Left + mask.Left, y + inner.Top - box.Top + mask.Top,
+                  mask, ToRgb(*ink.Symbol));
+    }
+}
+
+} // namespace zol

@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#include "grid/painting/SquareContent.h"
+
+#include <algorithm>
+#include <optional>
+#include <tuple>
+
+namespace zol {
+
+namespace {
+
+bool ShowsKnots(const Pattern& pattern, int column, int row) {
+    return (pattern.Cell(column, row).CellFlags & CellHasKnot) != 0;
+}
+
+/// The last square of the rectangle, column by column, that shows a knot.
+std::optional<SquarePos> LastSquareOf(const Pattern& pattern, const SquareRect& rect,
+                                      const FrenchKnot& knot) {
+    // A point on a line between squares touches those on both sides.
+    for (int column = (knot.X + 1) / 2; column >= knot.X / 2; --column) {
+        for (int row = (knot.Y + 1) / 2; row >= knot.Y / 2; --row) {
+            if (column >= rect.Left && column <= rect.Right && row >= rect.Top &&
+                row <= rect.Bottom && ShowsKnots(pattern, column, row)) {
+                return SquarePos{column, row};
+            }
+        }
+    }
+    return {};
+}
+
+PlacedKnot Placed(const SquarePos& square, const FrenchKnot& knot) {
+    const LatticePos first = LatticeOf(square.X, square.Y, 1);
+    const int position = (knot.Y - first.LY) * 3 + (knot.X - first.LX) + 1;
+    return {square, {position, knot.Orientation, knot.GetPaletteIndex()}};
+}
+
+} // namespace
+
+SquareContent::SquareContent(const StitchCell& cell, const DupStitch* dup) {
+    if (cell.StitchType == NoStitch) {
+        return;
+    }
+    m_stitches[0] = {cell.StitchType, cell.PaletteIndex};
+    m_stitchCount = 1;
+    for (std::size_t slot = 0; dup != nullptr && slot < DupStitch::Slots; ++slot) {
+        if (dup->StitchTypes()[slot] != NoStitch) {
+            m_stitches[static_cast<std::size_t>(m_stitchCount++)] = {dup->StitchTypes()[slot],
+                                                                     dup->PaletteIndexes()[slot]};
+        }
+    }
+}
+
+SquareContent::SquareContent(const Pattern& pattern, int column, int row)
+    : SquareContent(pattern.Cell(column, row),
+                    (pattern.Cell(column, row).CellFlags & CellHasDup) != 0
+                        ? pattern.DupStitches().Find(KeyedTable<DupStitch>::KeyOf(row, column))
+                        : nullptr) {
+    const StitchCell& cell = pattern.Cell(column, row);
+    // The flag hides knots that are in the table.
+    if ((cell.CellFlags & CellHasKnot) == 0) {
+        return;
+    }
+    for (int position = 1; position <= 9; ++position) {
+        const LatticePos at = LatticeOf(column, row, position);
+        const FrenchKnot* knot =
+            pattern.FrenchKnots().Find(KeyedTable<FrenchKnot>::KeyOf(at.LY, at.LX));
+        if (knot != nullptr) {
+            m_knots[static_cast<std::size_t>(m_knotCount++)] = {position, knot->Orientation,
+                                                                knot->GetPaletteIndex()};
+        }
+    }
+}
+
+std::vector<PlacedKnot> KnotsOf(const Pattern& pattern, const SquareRect& rect,
+                                const std::vector<SquarePos>& flagged) {
+    std::vector<PlacedKnot> shown;
+    const KeyedTable<FrenchKnot>& knots = pattern.FrenchKnots();
+    const auto add = [&](const FrenchKnot& knot) {
+        if (const auto square = LastSquareOf(pattern, rect, knot); square) {
+            shown.push_back(Placed(*square, knot));
+        }
+    };
+    // Whichever is less work: walking the table, or asking for the points of the squares.
+    if (knots.Count() <= flagged.size() * 9) {
+        knots.ForEach(add);
+    } else {
+        for (const SquarePos& square : flagged) {
+            for (int position = 1; position <= 9; ++position) {
+                const LatticePos at = LatticeOf(square.X, square.Y, position);
+                if (const auto* knot = knots.Find(KeyedTable<FrenchKnot>::KeyOf(at.LY, at.LX));
+                    knot != nullptr) {
+                    add(*knot);
+                }
+            }
+        }
+    }
+    const auto place = [](const PlacedKnot& knot) {
+        return std::tuple(knot.Square.X, knot.Square.Y, knot.Knot.Position);
+    };
+    std::sort(shown.begin(), shown.end(),
+              [&](const PlacedKnot& a, const PlacedKnot& b) { return place(a) < place(b); });
+    shown.erase(
+        std::unique(shown.begin(), shown.end(),
+                    [&](const PlacedKnot& a, const PlacedKnot& b) { return place(a) == place(b); }),
+        shown.end());
+    return shown;
+}
+
+} // namespace zol

@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QPoint>
+#include <QRect>
+
+#include <memory>
+#include <vector>
+
+#include "grid/painting/PixelMasks.h"
+#include "model/ZOLTypes.h"
+
+class QPainter;
+
+namespace zol {
+
+/// How a backstitch line is drawn, in device pixels.
+struct LinePen {
+    int Style = LineStraight; ///< a LineStyle
+    Colour Floss = 0;
+    Colour Ground = 0xFFFFFF; ///< hides what lies beneath a broken line
+    int Width = 1;
+    double SquareWidth = 10;
+    double SquareHeight = 10;
+};
+
+/// What lines are drawn on. Ends are pixels; a pen of an odd width has its middle in theirs.
+class LineCanvas {
+public:
+    LineCanvas() = default;
+    virtual ~LineCanvas() = default;
+    LineCanvas(const LineCanvas&) = delete;
+    LineCanvas& operator=(const LineCanvas&) = delete;
+
+    /// A straight piece with round ends.
+    virtual void Piece(const QLine& line, int width, Colour colour) = 0;
+    /// A run of Bezier curves through one more than a multiple of three points.
+    virtual void Wave(const std::vector<QPoint>& points, int width, Colour colour) = 0;
+    /// What can be seen of lines; null if that is not known.
+    [[nodiscard]] virtual QRect Visible() const = 0;
+};
+
+/// Draws on any QPainter.
+class PainterCanvas : public LineCanvas {
+public:
+    explicit PainterCanvas(QPainter& painter) : m_painter(painter) {}
+    void Piece(const QLine& line, int width, Colour colour) override;
+    void Wave(const std::vector<QPoint>& points, int width, Colour colour) override;
+    [[nodiscard]] QRect Visible() const override;
+
+private:
+    QPainter& m_painter;
+};
+
+/// Draws straight into pixels, where most lines are many small pieces.
+class PixelCanvas : public LineCanvas {
+public:
+    /// `origin` is the place of the buffer's first pixel on the device.
+    PixelCanvas(const PixelBuffer& target, QPoint origin, bool antialias)
+        : m_target(target),
+          m_origin(origin),
+          m_antialias(antialias) {}
+    void Piece(const QLine& line, int width, Colour colour) override;
+    void Wave(const std::vector<QPoint>& points, int width, Colour colour) override;
+    [[nodiscard]] QRect Visible() const override;
+
+private:
+    /// Pieces of up to so many pixels across and down are blended by masks that are made once a
+    /// paint: the marks along a line are all alike.
+    static constexpr int ShortReach = 8;
+    struct ShortPieces {
+        int Width = 0; ///< of the pen
+        std::vector<std::unique_ptr<const PixelMask>> Masks;
+    };
+
+    void CoverCurve(const std::vector<QPointF>& curve, int width, Colour colour);
+    [[nodiscard]] const PixelMask& ShortPiece(QPoint span, int width);
+    [[nodiscard]] ShortPieces& ShortPiecesOf(int width);
+
+    PixelBuffer m_target;
+    QPoint m_origin;
+    bool m_antialias;
+    PixelMask m_scratch;
+    std::vector<ShortPieces> m_short;
+};
+
+/// Draws one line in its style between two pixels. The pattern of a dash or squiggle starts at the
+/// line's left end. A line of no length is a dot or nothing.
+void DrawStyledLine(LineCanvas& canvas, QPoint start, QPoint end, const LinePen& pen);
+void DrawStyledLine(QPainter& painter, QPoint start, QPoint end, const LinePen& pen);
+
+} // namespace zol

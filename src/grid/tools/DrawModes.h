@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <memory>
+
+#include "grid/tools/Tool.h"
+#include "grid/tools/ToolDesk.h"
+
+namespace zol {
+
+class BackstitchTool;
+
+/// Told when what the tool buttons show has changed.
+class DrawModeListener {
+public:
+    virtual ~DrawModeListener() = default;
+    virtual void DrawModeChanged() = 0;
+    virtual void StitchTypeChanged() = 0;
+    virtual void CurrentColorChanged() = 0;
+    virtual void MirrorModeChanged() = 0;
+    /// A button came up over the grid; all is done that follows from it.
+    virtual void StrokeEnded() = 0;
+};
+
+/// The draw modes: which tool the pointer works, and what it works with. Routes the pointer's
+/// events to the tool, but for what all modes share: the mirror's centre and the status panels.
+class DrawModes {
+public:
+    DrawModes(ToolDesk desk, DrawModeListener& listener);
+    ~DrawModes();
+    DrawModes(const DrawModes&) = delete;
+    DrawModes& operator=(const DrawModes&) = delete;
+
+    /// Ends any open tool first. Mode 9 is refused while painting: there erase is a flag of the
+    /// paint tool. Modes whose tool is not there yet (3 and 5) are refused too.
+    void SetDrawMode(DrawMode mode);
+    [[nodiscard]] DrawMode GetDrawMode() const { return m_mode; }
+    /// Back to the last mode other than the zoom tool.
+    void RestoreDrawMode();
+    [[nodiscard]] DrawMode LastDrawMode() const { return m_lastMode; }
+    /// The mode whose button stays pressed while another tool borrows the pointer: stitches or
+    /// lines. It says what the eraser takes.
+    [[nodiscard]] DrawMode BaseDrawMode() const { return m_baseMode; }
+
+    /// Sets the draw mode to stitches first. An unknown type becomes 1, and so does type 13 while
+    /// no custom stitch is selected.
+    void SetStitchType(int type);
+    /// Does nothing for an index outside the palette.
+    void SetCurrentColor(int index);
+    /// The button "ERASE" while painting: the fill then takes stitches away.
+    void SetPaintErases(bool on);
+    [[nodiscard]] bool PaintErases() const { return m_paintErases; }
+
+    /// A mode that is on is turned off.
+    void ToggleMirrorMode(MirrorAxis axis);
+    void ClearMirrorMode();
+
+    void Press(const PointerEvent& event);
+    /// Brings the place into the pattern first.
+    void Move(const PointerEvent& event);
+    void Release(const PointerEvent& event);
+    /// Escape: ends what the tool has under way, or a mode other than stitches and lines.
+    void Escape();
+
+    [[nodiscard]] Overlay GetOverlay() const;
+    [[nodiscard]] GridCursor Cursor() const;
+    /// The tool of mode 2, for the commands of its menu.
+    [[nodiscard]] BackstitchTool& Lines() { return *m_lines; }
+
+private:
+    [[nodiscard]] Tool& Current() const;
+    void ShowStatus(const PointerEvent& event);
+
+    ToolDesk m_desk;
+    DrawModeListener& m_listener;
+    DrawMode m_mode = DrawStitches;
+    DrawMode m_lastMode = DrawStitches;
+    DrawMode m_baseMode = DrawStitches;
+    bool m_paintErases = false;
+    std::unique_ptr<Tool> m_stitches;
+    std::unique_ptr<BackstitchTool> m_lines;
+    std::unique_ptr<Tool> m_zoom;
+    std::unique_ptr<Tool> m_paint;
+    std::unique_ptr<Tool> m_picker;
+    std::unique_ptr<Tool> m_eraser;
+};
+
+} // namespace zol

@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "model/Doors.h"
+#include "model/OpenDesign.h"
+#include "model/ZOLTypes.h"
+
+namespace zol {
+
+/// What an undo step remembers.
+enum class UndoKind : std::uint8_t {
+    Snapshot = 0,     ///< the whole design, in a file
+    Squares = 1,      ///< the squares of a stroke
+    Lines = 2,        ///< how many lines there were
+    CustomStitch = 3, ///< squares and lines
+};
+
+/// Told by an undo what has to be painted anew.
+class UndoView {
+public:
+    virtual ~UndoView() = default;
+    virtual void SetBusy(bool busy) = 0;
+    /// Before a snapshot comes back: whatever floats over the grid is let go, not written back.
+    virtual void DropFloating() = 0;
+    virtual void RedrawSquares(const SquareRect& rect) = 0;
+    /// The whole design has been replaced; its size may differ.
+    virtual void DesignChanged() = 0;
+};
+
+/// One level of undo, and no redo. Every command that changes the pattern opens a step and closes
+/// it; the next step replaces it.
+class Undo : public UndoRecorder {
+public:
+    /// `snapshotFile` is where snapshots go. The view may be null.
+    Undo(DesignHolder& open, std::filesystem::path snapshotFile);
+    ~Undo() override;
+    Undo(const Undo&) = delete;
+    Undo& operator=(const Undo&) = delete;
+
+    void SetView(UndoView* view) { m_view = view; }
+    /// Where snapshots go: "ZOLUNDO" from the environment if it is set, else "tmppat.$$$" in the
+    /// folder given.
+    [[nodiscard]] static std::filesystem::path SnapshotPath(const std::filesystem::path& folder);
+
+    void BeginUndo(UndoKind kind, const std::string& label);
+    void EndUndo();
+    /// Takes the last finished step back. Nothing happens without one.
+    void PerformUndo();
+    void ClearUndo();
+    /// Writes a snapshot that belongs to no step, so that the file is never of an older design.
+    void RefreshSnapshot();
+    void DeleteUndoFile();
+
+    [[nodiscard]] bool IsAvailable() const { return m_available; }
+    /// Empty if nothing can be undone.
+    [[nodiscard]] std::string GetUndoLabel() const { return m_available ? m_label : std::string(); }
+    /// The squares touched since BeginUndo; empty (Left > Right) if there are none.
+    [[nodiscard]] SquareRect StrokeRect() const { return m_strokeRect; }
+
+    /// LogSquare: the pattern tells each square just before it changes.
+    void RecordSquare(const Pattern& pattern, int x, int y) override;
+
+private:
+    /// A stitch of a square as it was, or the end of the square's records (both codes 255).
+    struct LoggedStitch {
+        std::uint8_t StitchType = NoStitch;
+        std::uint8_t PaletteIndex = NoFloss;
+        std::uint8_t KnotPosition = 0;
+        std::uint8_t KnotOrientation = 0;
+        std::int16_t Column = 0;
+        std::int16_t Row = 0;
+    };
+
+    void WriteSnapshot();
+    void LoadSnapshot();
+    void ReplaySquares();
+    std::size_t RestoreSquare(std::size_t end);
+    void RemoveNewLines();
+
+    DesignHolder& m_open;
+    std::filesystem::path m_snapshotFile;
+    UndoView* m_view = nullptr;
+    bool m_available = false;
+    bool m_recording = false;
+    bool m_hasSnapshot = false;
+    UndoKind m_kind = UndoKind::Snapshot;
+    std::string m_label;
+    int m_lineCount = 0;
+    SquareRect m_strokeRect;
+    std::vector<LoggedStitch> m_log;
+};
+
+/// Keeps an undo step open for as long as it lives.
+class UndoStep {
+public:
+    UndoStep(Undo& steps, UndoKind kind, const std::string& label) : m_steps(&steps) {
+        steps.BeginUndo(kind, label);
+    }
+    ~UndoStep() {
+        if (m_steps != nullptr) {
+            m_steps->EndUndo();
+        }
+    }
+    UndoStep(UndoStep&& other) noexcept : m_steps(std::exchange(other.m_steps, nullptr)) {}
+    UndoStep(const UndoStep&) = delete;
+    UndoStep& operator=(const UndoStep&) = delete;
+    UndoStep& operator=(UndoStep&&) = delete;
+
+private:
+    Undo* m_steps;
+};
+
+} // namespace zol
