@@ -11,11 +11,13 @@
 namespace zol {
 
 class BackstitchTool;
+class PaintTool;
 
 /// Told when what the tool buttons show has changed.
 class DrawModeListener {
 public:
     virtual ~DrawModeListener() = default;
+    /// The mode, or whether the fill erases.
     virtual void DrawModeChanged() = 0;
     virtual void StitchTypeChanged() = 0;
     virtual void CurrentColorChanged() = 0;
@@ -49,9 +51,12 @@ public:
     void SetStitchType(int type);
     /// Does nothing for an index outside the palette.
     void SetCurrentColor(int index);
-    /// The button "ERASE" while painting: the fill then takes stitches away.
+    /// The button "ERASE" while painting: the fill then takes stitches away. It comes up when
+    /// painting ends; without painting this does nothing.
     void SetPaintErases(bool on);
-    [[nodiscard]] bool PaintErases() const { return m_paintErases; }
+    [[nodiscard]] bool PaintErases() const;
+    /// After a change of the palette, or another design: a floss that is gone gives way to 1.
+    void PaletteChanged();
 
     /// A mode that is on is turned off.
     void ToggleMirrorMode(MirrorAxis axis);
@@ -70,7 +75,10 @@ public:
     [[nodiscard]] BackstitchTool& Lines() { return *m_lines; }
 
 private:
-    [[nodiscard]] Tool& Current() const;
+    /// Null for a mode without a tool.
+    [[nodiscard]] Tool* ToolOf(DrawMode mode) const;
+    [[nodiscard]] Tool& Current() const { return *ToolOf(m_mode); }
+    [[nodiscard]] bool HasSquares() const;
     void ShowStatus(const PointerEvent& event);
 
     ToolDesk m_desk;
@@ -78,11 +86,11 @@ private:
     DrawMode m_mode = DrawStitches;
     DrawMode m_lastMode = DrawStitches;
     DrawMode m_baseMode = DrawStitches;
-    bool m_paintErases = false;
+    bool m_mirrorHolds = false; ///< the right button is down and was the mirror's
     std::unique_ptr<Tool> m_stitches;
     std::unique_ptr<BackstitchTool> m_lines;
     std::unique_ptr<Tool> m_zoom;
-    std::unique_ptr<Tool> m_paint;
+    std::unique_ptr<PaintTool> m_paint;
     std::unique_ptr<Tool> m_picker;
     std::unique_ptr<Tool> m_eraser;
 };

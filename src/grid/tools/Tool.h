@@ -15,7 +15,8 @@ enum class PointerButton { None, Left, Right };
 /// brought into it.
 struct PointerEvent {
     GridSpot At;
-    PointerButton Button = PointerButton::None; ///< pressed, released, or held down during a move
+    /// Pressed or released; during a move the one held down, None when two are.
+    PointerButton Button = PointerButton::None;
     bool Shift = false;
     bool Ctrl = false;
 };
