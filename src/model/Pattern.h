@@ -184,6 +184,11 @@ public:
     void SetUndoRecorder(UndoRecorder* recorder) { m_recorder = recorder; }
     [[nodiscard]] bool IsRecording() const { return m_recording; }
     void SetRecording(bool on) { m_recording = on; }
+    /// Notes and puts back a square exactly, also what the lists of readers do not show: a knot
+    /// under a clear flag, stitches that SetStitch would not bring together. Outside the grid the
+    /// state is empty, and putting one back does nothing.
+    [[nodiscard]] SquareState GetSquareState(int x, int y) const;
+    void SetSquareState(const SquareState& state);
 
     // --- Files (PatternFile.cpp) ---------------------------------------------------------
     /// A file of its own. 0, ErrNoSuchFile, ErrChecksumMismatch or a run-time error number; the

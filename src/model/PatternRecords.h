@@ -4,10 +4,25 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "model/DupStitch.h"
+#include "model/FrenchKnot.h"
+#include "model/ZOLTypes.h"
+
 namespace zol {
+
+/// A square with all that a stitch set or deleted in it can reach: its own stitches, the knots on
+/// its nine lattice points, and which of the squares around it list knots.
+struct SquareState {
+    SquarePos At;
+    StitchCell Cell;
+    std::optional<DupStitch> Dup;
+    std::vector<FrenchKnot> Knots;
+    std::uint16_t KnotFlags = 0; ///< a bit for each of the 3 by 3 squares, column by column
+};
 
 /// An identity that a pattern carries, and where it came from.
 struct PatternIDRecord {

@@ -36,21 +36,28 @@ public:
 };
 
 /// One level of undo, and no redo. Every command that changes the pattern opens a step and closes
-/// it; the next step replaces it.
+/// it; the next step replaces it. The holder and what stands open in it outlive this.
 class Undo : public UndoRecorder {
 public:
-    /// `snapshotFile` is where snapshots go. The view may be null.
+    /// `snapshotFile` is where snapshots go. What stands open is watched from here on.
     Undo(DesignHolder& open, std::filesystem::path snapshotFile);
     ~Undo() override;
     Undo(const Undo&) = delete;
     Undo& operator=(const Undo&) = delete;
 
+    /// Null for none.
     void SetView(UndoView* view) { m_view = view; }
+    /// Becomes the recorder of the pattern that stands open now. To be called whenever the holder
+    /// has been given another design; a step of the old one is forgotten.
+    void WatchOpenDesign();
     /// Where snapshots go: "ZOLUNDO" from the environment if it is set, else "tmppat.$$$" in the
     /// folder given.
     [[nodiscard]] static std::filesystem::path SnapshotPath(const std::filesystem::path& folder);
 
+    /// A snapshot that cannot be written is told at the message door; the command goes on, and
+    /// its step will not be offered.
     void BeginUndo(UndoKind kind, const std::string& label);
+    /// Without an open step nothing happens.
     void EndUndo();
     /// Takes the last finished step back. Nothing happens without one.
     void PerformUndo();
@@ -69,33 +76,33 @@ public:
     void RecordSquare(const Pattern& pattern, int x, int y) override;
 
 private:
-    /// A stitch of a square as it was, or the end of the square's records (both codes 255).
-    struct LoggedStitch {
-        std::uint8_t StitchType = NoStitch;
-        std::uint8_t PaletteIndex = NoFloss;
-        std::uint8_t KnotPosition = 0;
-        std::uint8_t KnotOrientation = 0;
-        std::int16_t Column = 0;
-        std::int16_t Row = 0;
+    /// What a load would not bring back.
+    struct KeptFlags {
+        PatternHeader Header;
+        bool AllowFlossMapping = true;
     };
 
-    void WriteSnapshot();
-    void LoadSnapshot();
+    [[nodiscard]] int WriteSnapshot();
+    [[nodiscard]] int ReadSnapshot();
+    void PutSnapshotBack();
     void ReplaySquares();
-    std::size_t RestoreSquare(std::size_t end);
     void RemoveNewLines();
+    void Redraw(const SquareRect& rect);
+    void SetBusy(bool busy);
 
     DesignHolder& m_open;
     std::filesystem::path m_snapshotFile;
     UndoView* m_view = nullptr;
+    bool m_stepOpen = false;
     bool m_available = false;
     bool m_recording = false;
-    bool m_hasSnapshot = false;
+    bool m_hasSnapshot = false; ///< the file holds what stood open when it was last written
     UndoKind m_kind = UndoKind::Snapshot;
     std::string m_label;
     int m_lineCount = 0;
+    KeptFlags m_keptFlags;
     SquareRect m_strokeRect;
-    std::vector<LoggedStitch> m_log;
+    std::vector<SquareState> m_log;
 };
 
 /// Keeps an undo step open for as long as it lives.
