@@ -11,6 +11,7 @@
 namespace zol {
 
 class BackstitchTool;
+class EraseTool;
 class PaintTool;
 
 /// Told when what the tool buttons show has changed.
@@ -79,7 +80,7 @@ private:
     [[nodiscard]] Tool* ToolOf(DrawMode mode) const;
     [[nodiscard]] Tool& Current() const { return *ToolOf(m_mode); }
     [[nodiscard]] bool HasSquares() const;
-    void ShowStatus(const PointerEvent& event);
+    void ShowStatus(int column, int row);
 
     ToolDesk m_desk;
     DrawModeListener& m_listener;
@@ -92,7 +93,7 @@ private:
     std::unique_ptr<Tool> m_zoom;
     std::unique_ptr<PaintTool> m_paint;
     std::unique_ptr<Tool> m_picker;
-    std::unique_ptr<Tool> m_eraser;
+    std::unique_ptr<EraseTool> m_eraser;
 };
 
 } // namespace zol

@@ -26,7 +26,7 @@ public:
     [[nodiscard]] GridCursor Cursor() const override { return GridCursor::Paint; }
 
 private:
-    void Fill(const GridSpot& at);
+    void Fill(int column, int row);
 
     ToolDesk m_desk;
     std::function<void()> m_painted;

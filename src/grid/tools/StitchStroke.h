@@ -26,10 +26,10 @@ public:
 
 private:
     void DrawRun(SquarePos to, int position);
+    void ChangeSquare(SquarePos square, int position);
     void SetSquare(int column, int row, int position);
-    void MirrorSquare(int column, int row, int position);
     void EraseSquare(int column, int row);
-    void RedrawStitch(int column, int row, int stitchType, int position);
+    void Redraw(const SquareRect& rect);
 
     ToolDesk m_desk;
     PointerButton m_button = PointerButton::None;
