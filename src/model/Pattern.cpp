@@ -57,7 +57,7 @@ void Pattern::Initialize(int width, int height, int clothCountX, int clothCountY
     m_header.PatternFlags = flags;
     m_dupStitches.Clear();
     m_frenchKnots.Clear();
-    m_lines.clear();
+    LinesToChange().clear();
     m_ids.clear();
     m_notes.clear();
     m_counts = PatternCounts{};
@@ -104,7 +104,7 @@ void Pattern::Resize(int width, int height, int clothCountX, int clothCountY) {
                     m_grid.begin() +
                         static_cast<std::ptrdiff_t>(column * static_cast<std::size_t>(m_height)));
     }
-    std::erase_if(m_lines, [width, height](const BackStitchLine& line) {
+    std::erase_if(LinesToChange(), [width, height](const BackStitchLine& line) {
         return line.StartX > width || line.EndX > width || line.StartY > height ||
                line.EndY > height;
     });

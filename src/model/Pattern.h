@@ -18,6 +18,7 @@
 #include "model/PatternHeader.h"
 #include "model/PatternRecords.h"
 #include "model/ProgramContext.h"
+#include "model/Revision.h"
 #include "model/ZOLTypes.h"
 
 namespace zol {
@@ -75,10 +76,7 @@ public:
         return x >= 1 && y >= 1 && x <= m_width && y <= m_height;
     }
     /// Whether a knot can stand there: lattice points run from 1 to twice the size plus 1.
-    [[nodiscard]] bool IsOnLattice(LatticePos point) const {
-        return point.LX >= 1 && point.LX <= m_width * 2 + 1 && point.LY >= 1 &&
-               point.LY <= m_height * 2 + 1;
-    }
+    [[nodiscard]] bool IsOnLattice(LatticePos point) const;
     [[nodiscard]] const KeyedTable<DupStitch>& DupStitches() const { return m_dupStitches; }
     [[nodiscard]] const KeyedTable<FrenchKnot>& FrenchKnots() const { return m_frenchKnots; }
 
@@ -122,6 +120,8 @@ public:
     [[nodiscard]] int GetBottomMostLine() const;
     void FixBackStitchLines();
     [[nodiscard]] const std::vector<BackStitchLine>& Lines() const { return m_lines; }
+    /// Two tables of lines that differ never have the same, whichever pattern is theirs. Not 0.
+    [[nodiscard]] std::uint64_t LinesRevision() const { return m_linesRevision.Number(); }
 
     // --- Areas (PatternAreas.cpp, PatternFlosses.cpp, PatternPaint.cpp) ------------------
     [[nodiscard]] SquareRect GetPatternRect() const;
@@ -234,9 +234,7 @@ private:
     void SizeGrid(int width, int height);
     void Record(int x, int y);
     /// False for a knot and for requests: SetStitch without a position does not store them.
-    [[nodiscard]] static bool IsStoredPlainly(int stitchType) {
-        return stitchType != StitchFKnot && stitchType != StitchS3Q && stitchType != StitchSQ;
-    }
+    [[nodiscard]] static bool IsStoredPlainly(int stitchType);
     /// Whether a new stitch takes away an old one of that kind.
     [[nodiscard]] static bool Replaces(std::uint8_t fresh, std::uint8_t old);
     void PlaceStitch(int x, int y, std::uint8_t kind, std::uint8_t paletteIndex);
@@ -258,6 +256,8 @@ private:
     [[nodiscard]] static bool IsKnotInRange(const FrenchKnot& knot, const SquareRect& range);
     /// Inches of one square's diagonal; 0 for a cloth without a count.
     [[nodiscard]] double GetDiagonal() const;
+    /// Lines that are about to be changed, with a new revision; LineAt null outside.
+    [[nodiscard]] std::vector<BackStitchLine>& LinesToChange();
     [[nodiscard]] BackStitchLine* LineAt(int index);
     [[nodiscard]] bool IsUsed(int x, int y) const;
     [[nodiscard]] SquareRect GetStitchRect() const;
@@ -279,6 +279,7 @@ private:
     KeyedTable<DupStitch> m_dupStitches;
     KeyedTable<FrenchKnot> m_frenchKnots;
     std::vector<BackStitchLine> m_lines;
+    Revision m_linesRevision;
     zol::Palette m_palette;
     PatternHeader m_header;
     bool m_allowFlossMapping = true;

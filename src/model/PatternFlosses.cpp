@@ -61,9 +61,9 @@ void Pattern::RemoveFlosses(const FlossRemoval& removal) {
         knot.AddFrenchKnot(removal.newIndex[floss]);
         return true;
     });
-    std::erase_if(m_lines,
+    std::erase_if(LinesToChange(),
                   [&](const BackStitchLine& line) { return removal.gone[line.PaletteIndex]; });
-    for (BackStitchLine& line : m_lines) {
+    for (BackStitchLine& line : LinesToChange()) {
         line.PaletteIndex = removal.newIndex[line.PaletteIndex];
     }
     for (const int entry : removal.entries) {
@@ -160,7 +160,7 @@ void Pattern::MapPalette(const std::vector<std::uint8_t>& map) {
         }
     }
     m_dupStitches.ForEach([&map](DupStitch& dup) { dup.MapPalette(map); });
-    for (BackStitchLine& line : m_lines) {
+    for (BackStitchLine& line : LinesToChange()) {
         line.PaletteIndex = mapped[line.PaletteIndex];
     }
     m_frenchKnots.ForEach(

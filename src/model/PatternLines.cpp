@@ -72,9 +72,14 @@ int BottomReach(int y, int position) {
 
 } // namespace
 
+std::vector<BackStitchLine>& Pattern::LinesToChange() {
+    m_linesRevision.Renew();
+    return m_lines;
+}
+
 BackStitchLine* Pattern::LineAt(int index) {
     return index >= 1 && index <= GetBackStitchCount()
-               ? &m_lines[static_cast<std::size_t>(index - 1)]
+               ? &LinesToChange()[static_cast<std::size_t>(index - 1)]
                : nullptr;
 }
 
@@ -93,7 +98,7 @@ void Pattern::AddBackStitchLine(BackStitchLine& line) {
     if (!IsInGrid(line.StartX, line.StartY) || !IsInGrid(line.EndX, line.EndY)) {
         return;
     }
-    m_lines.push_back(line);
+    LinesToChange().push_back(line);
 }
 
 void Pattern::SetBackstitchLine(BackStitchLine line) {
@@ -106,8 +111,8 @@ void Pattern::SetBackstitchLine(BackStitchLine line) {
 }
 
 void Pattern::RemoveBackStitchLine(int index) {
-    if (LineAt(index) != nullptr) {
-        m_lines.erase(m_lines.begin() + (index - 1));
+    if (index >= 1 && index <= GetBackStitchCount()) {
+        LinesToChange().erase(m_lines.begin() + (index - 1));
     }
 }
 
@@ -129,7 +134,7 @@ void Pattern::Changebackstitchline(int paletteIndex, int pictureIndex) {
     if (pictureIndex < 1 || pictureIndex > 6) {
         return;
     }
-    for (BackStitchLine& line : m_lines) {
+    for (BackStitchLine& line : LinesToChange()) {
         if (line.PaletteIndex == paletteIndex) {
             line.LineStyle = styleOfPicture[static_cast<std::size_t>(pictureIndex)];
         }

@@ -59,6 +59,15 @@ int ResolveKind(int kind, int position) {
 
 } // namespace
 
+bool Pattern::IsOnLattice(LatticePos point) const {
+    return point.LX >= 1 && point.LX <= m_width * 2 + 1 && point.LY >= 1 &&
+           point.LY <= m_height * 2 + 1;
+}
+
+bool Pattern::IsStoredPlainly(int stitchType) {
+    return stitchType != StitchFKnot && stitchType != StitchS3Q && stitchType != StitchSQ;
+}
+
 bool Pattern::Replaces(std::uint8_t fresh, std::uint8_t old) {
     return fresh < exclusionSets.size() && old < exclusionSets.size() &&
            ((unsigned{exclusionSets[fresh]} >> old) & 1U) != 0;

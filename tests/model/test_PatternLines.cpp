@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "model/ModelTestKit.h"
+#include "support/TempFolder.h"
 
 namespace zol {
 namespace {
@@ -185,6 +186,80 @@ TEST_F(PatternLines, FixStopsOneShortOfTheLastLineAndRunsBothTests) {
     EXPECT_EQ(pattern.GetBackStitchLine(4).PaletteIndex, 0)
         << "made 1 by the first test and the count by the second";
     EXPECT_EQ(pattern.GetBackStitchLine(1).PaletteIndex, 0);
+}
+
+TEST_F(PatternLines, EveryChangeOfTheLinesHasARevisionOfItsOwn) {
+    std::set<std::uint64_t> seen{pattern.LinesRevision()};
+    const auto expectNew = [&](const char* what) {
+        EXPECT_TRUE(seen.insert(pattern.LinesRevision()).second) << what;
+    };
+    Added(Line(1, 1, 1, 4, 4, 5, 2));
+    expectNew("added");
+    pattern.SetBackstitchLine(Line(2, 2, 1, 10, 8, 5, 3));
+    expectNew("set");
+    pattern.ChangeBSColor(1, 4);
+    expectNew("another floss");
+    pattern.ChangeBSStyle(1, LineDashed);
+    expectNew("another style");
+    pattern.Changebackstitchline(4, 5);
+    expectNew("another style for a floss");
+    pattern.MoveArea(1, 1, 10, 8, -1, 0);
+    expectNew("moved");
+    pattern.ChangeColor(3, 5, Pattern::WholePattern, 0, 0, 0);
+    expectNew("a floss changed for another");
+    pattern.MapPalette({0, 1, 2, 3, 4, 6});
+    expectNew("a floss renumbered");
+    pattern.RemoveColor(6, Pattern::WholePattern, 0, 0, 0);
+    expectNew("a floss taken out");
+    pattern.Resize(3, 3, 14, 14);
+    expectNew("cut to a smaller grid");
+    Added(Line(1, 1, 1, 3, 3, 5, 2));
+    expectNew("added again");
+    pattern.RemoveBackStitchLine(1);
+    expectNew("removed");
+    pattern.Initialize(10, 8, 14, 14);
+    expectNew("a fresh pattern");
+}
+
+TEST_F(PatternLines, StitchesAndReadersLeaveTheLinesRevision) {
+    Added(Line(1, 1, 1, 4, 4, 5, 2));
+    const std::uint64_t before = pattern.LinesRevision();
+    pattern.SetStitch(3, 3, StitchWhole, 1, 5);
+    pattern.DeleteStitch(3, 3, Pattern::Everything);
+    pattern.RemoveBackStitchLine(2);
+    pattern.ChangeBSColor(0, 1);
+    (void)pattern.GetBackStitchLine(1);
+    (void)pattern.IsLineInRect(1, 1, 1, 5, 5);
+    EXPECT_EQ(pattern.LinesRevision(), before);
+}
+
+TEST_F(PatternLines, TheRevisionGoesWithItsLines) {
+    Pattern other = Make(10, 8);
+    EXPECT_NE(other.LinesRevision(), pattern.LinesRevision());
+    Added(Line(1, 1, 1, 4, 4, 5, 2));
+    const std::uint64_t revision = pattern.LinesRevision();
+    Pattern moved = std::move(pattern);
+    EXPECT_EQ(moved.LinesRevision(), revision);
+    EXPECT_NE(pattern.LinesRevision(), revision) << "without lines now"; // NOLINT: that is the test
+    other = std::move(moved);
+    EXPECT_EQ(other.LinesRevision(), revision);
+    EXPECT_NE(moved.LinesRevision(), revision); // NOLINT
+    EXPECT_NE(moved.LinesRevision(), pattern.LinesRevision());
+}
+
+TEST_F(PatternLines, ALoadGivesAnotherRevision) {
+    const test::TempFolder folder;
+    Added(Line(1, 1, 1, 4, 4, 5, 2));
+    const std::filesystem::path file = folder / "Lines.zol";
+    ASSERT_EQ(pattern.Save(file), 0);
+    std::set<std::uint64_t> seen{pattern.LinesRevision()};
+    for (int load = 1; load <= 3; ++load) {
+        ASSERT_EQ(pattern.Load(file), 0);
+        EXPECT_TRUE(seen.insert(pattern.LinesRevision()).second);
+    }
+    Pattern other(context);
+    ASSERT_EQ(other.Load(file), 0);
+    EXPECT_TRUE(seen.insert(other.LinesRevision()).second);
 }
 
 } // namespace

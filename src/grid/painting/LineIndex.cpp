@@ -14,11 +14,13 @@ namespace zol {
 
 namespace {
 
-bool SameLines(const std::vector<BackStitchLine>& a, const std::vector<BackStitchLine>& b) {
+bool SameLine(const BackStitchLine& a, const BackStitchLine& b) {
     static_assert(std::has_unique_object_representations_v<BackStitchLine>);
-    return a.size() == b.size() &&
-           (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(BackStitchLine)) == 0);
+    return std::memcmp(&a, &b, sizeof a) == 0;
 }
+
+/// Changes of up to one line in so many are worked into the blocks; more of them make them anew.
+constexpr std::size_t LinesPerChange = 4;
 
 } // namespace
 
@@ -38,21 +40,67 @@ std::vector<int> LineIndex::Find(const Pattern& pattern, const SquareRect& rect)
 }
 
 void LineIndex::Update(const Pattern& pattern) {
-    // One comparison of the table's bytes is far cheaper than telling every change apart.
-    if (m_width == pattern.GetPatternWidth() && m_height == pattern.GetPatternHeight() &&
-        SameLines(m_lines, pattern.Lines())) {
+    if (m_revision == pattern.LinesRevision()) {
         return;
     }
+    if (m_width != pattern.GetPatternWidth() || m_height != pattern.GetPatternHeight() ||
+        !Mend(pattern.Lines())) {
+        Rebuild(pattern);
+    }
+    m_revision = pattern.LinesRevision();
+}
+
+void LineIndex::Rebuild(const Pattern& pattern) {
     m_width = pattern.GetPatternWidth();
     m_height = pattern.GetPatternHeight();
     m_lines = pattern.Lines();
     m_blocksAcross = m_width / BlockSize + 1;
     m_blocksDown = m_height / BlockSize + 1;
-    m_blocks.assign(
-        static_cast<std::size_t>(m_blocksAcross) * static_cast<std::size_t>(m_blocksDown), {});
-    m_seen.assign(m_lines.size() + 1, 0);
-    m_search = 0;
-    for (std::size_t i = 0; i < m_lines.size(); ++i) {
+    m_blocks.resize(static_cast<std::size_t>(m_blocksAcross) *
+                    static_cast<std::size_t>(m_blocksDown));
+    for (std::vector<int>& block : m_blocks) {
+        block.clear();
+    }
+    m_seen.resize(m_lines.size() + 1);
+    InsertLines(0, m_lines.size());
+}
+
+bool LineIndex::Mend(const std::vector<BackStitchLine>& lines) {
+    const std::size_t fewer = std::min(m_lines.size(), lines.size());
+    std::size_t before = 0;
+    while (before < fewer && SameLine(m_lines[before], lines[before])) {
+        ++before;
+    }
+    std::size_t behind = 0;
+    while (behind < fewer - before &&
+           SameLine(m_lines[m_lines.size() - 1 - behind], lines[lines.size() - 1 - behind])) {
+        ++behind;
+    }
+    const std::size_t gone = m_lines.size() - behind - before;
+    const std::size_t fresh = lines.size() - behind - before;
+    if ((gone + fresh) * LinesPerChange > lines.size()) {
+        return false;
+    }
+    if (before < m_lines.size()) {
+        Renumber(static_cast<int>(before), static_cast<int>(gone), static_cast<int>(fresh));
+    }
+    m_lines = lines;
+    m_seen.resize(m_lines.size() + 1);
+    InsertLines(before, before + fresh);
+    return true;
+}
+
+void LineIndex::Renumber(int before, int gone, int fresh) {
+    for (std::vector<int>& block : m_blocks) {
+        std::erase_if(block, [=](int index) { return index > before && index <= before + gone; });
+        for (int& index : block) {
+            index += index > before ? fresh - gone : 0;
+        }
+    }
+}
+
+void LineIndex::InsertLines(std::size_t from, std::size_t to) {
+    for (std::size_t i = from; i < to; ++i) {
         Insert(m_lines[i], static_cast<int>(i) + 1);
     }
 }

@@ -14,7 +14,8 @@ namespace zol {
 class Pattern;
 
 /// Finds a pattern's backstitch lines by the squares that they cross, so that a small repaint
-/// does not walk all of them. Brought up to date when the pattern or its lines have changed.
+/// does not walk all of them. Brought up to date when the pattern or its lines have changed: a line
+/// more or less costs a walk over the numbers, not all the geometry.
 class LineIndex {
 public:
     /// Indexes from 1, ascending, of the lines that may touch the rectangle of squares.
@@ -26,6 +27,13 @@ private:
     static constexpr std::size_t WalkUpTo = 64;
 
     void Update(const Pattern& pattern);
+    void Rebuild(const Pattern& pattern);
+    /// Works the difference to the lines in the blocks into them; false if there is too much of it.
+    bool Mend(const std::vector<BackStitchLine>& lines);
+    /// Takes the lines that are gone behind the first `before` out of the blocks and leaves room
+    /// in the numbers for fresh ones.
+    void Renumber(int before, int gone, int fresh);
+    void InsertLines(std::size_t from, std::size_t to);
     void Insert(const BackStitchLine& line, int index);
     [[nodiscard]] std::vector<int> FindInBlocks(const SquareRect& rect);
     [[nodiscard]] int BlockOf(int square, int blocks) const;
@@ -34,6 +42,7 @@ private:
                static_cast<std::size_t>(column);
     }
 
+    std::uint64_t m_revision = 0;        ///< of the lines; 0 before the first
     std::vector<BackStitchLine> m_lines; ///< as they stand in the blocks
     int m_width = 0;
     int m_height = 0;

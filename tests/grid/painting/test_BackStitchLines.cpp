@@ -206,5 +206,43 @@ TEST_F(LineIndexTest, ServesSeveralPatternsInTurn) {
     ExpectNothingIsMissed();
 }
 
+TEST_F(LineIndexTest, WorkingChangesInIsAsGoodAsAnIndexMadeAnew) {
+    AddLines(500, 12);
+    (void)index.Find(pattern, {1, 1, 5, 5});
+    for (int change = 0; change < 300; ++change) {
+        const int which = Roll(1, pattern.GetBackStitchCount());
+        switch (change % 5) {
+        case 0:
+            AddLines(1, 40);
+            break;
+        case 1:
+            pattern.RemoveBackStitchLine(which);
+            break;
+        case 2: // one gone at the front and several more behind
+            pattern.RemoveBackStitchLine(1);
+            AddLines(3, 8);
+            break;
+        case 3: // one line moves, and stands where it stood among the others
+            pattern.MoveArea(Roll(1, 150), Roll(1, 100), Roll(151, 300), Roll(101, 200), 1, 1);
+            break;
+        default:
+            pattern.ChangeBSColor(which, Roll(1, 9));
+        }
+        LineIndex fresh;
+        const int left = Roll(1, 250);
+        const int top = Roll(1, 150);
+        const SquareRect rect{left, top, left + Roll(0, 50), top + Roll(0, 50)};
+        ASSERT_EQ(index.Find(pattern, rect), fresh.Find(pattern, rect)) << "change " << change;
+    }
+}
+
+TEST_F(LineIndexTest, FollowsThePatternsSize) {
+    AddLines(300, 30);
+    (void)index.Find(pattern, {1, 1, 5, 5});
+    pattern.Resize(250, 170, 14, 14);
+    LineIndex fresh;
+    EXPECT_EQ(index.Find(pattern, {200, 100, 220, 140}), fresh.Find(pattern, {200, 100, 220, 140}));
+}
+
 } // namespace
 } // namespace zol
