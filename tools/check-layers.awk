@@ -69,7 +69,7 @@ function qt_module(header,    i, modules, n, slash) {
         module_seen[header] = "Qt " substr(header, 3, slash - 3)
     } else if (header ~ /^(Q[A-Z][A-Za-z]*|q[a-z_]+\.h)$/) {
         module_seen[header] = "Qt of an unknown module"
-        n = split("Core Gui Widgets PrintSupport Network Xml Sql Test DBus OpenGL Concurrent", modules, " ")
+        n = split("Core Gui Widgets PrintSupport Network Xml Sql Test DBus OpenGL Concurrent Svg", modules, " ")
         for (i = 1; i <= n; i++)
             if (qt != "" && exists(qt "/Qt" modules[i] "/" header)) {
                 module_seen[header] = "Qt " modules[i]
