@@ -11,6 +11,7 @@
 namespace zol {
 
 /// Draws, selects and edits backstitch lines. A line's ends lie on the half-square lattice.
+/// A click sets the first end and the next one finishes the line; a drag does both at once.
 class BackstitchTool : public Tool {
 public:
     explicit BackstitchTool(ToolDesk desk) : m_desk(desk) {}
@@ -21,12 +22,14 @@ public:
     bool Cancel() override { return CancelLine(); }
     [[nodiscard]] Overlay GetOverlay() const override;
 
-    /// 1-based; 0 for none.
-    [[nodiscard]] int SelectedLine() const { return m_selectedLine; }
+    /// 1-based; 0 for none. A line that has gone or moved since is selected no longer.
+    [[nodiscard]] int SelectedLine() const;
     /// Index of the nearest line within reach, which becomes the selected one, or -1.
     int GetLineAtPoint(const GridSpot& at);
-    /// Removes a line, 0 meaning the selected one, and repaints what it covered.
+    /// Removes a line, 0 meaning the selected one, and repaints what it covered. No undo step
+    /// holds it.
     void RemoveLine(int index);
+    /// Back to idle. A line that was taken up by an end goes back to where it stood.
     bool CancelLine();
 
     // The commands of the line's menu; with no line selected they do nothing.
@@ -37,27 +40,44 @@ public:
 
     /// Whether two ends are the same point of the grid, whatever squares name them.
     [[nodiscard]] static bool PointsEqual(const GridSpot& a, const GridSpot& b);
-    /// Pixels from a spot's point to a line; -1 past the line's ends and beyond 20 pixels.
-    [[nodiscard]] int GetLineDistance(int index, const GridSpot& at) const;
+    /// Pixels of the device from a spot's point to a line; -1 past the line's ends and beyond 20
+    /// of the window's pixels.
+    [[nodiscard]] double GetLineDistance(int index, const GridSpot& at) const;
 
 private:
+    struct Selection {
+        int Index;
+        BackStitchLine Line;
+        bool HandlesShown;
+    };
     struct Grabbed {
-        int PaletteIndex = 0;
-        int LineStyle = 0;
+        BackStitchLine Line; ///< as it stood
+        const Pattern* From;
+        bool OlderThanStep; ///< not one of the lines that the last undo step added
     };
 
-    void StartLine(const GridSpot& at);
+    [[nodiscard]] GridSpot EndAt(const PointerEvent& event) const;
+    [[nodiscard]] bool IsOnGrid(const GridSpot& at) const;
+    [[nodiscard]] SquareRect SquaresOf(const BackStitchLine& line) const;
+
+    void PressLeft(const PointerEvent& event);
+    void PressRight(const GridSpot& at);
+    void TakeUpSelected(const GridSpot& at);
+    /// True if the line was none of the last step's.
+    bool TakeAway(int index);
     void MoveRubberBand(const GridSpot& at);
     void FinishLine(const GridSpot& at);
+    void AddNewLine(BackStitchLine line);
+    void PutDownGrabbed(const BackStitchLine& line);
+    void AddAndShow(const BackStitchLine& line);
 
     ToolDesk m_desk;
-    int m_selectedLine = 0;
-    bool m_handlesShown = false;
+    std::optional<Selection> m_selected;
     bool m_chainLines = false;
+    bool m_stepOpen = false;          ///< begun at the first press, ended with the first line
     std::optional<GridSpot> m_start;  ///< the first end, while a line is under way
     std::optional<GridSpot> m_rubber; ///< the loose end, while a rubber band shows
-    std::optional<Grabbed> m_grabbed; ///< of a line taken up by one of its ends
-    std::optional<UndoStep> m_step;
+    std::optional<Grabbed> m_grabbed; ///< a line taken up by one of its ends
 };
 
 } // namespace zol

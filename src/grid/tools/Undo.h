@@ -72,6 +72,23 @@ public:
     /// The squares touched since BeginUndo; empty (Left > Right) if there are none.
     [[nodiscard]] SquareRect StrokeRect() const { return m_strokeRect; }
 
+    /// A line went outside any step; a step that counts lines goes by the new count. True if the
+    /// line is older than the step.
+    bool LineRemoved(int index) {
+        if (index > m_lineCount) {
+            return false;
+        }
+        --m_lineCount;
+        return true;
+    }
+    /// A line that no step added now stands behind the others, so a step that would take the last
+    /// lines away is given up.
+    void OldLineAdded() {
+        if (m_kind == UndoKind::Lines || m_kind == UndoKind::CustomStitch) {
+            ClearUndo();
+        }
+    }
+
     /// LogSquare: the pattern tells each square just before it changes.
     void RecordSquare(const Pattern& pattern, int x, int y) override;
 
