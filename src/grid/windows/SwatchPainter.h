@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+#include <QRect>
+
+#include "flosses/Palette.h"
+#include "grid/painting/SymbolText.h"
+
+class QPainter;
+
+namespace zol {
+
+/// Paints a floss of a palette as a swatch: its colour with a fine edge, a blend's two colours in
+/// two triangles, and its symbol in black or white, whichever stands out.
+class SwatchPainter {
+public:
+    /// Follows the palette's symbol font. Call once before a row of swatches.
+    void TakeFont(const Palette& palette) { m_symbols.SetFont(palette); }
+    /// Nothing outside the palette.
+    void Paint(QPainter& painter, const QRect& rect, const Palette& palette, int floss,
+               bool withSymbol, const QPalette& theme);
+    /// The frame of the floss that is drawn with: the accent, and inside it a line that keeps it
+    /// apart from any floss.
+    static void PaintFrame(QPainter& painter, const QRect& rect, const Palette& palette, int floss,
+                           const QPalette& theme);
+    /// The dashed ring of the swatch that the keyboard stands on.
+    static void PaintFocus(QPainter& painter, const QRect& rect, const Palette& palette, int floss);
+
+private:
+    void PaintSymbol(QPainter& painter, const QRect& rect, int symbol, const QColor& color);
+
+    SymbolText m_symbols;
+};
+
+} // namespace zol
