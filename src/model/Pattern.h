@@ -240,6 +240,7 @@ private:
     void PlaceStitch(int x, int y, std::uint8_t kind, std::uint8_t paletteIndex);
     void AddToDup(int x, int y, std::uint8_t kind, std::uint8_t paletteIndex);
     void SetKnot(LatticePos point, int paletteIndex);
+    void PutKnotsBack(const SquareState& state);
     void DeleteOneKind(int x, int y, int stitchType);
     void DeleteAll(int x, int y);
     void DeletePrimary(int x, int y);

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <bitset>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -21,7 +22,7 @@ struct SquareState {
     StitchCell Cell;
     std::optional<DupStitch> Dup;
     std::vector<FrenchKnot> Knots;
-    std::uint16_t KnotFlags = 0; ///< a bit for each of the 3 by 3 squares, column by column
+    std::bitset<9> KnotFlags; ///< of the 3 by 3 squares, column by column
 };
 
 /// An identity that a pattern carries, and where it came from.

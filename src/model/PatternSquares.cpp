@@ -5,6 +5,16 @@
 
 namespace zol {
 
+namespace {
+
+/// One of the 3 by 3 squares around a square, column by column.
+SquarePos Neighbour(SquarePos at, std::size_t number) {
+    const int step = static_cast<int>(number);
+    return {at.X - 1 + step / 3, at.Y - 1 + step % 3};
+}
+
+} // namespace
+
 int Pattern::ListedStitches(int x, int y) const {
     // A DupStitch beside an empty primary place is not listed, though GetStitchCount counts it.
     if (Cell(x, y).StitchType == NoStitch) {
@@ -117,6 +127,77 @@ int Pattern::GetFrenchKnotGPs(int x, int y, std::array<bool, 10>& positions) con
         }
     }
     return count;
+}
+
+SquareState Pattern::GetSquareState(int x, int y) const {
+    SquareState state;
+    state.At = {x, y};
+    if (!IsInGrid(x, y)) {
+        return state;
+    }
+    state.Cell = Cell(x, y);
+    if (const DupStitch* dup = m_dupStitches.Find(KeyedTable<DupStitch>::KeyOf(y, x))) {
+        state.Dup = *dup;
+    }
+    for (int position = 1; position <= 9 && !m_frenchKnots.IsEmpty(); ++position) {
+        const LatticePos point = LatticeOf(x, y, position);
+        if (const FrenchKnot* knot =
+                m_frenchKnots.Find(KeyedTable<FrenchKnot>::KeyOf(point.LY, point.LX))) {
+            state.Knots.push_back(*knot);
+        }
+    }
+    for (std::size_t i = 0; i < state.KnotFlags.size(); ++i) {
+        const SquarePos at = Neighbour(state.At, i);
+        state.KnotFlags[i] =
+            IsInGrid(at.X, at.Y) && (Cell(at.X, at.Y).CellFlags & CellHasKnot) != 0;
+    }
+    return state;
+}
+
+void Pattern::SetSquareState(const SquareState& state) {
+    const auto [x, y] = state.At;
+    if (!IsInGrid(x, y)) {
+        return;
+    }
+    Record(x, y);
+    m_changed = true;
+    CellRef(x, y) = state.Cell;
+    const auto key = KeyedTable<DupStitch>::KeyOf(y, x);
+    if (DupStitch* dup = m_dupStitches.Find(key); dup != nullptr && state.Dup) {
+        *dup = *state.Dup;
+    } else if (state.Dup) {
+        m_dupStitches.Add(key, *state.Dup);
+    } else {
+        m_dupStitches.Remove(key);
+    }
+    PutKnotsBack(state);
+    for (std::size_t i = 0; i < state.KnotFlags.size(); ++i) {
+        const SquarePos at = Neighbour(state.At, i);
+        if (IsInGrid(at.X, at.Y)) {
+            const unsigned others = CellRef(at.X, at.Y).CellFlags & ~unsigned{CellHasKnot};
+            const unsigned own = state.KnotFlags[i] ? unsigned{CellHasKnot} : 0U;
+            CellRef(at.X, at.Y).CellFlags = static_cast<std::uint8_t>(others | own);
+        }
+    }
+}
+
+void Pattern::PutKnotsBack(const SquareState& state) {
+    auto kept = state.Knots.begin();
+    for (int position = 1; position <= 9; ++position) {
+        const LatticePos point = LatticeOf(state.At.X, state.At.Y, position);
+        const auto key = KeyedTable<FrenchKnot>::KeyOf(point.LY, point.LX);
+        // Both go by position, so the next one that was there is the only one that may be here.
+        if (kept == state.Knots.end() || kept->X != point.LX || kept->Y != point.LY) {
+            m_frenchKnots.Remove(key);
+        } else {
+            if (FrenchKnot* knot = m_frenchKnots.Find(key)) {
+                *knot = *kept;
+            } else {
+                m_frenchKnots.Add(key, *kept);
+            }
+            ++kept;
+        }
+    }
 }
 
 } // namespace zol

@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "model/Doors.h"
 
@@ -61,6 +62,21 @@ struct ProgramContext {
             Messages->Tell(text, icon, title);
         }
     }
+};
+
+/// Keeps the message door shut for a while: for work whose failures the caller words, or ignores.
+class QuietScope {
+public:
+    explicit QuietScope(ProgramContext& context)
+        : m_context(context),
+          m_saved(std::exchange(context.Messages, nullptr)) {}
+    ~QuietScope() { m_context.Messages = m_saved; }
+    QuietScope(const QuietScope&) = delete;
+    QuietScope& operator=(const QuietScope&) = delete;
+
+private:
+    ProgramContext& m_context;
+    MessageDoor* m_saved;
 };
 
 } // namespace zol

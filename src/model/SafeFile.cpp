@@ -20,6 +20,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
+/// Whether a file has to last over a power cut.
+enum class Lasting { InMemory, OnDisk };
+
 /// A file descriptor that closes itself.
 class OpenFile {
 public:
@@ -86,7 +89,8 @@ fs::path ResolveLink(const fs::path& path) {
 }
 
 /// Renames with the old file kept under the backup's name; puts the old name back on a failure.
-int RenameOver(const fs::path& fresh, const fs::path& path, const fs::path& backup) {
+int RenameOver(Lasting lasting, const fs::path& fresh, const fs::path& path,
+               const fs::path& backup) {
     std::error_code error;
     const bool keepOld = !backup.empty() && fs::exists(path, error);
     if (keepOld) {
@@ -104,8 +108,41 @@ int RenameOver(const fs::path& fresh, const fs::path& path, const fs::path& back
         }
         return number;
     }
-    SyncFolderOf(path);
+    if (lasting == Lasting::OnDisk) {
+        SyncFolderOf(path);
+    }
     return ErrNone;
+}
+
+int ReplaceAs(Lasting lasting, const fs::path& path, std::span<const std::uint8_t> bytes,
+              const fs::path& backup) {
+    const fs::path target = ResolveLink(path);
+    std::error_code error;
+    const fs::file_status status = fs::status(target, error);
+    if (fs::is_directory(status)) {
+        return ErrPathAccess;
+    }
+    if (fs::exists(status) && !fs::is_regular_file(status)) {
+        // A device or a pipe has no name to replace: the bytes go straight to it.
+        OpenFile device(target, O_WRONLY | O_CLOEXEC);
+        const bool done = device.IsOpen() && device.Write(bytes) && device.Close();
+        return done ? ErrNone : SafeFile::ErrorNumberOf(errno);
+    }
+    if (fs::exists(status) && ::access(target.c_str(), W_OK) != 0) {
+        // The folder would let a rename replace it, but a file that was made read-only is meant
+        // to stay.
+        return ErrPermission;
+    }
+    const fs::path fresh = SafeFile::NewNameBeside(target);
+    OpenFile file(fresh, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC);
+    if (!file.IsOpen()) {
+        return SafeFile::ErrorNumberOf(errno);
+    }
+    if (!file.TakeModeOf(target) || !file.Write(bytes) ||
+        (lasting == Lasting::OnDisk && !file.Sync()) || !file.Close()) {
+        return RemoveAndTell(fresh, errno);
+    }
+    return RenameOver(lasting, fresh, target, backup);
 }
 
 } // namespace
@@ -156,36 +193,15 @@ int Adopt(const fs::path& fresh, const fs::path& path) {
     if (!file.IsOpen() || !file.TakeModeOf(target) || !file.Sync()) {
         return RemoveAndTell(fresh, errno);
     }
-    return RenameOver(fresh, target, {});
+    return RenameOver(Lasting::OnDisk, fresh, target, {});
 }
 
 int Replace(const fs::path& path, std::span<const std::uint8_t> bytes, const fs::path& backup) {
-    const fs::path target = ResolveLink(path);
-    std::error_code error;
-    const fs::file_status status = fs::status(target, error);
-    if (fs::is_directory(status)) {
-        return ErrPathAccess;
-    }
-    if (fs::exists(status) && !fs::is_regular_file(status)) {
-        // A device or a pipe has no name to replace: the bytes go straight to it.
-        OpenFile device(target, O_WRONLY | O_CLOEXEC);
-        const bool done = device.IsOpen() && device.Write(bytes) && device.Close();
-        return done ? ErrNone : ErrorNumberOf(errno);
-    }
-    if (fs::exists(status) && ::access(target.c_str(), W_OK) != 0) {
-        // The folder would let a rename replace it, but a file that was made read-only is meant
-        // to stay.
-        return ErrPermission;
-    }
-    const fs::path fresh = NewNameBeside(target);
-    OpenFile file(fresh, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC);
-    if (!file.IsOpen()) {
-        return ErrorNumberOf(errno);
-    }
-    if (!file.TakeModeOf(target) || !file.Write(bytes) || !file.Sync() || !file.Close()) {
-        return RemoveAndTell(fresh, errno);
-    }
-    return RenameOver(fresh, target, backup);
+    return ReplaceAs(Lasting::OnDisk, path, bytes, backup);
+}
+
+int ReplaceUnsynced(const fs::path& path, std::span<const std::uint8_t> bytes) {
+    return ReplaceAs(Lasting::InMemory, path, bytes, {});
 }
 
 fs::path FindIgnoringCase(const fs::path& folder, const std::string& name) {

@@ -20,6 +20,11 @@ namespace SafeFile {
 [[nodiscard]] int Replace(const std::filesystem::path& path, std::span<const std::uint8_t> bytes,
                           const std::filesystem::path& backup = {});
 
+/// The same for a file that nobody needs after a power cut: not synced, and so as quick as the
+/// system's memory.
+[[nodiscard]] int ReplaceUnsynced(const std::filesystem::path& path,
+                                  std::span<const std::uint8_t> bytes);
+
 /// A name for a new file beside `path` that nobody has, for writers that need a name (a PDF
 /// device). The file does not exist yet.
 [[nodiscard]] std::filesystem::path NewNameBeside(const std::filesystem::path& path);

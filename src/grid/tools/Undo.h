@@ -62,7 +62,8 @@ public:
     /// Takes the last finished step back. Nothing happens without one.
     void PerformUndo();
     void ClearUndo();
-    /// Writes a snapshot that belongs to no step, so that the file is never of an older design.
+    /// Forgets the last step and writes a snapshot that belongs to none, so that the file is never
+    /// of an older design.
     void RefreshSnapshot();
     void DeleteUndoFile();
 
@@ -101,6 +102,7 @@ private:
 
     [[nodiscard]] int WriteSnapshot();
     [[nodiscard]] int ReadSnapshot();
+    void TellTrouble(const std::string& what, const std::string& why) const;
     void PutSnapshotBack();
     void ReplaySquares();
     void RemoveNewLines();
@@ -113,7 +115,8 @@ private:
     bool m_stepOpen = false;
     bool m_available = false;
     bool m_recording = false;
-    bool m_hasSnapshot = false; ///< the file holds what stood open when it was last written
+    bool m_hasSnapshot = false; ///< of this step
+    bool m_wroteFile = false;
     UndoKind m_kind = UndoKind::Snapshot;
     std::string m_label;
     int m_lineCount = 0;
