@@ -1,0 +1,269 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#include "grid/windows/GridCanvas.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+#include "grid/painting/BackStitchLines.h"
+#include "grid/painting/GridPainter.h"
+#include "grid/painting/PaintColors.h"
+#include "grid/tools/OverlayPainter.h"
+#include "windowkit/DevicePixels.h"
+#include "windowkit/Theme.h"
+
+namespace zol {
+
+namespace {
+
+PointerButton ButtonOf(Qt::MouseButton button) {
+    return button == Qt::LeftButton    ? PointerButton::Left
+           : button == Qt::RightButton ? PointerButton::Right
+                                       : PointerButton::None;
+}
+
+Qt::CursorShape ShapeOf(GridCursor kind) {
+    switch (kind) {
+    case GridCursor::Cross:
+        return Qt::CrossCursor;
+    case GridCursor::Move:
+        return Qt::SizeAllCursor;
+    case GridCursor::Paint:
+        return Qt::PointingHandCursor;
+    case GridCursor::Erase:
+        return Qt::UpArrowCursor;
+    case GridCursor::ColorPicker:
+    case GridCursor::Default:
+        break;
+    }
+    return Qt::ArrowCursor;
+}
+
+} // namespace
+
+GridCanvas::GridCanvas(GridPainter& painter, QWidget* parent)
+    : QWidget(parent),
+      m_painter(painter) {
+    setObjectName(QStringLiteral("picGrid"));
+    setAccessibleName(tr("Design"));
+    // Every pixel is painted in each paint, so that scrolling can move what is there.
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    resize(0, 0);
+}
+
+void GridCanvas::SetPattern(const Pattern* pattern) {
+    m_pattern = pattern;
+    m_dirty = {1, 1, 0, 0};
+    update();
+}
+
+void GridCanvas::SetPaintOptions(const PaintOptions& options) {
+    if (m_options != options) {
+        m_options = options;
+        update();
+    }
+}
+
+void GridCanvas::ArrangeAt(int zoom) {
+    const double ratio = devicePixelRatioF();
+    const GridGeometry geometry =
+        m_pattern != nullptr ? GridGeometry(*m_pattern, zoom, ratio) : GridGeometry();
+    if (geometry != m_geometry) {
+        m_geometry = geometry;
+        update();
+    }
+    const QSize pixels = m_pattern != nullptr ? m_geometry.GridSize() : QSize(0, 0);
+    resize(DevicePixels::WindowLength(pixels.width(), ratio),
+           DevicePixels::WindowLength(pixels.height(), ratio));
+}
+
+GridView GridCanvas::View() const {
+    GridView view;
+    view.Source = m_pattern;
+    view.Scale = m_geometry.Scale();
+    view.Options = m_options;
+    return view;
+}
+
+void GridCanvas::RedrawSquares(const SquareRect& rect) {
+    const SquareRect all = m_geometry.Everything();
+    const SquareRect cut{std::max(rect.Left, all.Left), std::max(rect.Top, all.Top),
+                         std::min(rect.Right, all.Right), std::min(rect.Bottom, all.Bottom)};
+    if (cut.IsEmpty()) {
+        return;
+    }
+    if (m_hold) {
+        m_dirty = m_dirty.IsEmpty()
+                      ? cut
+                      : SquareRect{std::min(m_dirty.Left, cut.Left), std::min(m_dirty.Top, cut.Top),
+                                   std::max(m_dirty.Right, cut.Right),
+                                   std::max(m_dirty.Bottom, cut.Bottom)};
+        return;
+    }
+    // A knot reaches half a square out, and so do at most the ties of a line; both have pens.
+    const GridScale& scale = m_geometry.Scale();
+    const int pen = GetBackStitchPenWidth(View()) + 1;
+    const int across = static_cast<int>(std::ceil(scale.SquareTwipsX / scale.TwipsPerPixelX / 2));
+    const int down = static_cast<int>(std::ceil(scale.SquareTwipsY / scale.TwipsPerPixelY / 2));
+    UpdatePixels(
+        m_geometry.PixelsOf(cut).adjusted(-across - pen, -down - pen, across + pen, down + pen));
+}
+
+void GridCanvas::HoldGridPaint(bool hold) {
+    const SquareRect collected = m_dirty;
+    m_hold = hold;
+    m_dirty = {1, 1, 0, 0};
+    if (!hold) {
+        RedrawSquares(collected);
+    }
+}
+
+void GridCanvas::SetOverlay(const Overlay& overlay) {
+    if (overlay == m_overlay) {
+        return;
+    }
+    UpdatePixels(OverlayOf(m_overlay).Covered());
+    m_overlay = overlay;
+    UpdatePixels(OverlayOf(m_overlay).Covered());
+}
+
+OverlayPainter GridCanvas::OverlayOf(const Overlay& overlay) const {
+    OverlayStyle style;
+    style.Accent = Theme::Accent(palette());
+    style.LineWidth = GetBackStitchPenWidth(View());
+    return {overlay, m_geometry, style};
+}
+
+void GridCanvas::SetGridCursor(GridCursor kind) {
+    m_cursor = kind;
+    ShowCursor();
+}
+
+void GridCanvas::SetHand(std::optional<Qt::CursorShape> shape) {
+    m_hand = shape;
+    ShowCursor();
+}
+
+void GridCanvas::ShowCursor() {
+    setCursor(m_hand.value_or(ShapeOf(m_cursor)));
+}
+
+QPointF GridCanvas::DevicePixelAt(QPointF place) const {
+    return DevicePixels::At(*this, place);
+}
+
+void GridCanvas::UpdatePixels(const QRegion& pixels) {
+    QRegion region;
+    for (const QRect& rect : pixels) {
+        region += DevicePixels::WindowRect(rect, m_geometry.PixelRatio());
+    }
+    update(region);
+}
+
+void GridCanvas::paintEvent(QPaintEvent* event) {
+    try {
+        PaintExposed(event->region());
+    } catch (const std::exception&) {
+        // Memory ran out, say: the window stays as it is and the program goes on.
+    }
+}
+
+void GridCanvas::PaintExposed(const QRegion& region) {
+    QPainter painter(this);
+    const DevicePixels device(painter);
+    QRegion exposed;
+    for (const QRect& rect : region) {
+        exposed += device.Covering(rect);
+    }
+    for (const QRect& part : exposed) {
+        PaintPart(painter, part);
+    }
+    if (m_pattern == nullptr || m_overlay == Overlay{}) {
+        return;
+    }
+    const OverlayPainter overlay = OverlayOf(m_overlay);
+    if (overlay.Covered().intersects(exposed)) {
+        painter.setClipRegion(exposed);
+        overlay.Paint(painter);
+    }
+}
+
+void GridCanvas::PaintPart(QPainter& painter, const QRect& pixels) {
+    const auto count =
+        static_cast<std::size_t>(pixels.width()) * static_cast<std::size_t>(pixels.height());
+    m_part.resize(std::max(count, m_part.size()));
+    QImage image(reinterpret_cast<uchar*>(m_part.data()), pixels.width(), pixels.height(),
+                 static_cast<qsizetype>(pixels.width()) * 4, QImage::Format_RGB32);
+    const bool whole =
+        m_pattern != nullptr && QRect(QPoint(0, 0), m_geometry.GridSize()).contains(pixels);
+    if (!whole) {
+        image.fill(ToRgb(m_options.ClothColor));
+    }
+    if (m_pattern != nullptr) {
+        m_painter.PaintImage(image, pixels.topLeft(), View(), m_geometry.Everything());
+    }
+    painter.drawImage(pixels.topLeft(), image);
+}
+
+PointerEvent GridCanvas::EventOf(const QMouseEvent& event, PointerButton button) const {
+    PointerEvent made;
+    made.At = m_geometry.SpotAt(DevicePixelAt(event.position()));
+    made.Button = button;
+    made.Shift = event.modifiers().testFlag(Qt::ShiftModifier);
+    made.Ctrl = event.modifiers().testFlag(Qt::ControlModifier);
+    return made;
+}
+
+void GridCanvas::mousePressEvent(QMouseEvent* event) {
+    const PointerButton button = ButtonOf(event->button());
+    if (m_pattern == nullptr || button == PointerButton::None || m_held != PointerButton::None) {
+        return;
+    }
+    m_held = button;
+    Q_EMIT Pressed(EventOf(*event, button));
+}
+
+void GridCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
+    // Strokes come quickly one after the other.
+    mousePressEvent(event);
+}
+
+void GridCanvas::mouseMoveEvent(QMouseEvent* event) {
+    if (m_pattern != nullptr) {
+        Q_EMIT Moved(EventOf(*event, m_held));
+    }
+}
+
+void GridCanvas::mouseReleaseEvent(QMouseEvent* event) {
+    const PointerButton button = ButtonOf(event->button());
+    if (button == PointerButton::None || button != m_held) {
+        return;
+    }
+    m_held = PointerButton::None;
+    if (m_pattern != nullptr) {
+        Q_EMIT Released(EventOf(*event, button));
+    }
+}
+
+void GridCanvas::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        Q_EMIT EscapePressed();
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}
+
+void GridCanvas::leaveEvent(QEvent* event) {
+    QWidget::leaveEvent(event);
+    Q_EMIT PointerLeft();
+}
+
+} // namespace zol

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QRegion>
+#include <QWidget>
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "grid/GridGeometry.h"
+#include "grid/painting/GridView.h"
+#include "grid/tools/Tool.h"
+
+namespace zol {
+
+class GridPainter;
+
+/// The design as a widget, `picGrid`: as large as the whole grid at the present zoom, and moved
+/// inside its holder to scroll. It keeps no picture of itself; what the system exposes is painted
+/// anew, the overlay last. What the pointer does leaves it as squares.
+class GridCanvas : public QWidget {
+    Q_OBJECT
+
+public:
+    /// The painter outlives the canvas.
+    GridCanvas(GridPainter& painter, QWidget* parent);
+
+    /// The pattern outlives the canvas or is replaced before it goes; null shows nothing.
+    void SetPattern(const Pattern* pattern);
+    [[nodiscard]] const Pattern* GetPattern() const { return m_pattern; }
+    void SetPaintOptions(const PaintOptions& options);
+    [[nodiscard]] const PaintOptions& GetPaintOptions() const { return m_options; }
+    /// Takes the grid's measures anew at this zoom and becomes as large as the grid is.
+    void ArrangeAt(int zoom);
+    [[nodiscard]] const GridGeometry& Geometry() const { return m_geometry; }
+    /// What GridPainter is asked to paint.
+    [[nodiscard]] GridView View() const;
+
+    /// The squares' content has changed. They are painted soon, with what reaches out of them.
+    void RedrawSquares(const SquareRect& rect);
+    /// While on, RedrawSquares only collects into DirtyRect; going off, all of it is painted.
+    void HoldGridPaint(bool hold);
+    [[nodiscard]] bool IsPaintHeld() const { return m_hold; }
+    /// What is to be painted once the hold ends; empty if nothing.
+    [[nodiscard]] const SquareRect& DirtyRect() const { return m_dirty; }
+
+    /// Repaints where the old and the new one lie and nothing else.
+    void SetOverlay(const Overlay& overlay);
+    [[nodiscard]] const Overlay& GetOverlay() const { return m_overlay; }
+    void SetGridCursor(GridCursor kind);
+    /// A pointer that stands in for the tool's, while the cloth is dragged.
+    void SetHand(std::optional<Qt::CursorShape> shape);
+
+    /// The device pixel of a place in the widget, counted from square (1, 1).
+    [[nodiscard]] QPointF DevicePixelAt(QPointF place) const;
+
+Q_SIGNALS:
+    /// Only the button that went down first; others are ignored until it comes up.
+    void Pressed(const zol::PointerEvent& event);
+    /// With the held button, or None while the pointer only hovers.
+    void Moved(const zol::PointerEvent& event);
+    void Released(const zol::PointerEvent& event);
+    /// The pointer has left the cloth.
+    void PointerLeft();
+    void EscapePressed();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+private:
+    void PaintExposed(const QRegion& region);
+    void PaintPart(QPainter& painter, const QRect& pixels);
+    void UpdatePixels(const QRegion& pixels);
+    [[nodiscard]] class OverlayPainter OverlayOf(const Overlay& overlay) const;
+    [[nodiscard]] PointerEvent EventOf(const QMouseEvent& event, PointerButton button) const;
+    void ShowCursor();
+
+    GridPainter& m_painter;
+    const Pattern* m_pattern = nullptr;
+    PaintOptions m_options;
+    GridGeometry m_geometry;
+    Overlay m_overlay;
+    bool m_hold = false;
+    SquareRect m_dirty{1, 1, 0, 0};
+    PointerButton m_held = PointerButton::None;
+    GridCursor m_cursor = GridCursor::Default;
+    std::optional<Qt::CursorShape> m_hand;
+    std::vector<std::uint32_t> m_part; ///< pixels on their way to the screen
+};
+
+} // namespace zol
