@@ -276,7 +276,7 @@ void GridArea::ZoomToFrame(const SquareRect& frame) {
 }
 
 void GridArea::ZoomAt(QPointF place, int percent) {
-    if (GridViewport::ClampZoom(percent) == m_zoom.GridZoom()) {
+    if (m_canvas->size().isEmpty() || GridViewport::ClampZoom(percent) == m_zoom.GridZoom()) {
         return;
     }
     const QPointF inHolder = place - m_holder->pos();

@@ -10,8 +10,8 @@
 #include <utility>
 
 #include "grid/GridViewport.h"
+#include "grid/windows/ui_frmZoom.h"
 #include "model/Rounding.h"
-#include "ui_frmZoom.h"
 #include "windowkit/NumericFilter.h"
 
 namespace zol {
