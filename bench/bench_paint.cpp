@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Korvanta contributors
 // SPDX-License-Identifier: MIT
 
-// Painting a view of 1920 by 1080 pixels, against filling it once by scan line.
+// Painting a view of 1920 by 1080 pixels, or little pieces of it, against filling the whole view
+// once by scan line.
 
 #include <benchmark/benchmark.h>
 
@@ -9,6 +10,7 @@
 #include <QImage>
 
 #include <algorithm>
+#include <random>
 
 #include "Ratio.h"
 #include "Scene.h"
@@ -19,14 +21,49 @@ namespace {
 constexpr int Width = 1920;
 constexpr int Height = 1080;
 
-const zol::Pattern& Scene() {
+zol::Pattern& Scene() {
     static zol::ProgramContext context;
-    static const zol::Pattern* scene = [] {
+    static zol::Pattern* scene = [] {
         static zol::Pattern pattern(context);
         zol::FillScene(pattern);
         return &pattern;
     }();
     return *scene;
+}
+
+/// The scene with so many lines instead of its own, all of them within the first `columns` and
+/// `rows`, up to ten squares long, in all six styles.
+zol::Pattern& SceneWithLines(int count, int columns, int rows) {
+    zol::Pattern& pattern = Scene();
+    while (pattern.GetBackStitchCount() > 0) {
+        pattern.RemoveBackStitchLine(pattern.GetBackStitchCount());
+    }
+    std::mt19937 random(20240602);
+    const auto roll = [&random](int from, int to) {
+        return static_cast<std::int16_t>(
+            from + static_cast<int>(random() % static_cast<unsigned>(to - from + 1)));
+    };
+    while (pattern.GetBackStitchCount() < count) {
+        zol::BackStitchLine line;
+        line.StartX = roll(1, columns);
+        line.StartY = roll(1, rows);
+        line.StartPos = roll(1, 9);
+        line.EndX = static_cast<std::int16_t>(std::clamp(line.StartX + roll(-10, 10), 1, columns));
+        line.EndY = static_cast<std::int16_t>(std::clamp(line.StartY + roll(-10, 10), 1, rows));
+        line.EndPos = roll(1, 9);
+        line.PaletteIndex = static_cast<std::uint8_t>(roll(1, 200));
+        line.LineStyle = static_cast<std::uint8_t>(roll(0, 5));
+        pattern.SetBackstitchLine(line);
+    }
+    return pattern;
+}
+
+zol::GridView ViewOf(const zol::Pattern& pattern, int style, int pixels) {
+    zol::GridView view;
+    view.Source = &pattern;
+    view.Scale = zol::GridScale::ForPicture(pixels, 14, 14);
+    view.Options.StitchStyle = style;
+    return view;
 }
 
 void Fill(QImage& image, QRgb colour) {
@@ -43,17 +80,96 @@ double GoalOf(int style, int pixels) {
 
 /// Style, pixels a square.
 void PaintView(benchmark::State& state) {
-    zol::GridView view;
-    view.Source = &Scene();
-    view.Scale = zol::GridScale::ForPicture(static_cast<int>(state.range(1)), 14, 14);
-    view.Options.StitchStyle = static_cast<int>(state.range(0));
+    const int pixels = static_cast<int>(state.range(1));
+    const zol::GridView view = ViewOf(Scene(), static_cast<int>(state.range(0)), pixels);
     zol::GridPainter painter;
     QImage image(Width, Height, QImage::Format_RGB32);
     const QPoint position(37, 53);
     const auto paint = [&] { painter.PaintImage(image, position, view, view.Everything()); };
     QRgb colour = 0xFF000000U;
-    zol::Ratio(state, GoalOf(view.Options.StitchStyle, static_cast<int>(state.range(1))))
+    zol::Ratio(state, GoalOf(view.Options.StitchStyle, pixels))
         .Measure([&] { Fill(image, ++colour); }, paint);
+}
+
+/// Pixels a square, lines in the view: what the window shows of a design with many lines.
+void PaintLines(benchmark::State& state) {
+    const int pixels = static_cast<int>(state.range(0));
+    const int lines = static_cast<int>(state.range(1));
+    const zol::Pattern& pattern =
+        SceneWithLines(lines, std::min(999, Width / pixels), std::min(999, Height / pixels));
+    const zol::GridView view = ViewOf(pattern, zol::ShowColorSquares, pixels);
+    zol::GridPainter painter;
+    QImage image(Width, Height, QImage::Format_RGB32);
+    const double goal = (pixels < 5 ? 25 : 12) + (lines - 2000) / 1000 * 2;
+    QRgb colour = 0xFF000000U;
+    zol::Ratio(state, goal)
+        .Measure([&] { Fill(image, ++colour); },
+                 [&] {
+                     painter.PaintImage(image, {0, 0}, view, view.Everything());
+                 });
+}
+
+/// Pixels a square, lines of the pattern: one move of a stroke, 20 squares and their mirror images,
+/// each repainted by itself with what reaches into its neighbours.
+void PaintStroke(benchmark::State& state) {
+    const int pixels = static_cast<int>(state.range(0));
+    zol::Pattern& pattern = SceneWithLines(static_cast<int>(state.range(1)), 999, 999);
+    const zol::GridView view = ViewOf(pattern, zol::ShowColorSquares, pixels);
+    zol::GridPainter painter;
+    QImage whole(Width, Height, QImage::Format_RGB32);
+    QImage piece(3 * pixels, 3 * pixels, QImage::Format_RGB32);
+    QRgb colour = 0xFF000000U;
+    const auto square = [&](int x, int y) {
+        painter.PaintImage(piece, {(x - 2) * pixels, (y - 2) * pixels}, view,
+                           {x - 1, y - 1, x + 1, y + 1});
+    };
+    int turn = 0;
+    zol::Ratio(state, 1).Measure([&] { Fill(whole, ++colour); }, [&] { turn = (turn + 1) % 200; },
+                                 [&] {
+                                     for (int i = 0; i < 20; ++i) {
+                                         const int x = 30 + turn + i;
+                                         const int y = 500 + i;
+                                         pattern.SetStitch(x, y, zol::StitchWhole, 1 + turn, 5);
+                                         pattern.SetStitch(999 - x, y, zol::StitchWhole, 1, 5);
+                                         square(x, y);
+                                         square(999 - x, y);
+                                     }
+                                 });
+}
+
+/// Pixels wide and high, lines of the pattern: what comes into sight when the view scrolls by a
+/// square of 20 pixels.
+void PaintStrip(benchmark::State& state) {
+    const zol::Pattern& pattern = SceneWithLines(static_cast<int>(state.range(2)), 999, 999);
+    const zol::GridView view = ViewOf(pattern, zol::ShowColorSquares, 20);
+    zol::GridPainter painter;
+    QImage whole(Width, Height, QImage::Format_RGB32);
+    QImage strip(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)),
+                 QImage::Format_RGB32);
+    QRgb colour = 0xFF000000U;
+    int turn = 0;
+    zol::Ratio(state, 1).Measure(
+        [&] { Fill(whole, ++colour); }, [&] { turn = (turn + 1) % 400; },
+        [&] {
+            painter.PaintImage(strip, {turn * 20, turn * 20}, view, view.Everything());
+        });
+}
+
+/// Lines of the pattern: one more is drawn, and its squares are repainted.
+void PaintNewLine(benchmark::State& state) {
+    zol::Pattern& pattern = SceneWithLines(static_cast<int>(state.range(0)), 999, 999);
+    const zol::GridView view = ViewOf(pattern, zol::ShowColorSquares, 20);
+    zol::GridPainter painter;
+    QImage whole(Width, Height, QImage::Format_RGB32);
+    QImage piece(160, 160, QImage::Format_RGB32);
+    zol::BackStitchLine line{500, 500, 1, 507, 503, 9, 7, zol::LineStraight};
+    QRgb colour = 0xFF000000U;
+    zol::Ratio(state, 1).Measure(
+        [&] { Fill(whole, ++colour); },
+        [&] {
+            pattern.SetBackstitchLine(line);
+            painter.PaintImage(piece, {499 * 20, 499 * 20}, view, {500, 500, 507, 507});
+        });
 }
 
 } // namespace
@@ -62,6 +178,23 @@ BENCHMARK(PaintView)
     ->ArgNames({"style", "pixels"})
     ->ArgsProduct({{1, 2, 3, 4, 5, 6}, {2, 5, 10, 20, 40}})
     ->Apply(zol::AsRatio);
+
+BENCHMARK(PaintLines)
+    ->ArgNames({"pixels", "lines"})
+    ->ArgsProduct({{2, 5, 10, 20}, {2000, 3000, 4000, 10000}})
+    ->Apply(zol::AsRatio);
+BENCHMARK(PaintStroke)
+    ->ArgNames({"pixels", "lines"})
+    ->ArgsProduct({{5, 20, 40}, {2000, 20000}})
+    ->Apply(zol::AsRatio);
+BENCHMARK(PaintStrip)
+    ->ArgNames({"width", "height", "lines"})
+    ->Args({Width, 20, 2000})
+    ->Args({20, Height, 2000})
+    ->Args({Width, 20, 20000})
+    ->Args({20, Height, 20000})
+    ->Apply(zol::AsRatio);
+BENCHMARK(PaintNewLine)->ArgNames({"lines"})->Arg(2000)->Arg(20000)->Apply(zol::AsRatio);
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -43,19 +43,20 @@ public:
     void Draw(const BackStitchLine& line) {
         const TwipsPoint start = PointOf(line.StartX, line.StartY, line.StartPos);
         const TwipsPoint end = PointOf(line.EndX, line.EndY, line.EndPos);
+        // A broken line is laid out from its own end, so that its pattern stays in place however
+        // much of it shows; so is any line on a canvas that clips, lest its slope move by a pixel.
+        // A page begins a broken line anew.
         TwipsPoint cutStart = start;
         TwipsPoint cutEnd = end;
         if (!LineShapes::ClipLineToRect(cutStart, cutEnd, m_bounds)) {
             return;
         }
-        // A broken line is laid out from its own end, so that its pattern stays in place however
-        // much of it shows. A page begins it anew.
-        const bool uncut = m_view.Options.Target != TargetPrinter && line.LineStyle != LineStraight;
+        const bool uncut = m_view.Options.Target != TargetPrinter &&
+                           (line.LineStyle != LineStraight || m_canvas.Clips());
         const bool black = m_view.Options.LinesStyle == PaintOptions::BlackLines;
         m_pen.Style = line.LineStyle;
         m_pen.Floss = black ? 0 : m_view.Source->GetPalette().GetFlossRGB(line.PaletteIndex);
-        DrawStyledLine(m_canvas, ToPixels(uncut ? start : cutStart), ToPixels(uncut ? end : cutEnd),
-                       m_pen);
+        m_canvas.Line(ToPixels(uncut ? start : cutStart), ToPixels(uncut ? end : cutEnd), m_pen);
     }
 
 private:

@@ -11,6 +11,7 @@
 #include "grid/painting/BackStitchLines.h"
 #include "grid/painting/GridLines.h"
 #include "grid/painting/LineIndex.h"
+#include "grid/painting/LineMasks.h"
 #include "grid/painting/RasterGrid.h"
 #include "grid/painting/SquarePainter.h"
 #include "grid/painting/StyledLine.h"
@@ -44,6 +45,7 @@ GridPainter::GridPainter()
     : m_images(std::make_unique<StitchImages>()),
       m_symbols(std::make_unique<SymbolText>()),
       m_lines(std::make_unique<LineIndex>()),
+      m_lineMasks(std::make_unique<LineMasks>()),
       m_raster(std::make_unique<RasterGrid>(*m_images, *m_symbols)) {}
 
 GridPainter::~GridPainter() = default;
@@ -68,7 +70,7 @@ void GridPainter::PaintImage(QImage& image, QPoint position, const GridView& vie
     const auto stride = image.bytesPerLine() / static_cast<std::ptrdiff_t>(sizeof(QRgb));
     QRgb* first = reinterpret_cast<QRgb*>(image.scanLine(area.top())) + area.left();
     PixelCanvas canvas({first, stride, area.width(), area.height()}, position + area.topLeft(),
-                       view.Options.Antialias);
+                       *m_lineMasks, view.Options.Antialias);
     zol::DrawBackStitchLines(canvas, view, painted.Squares, *m_lines);
 }
 

@@ -19,6 +19,7 @@ class QRectF;
 namespace zol {
 
 class LineIndex;
+class LineMasks;
 class RasterGrid;
 
 /// Paints patterns: squares in six styles, grid lines, backstitch lines, knots. It has two ways:
@@ -68,6 +69,7 @@ private:
     std::unique_ptr<StitchImages> m_images;
     std::unique_ptr<SymbolText> m_symbols;
     std::unique_ptr<LineIndex> m_lines;
+    std::unique_ptr<LineMasks> m_lineMasks;
     std::unique_ptr<RasterGrid> m_raster;
 };
 

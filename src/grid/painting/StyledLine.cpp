@@ -56,36 +56,35 @@ void DrawSquiggle(LineCanvas& canvas, QPoint start, QPoint end, const LinePen& p
 
 } // namespace
 
-void DrawStyledLine(LineCanvas& canvas, QPoint start, QPoint end, const LinePen& pen) {
+void LineCanvas::Line(QPoint start, QPoint end, const LinePen& pen) {
     const QLine whole(start, end);
     switch (pen.Style) {
     case LineSquiggle:
-        DrawSquiggle(canvas, start, end, pen);
+        DrawSquiggle(*this, start, end, pen);
         break;
     case LineDashed:
-        canvas.Piece(whole, pen.Width, pen.Ground);
-        DrawMarks(canvas, start, end, pen, {Mark::Dash});
+        Piece(whole, pen.Width, pen.Ground);
+        DrawMarks(*this, start, end, pen, {Mark::Dash});
         break;
     case LineTracks:
-        canvas.Piece(whole, pen.Width, pen.Floss);
-        DrawMarks(canvas, start, end, pen, {Mark::Tie});
+        Piece(whole, pen.Width, pen.Floss);
+        DrawMarks(*this, start, end, pen, {Mark::Tie});
         break;
     case LineDotted:
-        canvas.Piece(whole, pen.Width, pen.Ground);
-        DrawMarks(canvas, start, end, pen, {Mark::Dot});
+        Piece(whole, pen.Width, pen.Ground);
+        DrawMarks(*this, start, end, pen, {Mark::Dot});
         break;
     case LinePlus:
-        canvas.Piece(whole, pen.Width, pen.Ground);
-        DrawMarks(canvas, start, end, pen, {Mark::Dash, Mark::Cross});
+        Piece(whole, pen.Width, pen.Ground);
+        DrawMarks(*this, start, end, pen, {Mark::Dash, Mark::Cross});
         break;
     default:
-        canvas.Piece(whole, pen.Width, pen.Floss);
+        Piece(whole, pen.Width, pen.Floss);
     }
 }
 
 void DrawStyledLine(QPainter& painter, QPoint start, QPoint end, const LinePen& pen) {
-    PainterCanvas canvas(painter);
-    DrawStyledLine(canvas, start, end, pen);
+    PainterCanvas(painter).Line(start, end, pen);
 }
 
 void PainterCanvas::Piece(const QLine& line, int width, Colour colour) {

@@ -6,7 +6,6 @@
 #include <QPoint>
 #include <QRect>
 
-#include <memory>
 #include <vector>
 
 #include "grid/painting/PixelMasks.h"
@@ -15,6 +14,8 @@
 class QPainter;
 
 namespace zol {
+
+class LineMasks;
 
 /// How a backstitch line is drawn, in device pixels.
 struct LinePen {
@@ -34,12 +35,17 @@ public:
     LineCanvas(const LineCanvas&) = delete;
     LineCanvas& operator=(const LineCanvas&) = delete;
 
+    /// One line in its style between two pixels. The pattern of a dash or squiggle starts at the
+    /// line's left end. A line of no length is a dot or nothing.
+    virtual void Line(QPoint start, QPoint end, const LinePen& pen);
     /// A straight piece with round ends.
     virtual void Piece(const QLine& line, int width, Colour colour) = 0;
     /// A run of Bezier curves through one more than a multiple of three points.
     virtual void Wave(const std::vector<QPoint>& points, int width, Colour colour) = 0;
     /// What can be seen of lines; null if that is not known.
     [[nodiscard]] virtual QRect Visible() const = 0;
+    /// Whether what lies outside the repainted squares is left alone without being cut off lines.
+    [[nodiscard]] virtual bool Clips() const { return false; }
 };
 
 /// Draws on any QPainter.
@@ -58,37 +64,29 @@ private:
 class PixelCanvas : public LineCanvas {
 public:
     /// `origin` is the place of the buffer's first pixel on the device.
-    PixelCanvas(const PixelBuffer& target, QPoint origin, bool antialias)
+    PixelCanvas(const PixelBuffer& target, QPoint origin, LineMasks& masks, bool antialias)
         : m_target(target),
           m_origin(origin),
+          m_masks(masks),
           m_antialias(antialias) {}
+    /// Most lines by masks, which are made once and blended wherever such a line lies.
+    void Line(QPoint start, QPoint end, const LinePen& pen) override;
     void Piece(const QLine& line, int width, Colour colour) override;
     void Wave(const std::vector<QPoint>& points, int width, Colour colour) override;
     [[nodiscard]] QRect Visible() const override;
+    [[nodiscard]] bool Clips() const override { return true; }
 
 private:
-    /// Pieces of up to so many pixels across and down are blended by masks that are made once a
-    /// paint: the marks along a line are all alike.
-    static constexpr int ShortReach = 8;
-    struct ShortPieces {
-        int Width = 0; ///< of the pen
-        std::vector<std::unique_ptr<const PixelMask>> Masks;
-    };
-
     void CoverCurve(const std::vector<QPointF>& curve, int width, Colour colour);
-    [[nodiscard]] const PixelMask& ShortPiece(QPoint span, int width);
-    [[nodiscard]] ShortPieces& ShortPiecesOf(int width);
 
     PixelBuffer m_target;
     QPoint m_origin;
+    LineMasks& m_masks;
     bool m_antialias;
     PixelMask m_scratch;
-    std::vector<ShortPieces> m_short;
 };
 
-/// Draws one line in its style between two pixels. The pattern of a dash or squiggle starts at the
-/// line's left end. A line of no length is a dot or nothing.
-void DrawStyledLine(LineCanvas& canvas, QPoint start, QPoint end, const LinePen& pen);
+/// LineCanvas::Line on a QPainter.
 void DrawStyledLine(QPainter& painter, QPoint start, QPoint end, const LinePen& pen);
 
 } // namespace zol
