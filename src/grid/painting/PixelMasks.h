@@ -39,17 +39,27 @@ struct PixelBuffer {
     [[nodiscard]] QRgb* Row(int row) const { return Pixels + row * Stride; }
 };
 
-/// Mixes a colour into a pixel, `cover` of 255 parts.
+/// The channels of a pixel in lanes of 16 bits, with room for products.
+[[nodiscard]] constexpr std::uint64_t LanesOf(QRgb pixel) {
+    return (pixel | (std::uint64_t{pixel} << 24U)) & 0x00FF00FF00FF00FFU;
+}
+/// Lanes of products with 255 parts as a pixel again, rounded.
+[[nodiscard]] constexpr QRgb PixelOf(std::uint64_t products) {
+    constexpr std::uint64_t low = 0x00FF00FF00FF00FFU;
+    products += 0x0080008000800080U;
+    products = ((products + ((products >> 8U) & low)) >> 8U) & low;
+    return static_cast<QRgb>(products | (products >> 24U));
+}
+
+/// Mixes a colour into a pixel, `cover` of 255 parts. Nothing here branches by the cover, which
+/// no machine can foretell along an edge.
 inline void BlendPixel(QRgb& pixel, QRgb colour, unsigned cover) {
-    if (cover == 255) {
-        pixel = colour;
-    } else if (cover != 0) {
-        const auto mix = [cover](QRgb a, QRgb b) {
-            const QRgb sum = (b & 0xFF00FFU) * cover + (a & 0xFF00FFU) * (255 - cover) + 0x800080U;
-            return ((sum + ((sum >> 8U) & 0xFF00FFU)) >> 8U) & 0xFF00FFU;
-        };
-        pixel = 0xFF000000U | mix(pixel, colour) | ((mix(pixel >> 8U, colour >> 8U) & 0xFFU) << 8U);
-    }
+    pixel = PixelOf(LanesOf(colour) * cover + LanesOf(pixel) * (255 - cover)) | 0xFF000000U;
+}
+
+/// Mixes a premultiplied pixel into another.
+inline void OverlayPixel(QRgb& pixel, QRgb over) {
+    pixel = (over + PixelOf(LanesOf(pixel) * (255 - (over >> 24U)))) | 0xFF000000U;
 }
 
 /// Mixes a colour into pixels by a mask whose upper left corner stands at (x, y); what falls

@@ -54,6 +54,8 @@ RasterGrid::Painted RasterPass::Run() {
     m_groundRow = TemplateRow(m_tiles.GroundOf(), true);
     if (m_view.Options.StitchStyle == ShowColorSquares) {
         PrepareSolidLine();
+    } else {
+        FindRuns();
     }
     // Squares lie behind their lines, so lines may be painted row by row with them.
     std::size_t next = 0;
@@ -191,14 +193,24 @@ void RasterPass::PaintLineAbove(int row) {
     CopyTemplate(known->second.data(), top, top + width - 1);
 }
 
-void RasterPass::GatherCells(std::size_t firstRow) {
+void RasterPass::GatherTiles(std::size_t firstRow) {
     const std::size_t columns = m_columns.Shown.size();
     const std::size_t rows = std::min(BandRows, m_rows.Shown.size() - firstRow);
     m_band.resize(BandRows * columns);
+    // Where each tile is copied by itself the ground that is there already serves bare squares.
+    const bool bareIsDone = m_runs.empty();
     for (std::size_t i = 0; i < columns; ++i) {
-        for (std::size_t j = 0; j < rows; ++j) {
-            m_band[j * columns + i] =
-                m_view.Source->Cell(m_columns.Shown[i].Number, m_rows.Shown[firstRow + j].Number);
+        const Stretch& column = m_columns.Shown[i];
+        const QRgb** tile = m_band.data() + i;
+        for (std::size_t j = 0; j < rows; ++j, tile += columns) {
+            const Stretch& row = m_rows.Shown[firstRow + j];
+            const StitchCell& cell = m_view.Source->Cell(column.Number, row.Number);
+            *tile = bareIsDone && cell.StitchType == NoStitch
+                        ? nullptr
+                        : m_tiles.Tile(SizeOf(column, row), cell.StitchType, cell.PaletteIndex);
+            if (cell.CellFlags != 0) {
+                NoteFlags(column, row, cell);
+            }
         }
     }
 }
@@ -218,7 +230,7 @@ void RasterPass::PaintRow(std::size_t place) {
     const std::size_t first = inBand * m_columns.Shown.size();
     if (m_view.Options.StitchStyle != ShowColorSquares) {
         if (inBand == 0) {
-            GatherCells(place);
+            GatherTiles(place);
         }
         PaintTiles(row, m_band.data() + first);
         return;
@@ -315,15 +327,41 @@ void RasterPass::PaintOddSquares(std::size_t firstRow) {
     }
 }
 
-void RasterPass::PaintTiles(const Stretch& row, const StitchCell* cells) {
-    CopyTemplate(m_groundRow.data(), row.First, row.Last);
-    for (const Stretch& column : m_columns.Shown) {
-        const StitchCell& cell = *cells++;
-        if (cell.CellFlags != 0) {
-            NoteFlags(column, row, cell);
+void RasterPass::FindRuns() {
+    const std::vector<Stretch>& shown = m_columns.Shown;
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+        const Stretch& column = shown[i];
+        if (column.Cut || m_columns.Sizes[column.Size] > LargestRowTile) {
+            m_loneColumns.push_back(i);
+            continue;
         }
-        if (cell.StitchType != NoStitch && (cell.CellFlags & CellHasDup) == 0) {
-            PaintTile(column, row, cell);
+        const bool follows =
+            i > 0 && !m_runs.empty() && m_runs.back().Begin + m_runs.back().Count == i;
+        const int pitch = follows ? column.First - shown[i - 1].First : 0;
+        if (!follows || column.Size != shown[i - 1].Size ||
+            (m_runs.back().Count > 1 && m_runs.back().Pitch != pitch)) {
+            m_runs.push_back({i, 1, 0, column.First, m_columns.Sizes[column.Size]});
+        } else {
+            m_runs.back().Pitch = pitch;
+            ++m_runs.back().Count;
+        }
+    }
+}
+
+void RasterPass::PaintTiles(const Stretch& row, const QRgb* const* tiles) {
+    const int top = std::max(row.First, m_area.top());
+    const int bottom = std::min(row.Last, m_area.bottom());
+    for (int y = top; y <= bottom; ++y) {
+        QRgb* line = Pixel(0, y);
+        std::memcpy(line + m_area.left(), m_groundRow.data(), m_groundRow.size() * sizeof(QRgb));
+        for (const TileRun& run : m_runs) {
+            CopyTileRows(tiles + run.Begin, run.Count, run.Width, y - row.First, line + run.First,
+                         run.Pitch);
+        }
+    }
+    for (const std::size_t i : m_loneColumns) {
+        if (tiles[i] != nullptr) {
+            CopyTile(m_columns.Shown[i], row, tiles[i]);
         }
     }
 }

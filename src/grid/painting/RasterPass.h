@@ -52,6 +52,18 @@ private:
         [[nodiscard]] const Stretch* At(int number, int from) const;
     };
 
+    /// Columns side by side whose tiles are equally wide and equally far apart.
+    struct TileRun {
+        std::size_t Begin; ///< place of the first column
+        std::size_t Count;
+        int Pitch; ///< pixels from each tile to the next
+        int First; ///< pixel of the first
+        int Width;
+    };
+    /// Tiles of up to so many pixels across are copied a scan line of all columns at a time; larger
+    /// ones each by itself.
+    static constexpr int LargestRowTile = 8;
+
     /// Rows whose cells are gathered at a time. The pattern keeps its cells column by column, so
     /// reading them row by row would wait for memory at each.
     static constexpr std::size_t BandRows = 16;
@@ -61,13 +73,14 @@ private:
     [[nodiscard]] std::vector<QRgb> TemplateRow(QRgb ground, bool normalColumns) const;
     void CopyTemplate(const QRgb* row, int fromPixel, int toPixel);
     void PaintLineAbove(int row);
-    void GatherCells(std::size_t firstRow);
+    void FindRuns();
+    void GatherTiles(std::size_t firstRow);
     void PrepareSolidLine();
     void GatherColours(std::size_t firstRow);
     void PaintSolidRow(const Stretch& row, const QRgb* colours);
     void PaintOddSquares(std::size_t firstRow);
     void PaintRow(std::size_t place);
-    void PaintTiles(const Stretch& row, const StitchCell* cells);
+    void PaintTiles(const Stretch& row, const QRgb* const* tiles);
     void NoteFlags(const Stretch& column, const Stretch& row, const StitchCell& cell);
     void PaintTile(const Stretch& column, const Stretch& row, const StitchCell& cell);
     void CopyTile(const Stretch& column, const Stretch& row, const QRgb* tile);
@@ -92,9 +105,11 @@ private:
     Axis m_columns;
     Axis m_rows;
     std::vector<TileCache::Size*> m_sizes;
-    std::vector<StitchCell> m_band;    ///< cells of some rows, row by row as they are painted
-    std::vector<TileCopier> m_copiers; ///< by the column's size
-    std::vector<QRgb> m_groundRow;     ///< ground and upright lines
+    std::vector<const QRgb*> m_band; ///< tiles of some rows, row by row as they are painted
+    std::vector<TileRun> m_runs;
+    std::vector<std::size_t> m_loneColumns; ///< places of those that are in no run
+    std::vector<TileCopier> m_copiers;      ///< by the column's size
+    std::vector<QRgb> m_groundRow;          ///< ground and upright lines
     std::vector<std::pair<Colour, std::vector<QRgb>>> m_lineRows; ///< rows' own lines, by colour
     std::vector<QRgb> m_line; ///< a scan line in the making, first and last square whole
     int m_lineLeft = 0;       ///< of its first pixel in the image

@@ -55,7 +55,11 @@ void TileCache::Begin(const GridView& view) {
         m_masks.SetSymbolScale(options.SymbolScale);
     }
     m_ground = ToRgb(options.Ground());
-    for (int floss = 0; floss < 256; ++floss) {
+    // Numbers behind the palette's entries look as they did, unless it has become shorter.
+    const int entries = std::min(palette.GetEntriesCount(), 255);
+    const int last = std::max(entries, m_entries);
+    m_entries = entries;
+    for (int floss = 0; floss <= last; ++floss) {
         const Look look{palette.GetFlossRGB(floss), palette.GetFlossSymbol(floss)};
         if (look != m_looks[static_cast<std::size_t>(floss)]) {
             TakeFloss(static_cast<std::uint8_t>(floss), look);
@@ -76,6 +80,7 @@ void TileCache::TakeFloss(std::uint8_t floss, const Look& look) {
     for (auto& entry : m_sizes) {
         for (std::size_t kind = 0; kind < Size::Kinds; ++kind) {
             entry.second->m_tiles[kind * 256 + floss] = nullptr;
+            entry.second->m_overlays[kind * 256 + floss] = nullptr;
         }
     }
 }
@@ -91,12 +96,16 @@ TileCache::Size& TileCache::SizeOf(int width, int height) {
     return *size;
 }
 
-const QRgb* TileCache::Make(Size& size, std::uint8_t kind, std::uint8_t floss) {
+QRgb* TileCache::NewPicture(const Size& size) {
     const auto pixels =
         static_cast<std::size_t>(size.m_width) * static_cast<std::size_t>(size.m_height);
     m_tiles.push_back(std::make_unique<QRgb[]>(pixels));
     m_bytes += pixels * sizeof(QRgb);
-    QRgb* tile = m_tiles.back().get();
+    return m_tiles.back().get();
+}
+
+const QRgb* TileCache::Make(Size& size, std::uint8_t kind, std::uint8_t floss) {
+    QRgb* tile = NewPicture(size);
     const PixelBuffer target{tile, size.m_width, size.m_width, size.m_height};
     Fill(target, m_ground);
     if (m_setting.style == ShowVStitches && kind != 0) {
@@ -108,10 +117,47 @@ const QRgb* TileCache::Make(Size& size, std::uint8_t kind, std::uint8_t floss) {
     return tile;
 }
 
+const QRgb* TileCache::MakeOverlay(Size& size, std::uint8_t kind, std::uint8_t floss) {
+    // What a stitch lets through is what differs between it on black and on white.
+    QRgb* overlay = NewPicture(size);
+    const auto pixels =
+        static_cast<std::size_t>(size.m_width) * static_cast<std::size_t>(size.m_height);
+    std::vector<QRgb> onWhite(pixels);
+    const PixelBuffer black{overlay, size.m_width, size.m_width, size.m_height};
+    const PixelBuffer white{onWhite.data(), size.m_width, size.m_width, size.m_height};
+    Fill(black, qRgb(0, 0, 0));
+    Fill(white, qRgb(255, 255, 255));
+    AddStitch(black, size, {kind, floss});
+    AddStitch(white, size, {kind, floss});
+    for (std::size_t i = 0; i < pixels; ++i) {
+        const QRgb ink = overlay[i];
+        const int alpha = std::clamp(255 - qGreen(onWhite[i]) + qGreen(ink), 0, 255);
+        overlay[i] = qRgba(std::min(qRed(ink), alpha), std::min(qGreen(ink), alpha),
+                           std::min(qBlue(ink), alpha), alpha);
+    }
+    size.m_overlays[kind * std::size_t{256} + floss] = overlay;
+    return overlay;
+}
+
 void TileCache::Compose(const PixelBuffer& target, Size& size, const SquareContent& content) {
-    Fill(target, m_ground);
-    for (const SquareContent::Stitch& stitch : content) {
-        AddStitch(target, size, stitch);
+    const auto kindOf = [](const SquareContent::Stitch& stitch) {
+        return stitch.Kind < Size::Kinds ? stitch.Kind : std::uint8_t{0};
+    };
+    const SquareContent::Stitch* stitch = content.begin();
+    const QRgb* from = Tile(size, stitch->Kind, stitch->PaletteIndex);
+    for (int y = 0; y < target.Height; ++y, from += target.Width) {
+        std::copy_n(from, target.Width, target.Row(y));
+    }
+    while (++stitch != content.end()) {
+        const std::uint8_t kind = kindOf(*stitch);
+        const QRgb* over = size.m_overlays[kind * std::size_t{256} + stitch->PaletteIndex];
+        over = over != nullptr ? over : MakeOverlay(size, kind, stitch->PaletteIndex);
+        for (int y = 0; y < target.Height; ++y, over += target.Width) {
+            QRgb* row = target.Row(y);
+            for (int x = 0; x < target.Width; ++x) {
+                OverlayPixel(row[x], over[x]);
+            }
+        }
     }
 }
 

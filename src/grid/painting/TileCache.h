@@ -41,6 +41,8 @@ public:
         int m_width;
         int m_height;
         std::array<const QRgb*, Kinds * 256> m_tiles{};
+        /// Without ground, premultiplied: what lies above another stitch.
+        std::array<const QRgb*, Kinds * 256> m_overlays{};
         // Masks of the store, so that squares with several stitches need not search for them.
         std::array<const PixelMask*, Kinds> m_shapes{};
         std::array<const PixelMask*, Kinds> m_outlines{};
@@ -55,12 +57,14 @@ public:
 
     /// Rows of Width pixels without gaps.
     [[nodiscard]] const QRgb* Tile(Size& size, std::uint8_t kind, std::uint8_t floss) {
-        const std::size_t at =
-            (kind < Size::Kinds ? std::size_t{kind} : 0) * 256 + std::size_t{floss};
-        const QRgb* tile = size.m_tiles[at];
-        return tile != nullptr ? tile : Make(size, kind < Size::Kinds ? kind : 0, floss);
+        if (kind >= Size::Kinds) {
+            kind = 0;
+            floss = 0;
+        }
+        const QRgb* tile = size.m_tiles[std::size_t{kind} * 256 + floss];
+        return tile != nullptr ? tile : Make(size, kind, floss);
     }
-    /// Paints what lies in a square, ground included, into Width x Height pixels.
+    /// Paints the stitches of a square that has some, ground included, into Width x Height pixels.
     void Compose(const PixelBuffer& target, Size& size, const SquareContent& content);
 
     [[nodiscard]] QRgb GroundOf() const { return m_ground; }
@@ -93,7 +97,9 @@ private:
 
     void Clear();
     void TakeFloss(std::uint8_t floss, const Look& look);
+    [[nodiscard]] QRgb* NewPicture(const Size& size);
     const QRgb* Make(Size& size, std::uint8_t kind, std::uint8_t floss);
+    const QRgb* MakeOverlay(Size& size, std::uint8_t kind, std::uint8_t floss);
     void AddStitch(const PixelBuffer& target, Size& size, const SquareContent::Stitch& stitch);
     void AddLayer(const PixelBuffer& target, Size& size, const StitchLayer& layer,
                   std::uint8_t floss);
@@ -106,6 +112,7 @@ private:
     Setting m_setting;
     QRgb m_ground = 0;
     std::array<Look, 256> m_looks{};
+    int m_entries = 255; ///< of the palette that the looks were taken from
     std::array<QRgb, 256> m_flosses{};
     std::unordered_map<std::uint64_t, std::unique_ptr<Size>> m_sizes;
     std::vector<std::unique_ptr<QRgb[]>> m_tiles;

@@ -45,7 +45,26 @@ void Spread(const QRgb* colours, std::size_t count, QRgb* pixels) {
     }
 }
 
+template<int Width>
+void CopyTileRow(const QRgb* const* tiles, std::size_t count, int row, QRgb* pixels,
+                 std::ptrdiff_t pitch) {
+    const std::ptrdiff_t skipped = std::ptrdiff_t{row} * Width;
+    for (std::size_t i = 0; i < count; ++i, pixels += pitch) {
+        std::memcpy(pixels, tiles[i] + skipped, Width * sizeof(QRgb));
+    }
+}
+
+using TileRowCopier = void (*)(const QRgb* const*, std::size_t, int, QRgb*, std::ptrdiff_t);
+constexpr std::array<TileRowCopier, 9> rowCopiers{CopyTileRow<0>, CopyTileRow<1>, CopyTileRow<2>,
+                                                  CopyTileRow<3>, CopyTileRow<4>, CopyTileRow<5>,
+                                                  CopyTileRow<6>, CopyTileRow<7>, CopyTileRow<8>};
+
 } // namespace
+
+void CopyTileRows(const QRgb* const* tiles, std::size_t count, int width, int row, QRgb* pixels,
+                  std::ptrdiff_t pitch) {
+    rowCopiers[static_cast<std::size_t>(width)](tiles, count, row, pixels, pitch);
+}
 
 TileCopier TileCopierFor(int width) {
     static constexpr auto copiers = MakeCopiers(std::make_integer_sequence<int, KnownWidths>());

@@ -18,6 +18,11 @@ using TileCopier = void (*)(const QRgb* from, QRgb* to, std::ptrdiff_t stride, i
 /// its bytes.
 [[nodiscard]] TileCopier TileCopierFor(int width);
 
+/// Copies row `row` of each of `count` tiles, which are `width` (1 to 8) pixels wide, to places
+/// `pitch` pixels apart.
+void CopyTileRows(const QRgb* const* tiles, std::size_t count, int width, int row, QRgb* pixels,
+                  std::ptrdiff_t pitch);
+
 /// Sets `pitch` pixels to each of `count` colours, one after the other.
 void SpreadColours(const QRgb* colours, std::size_t count, QRgb* pixels, int pitch);
 
