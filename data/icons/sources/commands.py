@@ -17,16 +17,16 @@ def turn(degrees):
     """An arrow round the middle as far as the turn goes, and a flag that is turned."""
     radius, end = 5.0, math.radians(degrees - 90)
     x, y = 5.5 + radius * math.cos(end), 5.5 + radius * math.sin(end)
-    # The head's arms lie 45 degrees to either side of the way back.
+    # The head's arms lie to either side of the way back, which bends inwards.
     back = end - math.pi / 2
-    arms = [(x + 2.3 * math.cos(back + a), y + 2.3 * math.sin(back + a)) for a in (-0.6, 0.95)]
+    arms = [(x + 2.3 * math.cos(back + a), y + 2.3 * math.sin(back + a)) for a in (-1.0, 0.55)]
     large = int(degrees > 180)
     return [
         ring(5.5, 5.5, radius, CLOTH, FINE),
         stroke(f"M5.5 0.5A{radius} {radius} 0 {large} 1 {x} {y}", ACCENT),
         stroke(f"M{arms[0][0]} {arms[0][1]}L{x} {y}L{arms[1][0]} {arms[1][1]}", ACCENT),
-        stroke("M4 7.5V3.5H7"),
-        stroke("M4 5.5H6"),
+        stroke("M4 3V8"),
+        solid("M4 3.2L7 4.7L4 6.2Z", TEXT, 0.6),
     ]
 
 
@@ -50,9 +50,14 @@ def flipped(path):
     return " ".join(out)
 
 
+def faint(path):
+    """What the mirror adds."""
+    return stroke(path, CLOTH)
+
+
 FLIP = (solid, "M0 9L3 1V9Z"), (stroke, "M10 9L7 1V9Z")
 AXIS = "M5 0V10"
-HALVES = (stroke, "M0 3L3 6M3 3L0 6"), (stroke, "M7 3L10 6M10 3L7 6")
+HALVES = (stroke, "M0 1L3 4M3 1L0 4M0 6L3 9M3 6L0 9"), (faint, "M7 1L10 4M10 1L7 4M7 6L10 9M10 6L7 9")
 BROKEN = "M5 0V1M5 3V4M5 6V7M5 9V10"
 
 
@@ -84,7 +89,9 @@ BUCKET = [fill("M0.4 6.4H8.4L5 10.6Z", CLOTH), stroke("M3 0L9 6L4.5 10.5L0 6L4.5
 
 
 def drop(x, y):
-    return solid(f"M{x} {y}C{x + 1.2} {y + 1.6} {x + 0.9} {y + 2.6} {x} {y + 2.6}C{x - 0.9} {y + 2.6} {x - 1.2} {y + 1.6} {x} {y}Z", ACCENT, 0.4)
+    right = f"C{x + 1.4} {y + 2} {x + 1.1} {y + 3.4} {x} {y + 3.4}"
+    left = f"C{x - 1.1} {y + 3.4} {x - 1.4} {y + 2} {x} {y}"
+    return solid(f"M{x} {y}{right}{left}Z", ACCENT, 0.4)
 
 
 TOOLS = {
@@ -93,9 +100,9 @@ TOOLS = {
         *[block(x - 1.5, y - 1.5, 3, 3, ACCENT) for x in (1, 10) for y in (1, 10)],
     ],
     "draw-text": [
-        stroke("M0 2V0H7V2M3.5 0V11M2 11H5"), stroke("M8 3H11M9.5 3V11M8 11H11", ACCENT),
+        stroke("M0 2V0H8V2M4 0V11M2 11H6"), stroke("M9 3H11M10 3V11M9 11H11", ACCENT),
     ],
-    "paint": [*BUCKET, drop(10.4, 7.6)],
+    "paint": [*BUCKET, drop(10.2, 7)],
     "paint-once": [*BUCKET, stroke("M8.8 8.4L10 7.4V11M8.8 11H11.2", ACCENT)],
     "color-picker": [
         fill("M2.2 7.8H5.6L3.6 10L0.2 10.8L1 9Z", ACCENT),
@@ -107,14 +114,14 @@ TOOLS = {
     "mirror-vertical": upright(HALVES, BROKEN),
     "mirror-horizontal": lying(HALVES, BROKEN),
     "mirror-none": [
-        stroke("M0 3L3 6M3 3L0 6M7 3L10 6M10 3L7 6"), stroke("M0 10L10 0", ACCENT),
+        *[make(path) for make, path in HALVES], stroke("M0 10L10 0", ACCENT),
     ],
     "shrink": [
         stroke("M0 0L3 3M3 0.5V3H0.5M11 0L8 3M8 0.5V3H10.5M0 11L3 8M3 10.5V8H0.5M11 11L8 8M8 10.5V8H10.5"),
         block(4.5, 4.5, 2, 2, ACCENT),
     ],
     "add-rows": [box(0, 0, 10, 3), stroke("M3 0V3M7 0V3"), plus(5, 8, 2)],
-    "delete-rows": [box(0, 0, 10, 3), times(5, 8)],
+    "delete-rows": [box(0, 0, 10, 3), stroke("M3 0V3M7 0V3"), times(5, 8)],
     "custom-stitches": [
         stroke("M11 3V0H0V11H3", CLOTH, FINE), *smyrna(4, 4, 2.6, 1.0),
         stroke("M5.4 11.2L6.1 8.9L9.4 5.6L11 7.2L7.7 10.5Z"),
@@ -147,15 +154,17 @@ TOOLS["center-both"] = [
 LENS = [ring(4, 4, 4), stroke("M7 7L11 11")]
 VIEW = {
     "grid-lines": [stroke("M4 0V11M7 0V11M0 4H11M0 7H11", CLOTH), box(0, 0, 11, 11)],
-    "zoom-tool": [*LENS, box(2.5, 2.5, 3, 3, ACCENT)],
+    "zoom-tool": [*LENS, box(3, 3, 2, 2, ACCENT)],
     "zoom-in": [*LENS, plus(4, 4)],
     "zoom-out": [*LENS, stroke("M2 4H6", ACCENT)],
     "zoom-previous": [*LENS, stroke("M6 4H2.2M3.8 2.2L2 4L3.8 5.8", ACCENT)],
-    "zoom-setting": [*LENS, stroke("M7 1H11L9 3Z", ACCENT)],
+    "zoom-setting": [*LENS, stroke("M2 3L4 5L6 3", ACCENT)],
     "zoom": [*LENS, stroke("M5.5 2.5L2.5 5.5", ACCENT), disc(2.5, 2.5, 0.8, ACCENT), disc(5.5, 5.5, 0.8, ACCENT)],
     "rulers": [stroke("M0 0H11V3H3V11H0Z"), stroke("M5 0V1M7 0V1M9 0V1M0 5H1M0 7H1M0 9H1", ACCENT)],
-    "toolbar": [box(0, 1, 11, 9), stroke("M0 4H11"), *[block(x, 1.9, 1.2, 1.2, ACCENT) for x in (1.5, 3.7, 5.9)]],
-    "status-bar": [box(0, 1, 11, 9), stroke("M0 7H11"), stroke("M2 8.5H5", ACCENT)],
+    "toolbar": [
+        box(0, 1, 11, 9), stroke("M0 5H11"), *[block(x, 2.5, 1, 1, ACCENT) for x in (1.5, 3.5, 5.5)],
+    ],
+    "status-bar": [box(0, 1, 11, 9), stroke("M0 6H11"), block(1.5, 7.5, 4, 1, ACCENT)],
     "refresh": [
         stroke("M10.5 5A5 5 0 0 0 1.2 3M1 0V3H4M0.5 6A5 5 0 0 0 9.8 8M10 11V8H7"),
     ],
@@ -167,16 +176,16 @@ VIEW = {
     ],
 }
 
-ROUND = ring(5.5, 5.5, 5.5)
-QUESTION = "M3.6 4.2A1.9 1.9 0 1 1 6.5 5.7C5.8 6.1 5.5 6.4 5.5 7"
+ROUND = ring(5, 5, 5.5)
+QUESTION = "M3.1 3.7A1.9 1.9 0 1 1 6 5.2C5.3 5.6 5 5.9 5 6.5"
 HELP = {
-    "help": [ROUND, stroke(QUESTION, ACCENT), disc(5.5, 8.6, 0.75, ACCENT)],
+    "help": [ROUND, stroke(QUESTION, ACCENT), disc(5, 8.3, 0.75, ACCENT)],
     "help-search": [
         stroke("M1.1 3.4A3 3 0 1 1 5.7 5.8C4.6 6.5 4 7 4 8.2"), disc(4, 10.7, 0.8), *lens(8, 8, 1.8),
     ],
     "help-update": [
         stroke("M2 8H1.8A2.6 2.6 0 0 1 1.8 2.8A3.8 3.8 0 0 1 9 3.4A2.4 2.4 0 0 1 9.2 8H9"),
-        stroke("M5.5 5.5V11M3.5 9L5.5 11L7.5 9", ACCENT),
+        stroke("M6 5V11M4 9L6 11L8 9", ACCENT),
     ],
     "help-tutorials": [
         stroke("M-0.4 3.5L5.5 1L11.4 3.5L5.5 6Z"), stroke("M2 5V8.5C3.5 10.2 7.5 10.2 9 8.5V5"),
@@ -185,8 +194,8 @@ HELP = {
     "tips": [
         stroke("M3 7.5C1.6 6.6 1 5.2 1 4A4 4 0 0 1 9 4C9 5.2 8.4 6.6 7 7.5V8H3Z"), stroke("M3.5 10.5H6.5", ACCENT),
     ],
-    "about": [ROUND, disc(5.5, 2.8, 0.8, ACCENT), stroke("M4.5 5H5.5V8.5M4.3 8.5H6.7", ACCENT)],
-    "cancel": [ROUND, times(5.5, 5.5, 2, ACCENT)],
+    "about": [ROUND, disc(5, 2.2, 0.8, ACCENT), stroke("M4 4.5H5V8M4 8H6", ACCENT)],
+    "cancel": [ROUND, times(5, 5, 2, ACCENT)],
 }
 
 ICONS = {**EDIT, **TOOLS, **VIEW, **HELP}

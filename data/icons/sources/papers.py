@@ -88,12 +88,12 @@ LIBRARY = {
     "library-maint": [*BOOKS, stroke("M6.8 11.2L7.3 9L10 4.4L11.5 5.3L8.8 9.9Z", ACCENT)],
     "library-install": [*BOOKS, down(9, 4, 11)],
     "install-library": [
-        stroke("M4 11H2A2 2 0 0 1 0 9V2A2 2 0 0 1 2 0H10V3M0 9A2 2 0 0 1 2 7H4"), down(8, 4, 11, head=3),
+        stroke("M5 11H2A2 2 0 0 1 0 9V2A2 2 0 0 1 2 0H9V2M0 9A2 2 0 0 1 2 7H5"), down(8, 4, 11, head=2),
     ],
     "install-font": [stroke("M0 2V0H8V2M4 0V11M2 11H5"), down(9, 5, 11)],
 }
 
-STRIP = [box(0, 0, 10, 3), stroke("M3 0V3M7 0V3")]
+STRIP = [block(0, 0, 3, 3), block(3, 0, 4, 3, CLOTH), box(0, 0, 10, 3), stroke("M3 0V3M7 0V3")]
 PALETTE = {
     "palette": [
         stroke(

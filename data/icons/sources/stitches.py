@@ -37,18 +37,19 @@ def three_quarter(corner):
 def pointer(x, y):
     """The arrow of the mouse with its tip at x, y: where it stands decides the corner."""
     shape = [(0, 0), (0, 4.4), (1.15, 3.35), (2.0, 5.0), (2.8, 4.6), (2.0, 3.0), (3.5, 3.0)]
-    path = "L".join(f"{x + dx} {y + dy}" for dx, dy in shape)
+    path = "L".join(f"{x + 0.85 * dx} {y + 0.85 * dy}" for dx, dy in shape)
     return solid(f"M{path}Z", ACCENT, 0.5)
 
 
 def coil(x, y):
     """Thread wound round the needle, seen from above."""
-    path, start, middle = f"M{x - 0.4} {y}", x - 0.4, x
-    for radius in (1.0, 2.0, 3.0, 4.0):
-        side = 1 if start < middle else -1
+    start = x + 0.9
+    path = f"M{start} {y}"
+    for radius in (1.3, 2.6, 3.6):
+        side = 1 if start < x else -1
         start += side * 2 * radius
         path += f"A{radius} {radius} 0 0 1 {start} {y}"
-    return stroke(path)
+    return stroke(path + f"C{x - 3.7} {y - 2} {x - 4} {y - 3} {x - 4.4} {y - 4.4}", TEXT, 1.4)
 
 
 def smyrna(x, y, reach, width):
@@ -61,11 +62,12 @@ def smyrna(x, y, reach, width):
 
 
 def knot(rx, ry, turn):
-    lines = stroke("M5.5 -0.6V11.6M-0.6 5.5H11.6", CLOTH, FINE)
+    # Where lines of the cloth cross: the fine lines lie on whole pixels.
+    middle = 31 / 6
     return [
-        lines,
-        stroke(ellipse_path(5.5, 5.5, rx, ry, turn)),
-        fill(ellipse_path(5.5, 5.5, rx - 1.6, max(ry - 1.6, 0.8), turn)),
+        stroke(f"M{middle} -0.5V11M-0.5 {middle}H11", CLOTH, FINE),
+        stroke(ellipse_path(middle, middle, rx, ry, turn)),
+        fill(ellipse_path(middle, middle, rx - 1.6, max(ry - 1.6, 0.8), turn)),
     ]
 
 
@@ -82,9 +84,9 @@ STITCHES = {
     "stitch-tbh": [cloth(), half("ul")],
     "stitch-bth": [cloth(), half("ll")],
     "stitch-fknot": [cloth(), coil(5.5, 5.5)],
-    "stitch-custom": [cloth(), *smyrna(5.5, 5.5, 4.2, 1.0)],
-    "stitch-s3q": [cloth(), half("ll"), quarter("ul", under=True), pointer(6.9, 6.0)],
-    "stitch-sq": [cloth(), quarter("ul"), pointer(6.4, 5.6)],
+    "stitch-custom": [cloth(), *smyrna(5.5, 5.5, 4.2, 4 / 3)],
+    "stitch-s3q": [cloth(), half("ll"), quarter("ul", under=True), pointer(7.5, 6.5)],
+    "stitch-sq": [cloth(), quarter("ul"), pointer(7.4, 6.4)],
 }
 for place in CORNERS:
     STITCHES[f"stitch-{place}3q"] = [cloth(), *three_quarter(place)]
@@ -147,7 +149,7 @@ DISPLAYS = {
         holed(6, 6, TEXT, "M7 7H9V9H7Z"),
     ],
     "display-color-stitches": [
-        cross(x + 0.2, y + 0.2, 3.6, tone)
+        cross(x + 0.2, y + 0.2, 4.0, tone)
         for (x, y), tone in zip(QUADRANTS, (ACCENT, CLOTH, CLOTH, TEXT))
     ],
     # As it will look when worked: both strands of each leg are seen.
@@ -161,7 +163,7 @@ DISPLAYS = {
 NEEDLE = [
     # The eye is drawn open so that the thread can be seen going through.
     stroke("M0 11L6.6 4.4M6.6 4.4C6.4 2.2 8.4 0 11 0C11 2.6 8.8 4.6 6.6 4.4Z"),
-    stroke("M9.4 1.6C4.6 -1.2 -0.4 1.4 1.6 4C3.2 6 6.4 6.6 9 7.4C11.4 8.2 11 11 8 11", ACCENT),
+    stroke("M9 2C11.4 4.4 11.6 7.2 9.2 8C7.2 8.6 5.6 8.4 6 11", ACCENT),
 ]
 
 ICONS = {**STITCHES, **KNOTS, **LINES, **DISPLAYS, "draw-stitches": NEEDLE}
