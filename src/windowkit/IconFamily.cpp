@@ -91,11 +91,12 @@ QIcon ProgramIcon() {
 }
 
 QStringList Names() {
-    QStringList names = QDir(QStringLiteral(":/icons"))
-                            .entryList({QStringLiteral("*.svg")}, QDir::Files, QDir::Name);
+    QStringList names =
+        QDir(QStringLiteral(":/icons")).entryList({QStringLiteral("*.svg")}, QDir::Files);
     for (QString& name : names) {
         name.chop(4);
     }
+    names.sort();
     return names;
 }
 

@@ -6,7 +6,11 @@
 #include <QColor>
 #include <QPalette>
 
+class QApplication;
+
 namespace zol::Theme {
+
+enum class Look { Light, Dark };
 
 /// Whether text is light on a dark ground.
 [[nodiscard]] bool IsDark(const QPalette& palette);
@@ -16,5 +20,15 @@ namespace zol::Theme {
 [[nodiscard]] QColor Desk(const QPalette& palette);
 /// The cloth's fine edge.
 [[nodiscard]] QColor Edge(const QPalette& palette);
+/// How well two colours stand apart, from 1 to 21; text needs 4.5.
+[[nodiscard]] double Contrast(const QColor& one, const QColor& other);
+
+/// The program's own colours, for where the platform has no style.
+[[nodiscard]] QPalette Palette(Look look);
+
+/// At the start: keeps the platform's style, or takes Fusion with Palette, dark if the system is;
+/// what is selected takes the accent from then on, also after the system's colours change. The
+/// environment variable KORVANTA_THEME, "light" or "dark", asks for Fusion in that look.
+void Apply(QApplication& application);
 
 } // namespace zol::Theme

@@ -19,14 +19,14 @@ def turn(degrees):
     x, y = 5.5 + radius * math.cos(end), 5.5 + radius * math.sin(end)
     # The head's arms lie to either side of the way back, which bends inwards.
     back = end - math.pi / 2
-    arms = [(x + 2.3 * math.cos(back + a), y + 2.3 * math.sin(back + a)) for a in (-1.0, 0.55)]
+    arms = [(x + 2 * math.cos(back + a), y + 2 * math.sin(back + a)) for a in (-1.0, 0.55)]
     large = int(degrees > 180)
     return [
         ring(5.5, 5.5, radius, CLOTH, FINE),
-        stroke(f"M5.5 0.5A{radius} {radius} 0 {large} 1 {x} {y}", ACCENT),
+        stroke(f"M5.5 {5.5 - radius}A{radius} {radius} 0 {large} 1 {x} {y}", ACCENT),
         stroke(f"M{arms[0][0]} {arms[0][1]}L{x} {y}L{arms[1][0]} {arms[1][1]}", ACCENT),
-        stroke("M4 3V8"),
-        solid("M4 3.2L7 4.7L4 6.2Z", TEXT, 0.6),
+        stroke("M4.5 3.2V7.8"),
+        solid("M4.5 3.3L7.4 4.7L4.5 6.1Z", TEXT, 0.6),
     ]
 
 
@@ -85,7 +85,7 @@ EDIT = {
     "rotate-270": turn(270),
 }
 
-BUCKET = [fill("M0.4 6.4H8.4L5 10.6Z", CLOTH), stroke("M3 0L9 6L4.5 10.5L0 6L4.5 1.5")]
+BUCKET = [stroke("M3 0L9 6L4.5 10.5L0 6L4.5 1.5")]
 
 
 def drop(x, y):
@@ -102,7 +102,7 @@ TOOLS = {
     "draw-text": [
         stroke("M0 2V0H8V2M4 0V11M2 11H6"), stroke("M9 3H11M10 3V11M9 11H11", ACCENT),
     ],
-    "paint": [*BUCKET, drop(10.2, 7)],
+    "paint": [fill("M0.4 6.4H8.4L5 10.6Z", CLOTH), *BUCKET, drop(10.2, 7)],
     "paint-once": [*BUCKET, stroke("M8.8 8.4L10 7.4V11M8.8 11H11.2", ACCENT)],
     "color-picker": [
         fill("M2.2 7.8H5.6L3.6 10L0.2 10.8L1 9Z", ACCENT),
@@ -184,7 +184,7 @@ HELP = {
         stroke("M1.1 3.4A3 3 0 1 1 5.7 5.8C4.6 6.5 4 7 4 8.2"), disc(4, 10.7, 0.8), *lens(8, 8, 1.8),
     ],
     "help-update": [
-        stroke("M2 8H1.8A2.6 2.6 0 0 1 1.8 2.8A3.8 3.8 0 0 1 9 3.4A2.4 2.4 0 0 1 9.2 8H9"),
+        stroke("M3 8H2.2A2.6 2.6 0 0 1 2.2 2.8A3.8 3.8 0 0 1 9 3.4A2.4 2.4 0 0 1 9.2 8H9"),
         stroke("M6 5V11M4 9L6 11L8 9", ACCENT),
     ],
     "help-tutorials": [

@@ -23,16 +23,8 @@ def down(x, top, bottom, tone=ACCENT, head=2):
     return stroke(f"M{x} {top}V{bottom}M{x - head} {bottom - head}L{x} {bottom}L{x + head} {bottom - head}", tone)
 
 
-def up(x, top, bottom, tone=ACCENT, head=2):
-    return stroke(f"M{x} {bottom}V{top}M{x - head} {top + head}L{x} {top}L{x + head} {top + head}", tone)
-
-
 def right(left, end, y, tone=ACCENT, head=2):
     return stroke(f"M{left} {y}H{end}M{end - head} {y - head}L{end} {y}L{end - head} {y + head}", tone)
-
-
-def left(end, start, y, tone=ACCENT, head=2):
-    return stroke(f"M{start} {y}H{end}M{end + head} {y - head}L{end} {y}L{end + head} {y + head}", tone)
 
 
 def pencil(tone=ACCENT):
@@ -73,7 +65,7 @@ FILES = {
         stroke("M4 3V0H8L11 3V11H4V9"), right(0, 7, 6),
     ],
     "paste-from": [
-        stroke("M4 3V0H8L11 3V11H4V9"), left(0, 8, 6),
+        stroke("M7 9V11H0V0H4L7 3"), right(3, 11, 6),
     ],
     "pattern-info": [PAGE, FOLD, disc(5, 4.9, 0.8, ACCENT), stroke("M5 7V9", ACCENT)],
 }
@@ -86,14 +78,22 @@ LIBRARY = {
         *BOOKS, plus(9, 3), stroke("M7 8V7H8M10 7H11V8M11 10V11H10M8 11H7V10", ACCENT),
     ],
     "library-maint": [*BOOKS, stroke("M6.8 11.2L7.3 9L10 4.4L11.5 5.3L8.8 9.9Z", ACCENT)],
-    "library-install": [*BOOKS, down(9, 4, 11)],
+    "library-install": [*BOOKS, down(9, 2, 8), stroke("M7 11H11", ACCENT)],
     "install-library": [
         stroke("M5 11H2A2 2 0 0 1 0 9V2A2 2 0 0 1 2 0H9V2M0 9A2 2 0 0 1 2 7H5"), down(8, 4, 11, head=2),
     ],
     "install-font": [stroke("M0 2V0H8V2M4 0V11M2 11H5"), down(9, 5, 11)],
 }
 
-STRIP = [block(0, 0, 3, 3), block(3, 0, 4, 3, CLOTH), box(0, 0, 10, 3), stroke("M3 0V3M7 0V3")]
+
+
+def strip(y):
+    """Three flosses of a palette."""
+    return [
+        block(0, y, 3, 3), block(3, y, 4, 3, CLOTH), box(0, y, 10, 3), stroke(f"M3 {y}V{y + 3}M7 {y}V{y + 3}"),
+    ]
+
+
 PALETTE = {
     "palette": [
         stroke(
@@ -102,9 +102,9 @@ PALETTE = {
         ),
         disc(2.6, 6, 0.9), disc(4, 2.9, 0.9), disc(7.2, 2.9, 0.9, ACCENT),
     ],
-    "save-palette": [*STRIP, down(5, 5, 11, head=3)],
-    "load-palette": [*STRIP, up(5, 5, 11, head=3)],
-    "default-palette": [*STRIP, stroke("M1 8L4 11L9 6", ACCENT)],
+    "save-palette": [*strip(0), down(5, 5, 11, head=3)],
+    "load-palette": [*strip(8), down(5, 0, 6, head=3)],
+    "default-palette": [*strip(0), stroke("M1 8L4 11L9 6", ACCENT)],
     "clear-palette": [
         box(0, 0, 4, 4), block(6.5, -0.5, 5, 5), box(0, 7, 4, 4), times(9, 9),
     ],

@@ -85,8 +85,9 @@ STITCHES = {
     "stitch-bth": [cloth(), half("ll")],
     "stitch-fknot": [cloth(), coil(5.5, 5.5)],
     "stitch-custom": [cloth(), *smyrna(5.5, 5.5, 4.2, 4 / 3)],
-    "stitch-s3q": [cloth(), half("ll"), quarter("ul", under=True), pointer(7.5, 6.5)],
-    "stitch-sq": [cloth(), quarter("ul"), pointer(7.4, 6.4)],
+    # Faint is the leg whose corner is not settled yet.
+    "stitch-s3q": [cloth(), half("ll"), quarter("ul", CLOTH, under=True), pointer(7.5, 6.5)],
+    "stitch-sq": [cloth(), quarter("ul", CLOTH), pointer(7.4, 6.4)],
 }
 for place in CORNERS:
     STITCHES[f"stitch-{place}3q"] = [cloth(), *three_quarter(place)]
@@ -104,7 +105,7 @@ WAVE = "M0 5C0.9 1.6 1.9 1.6 2.75 5C3.6 8.4 4.6 8.4 5.5 5C6.4 1.6 7.4 1.6 8.25 5
 LINES = {
     "line-straight": [stroke("M0 5H11")],
     "line-squiggle": [stroke(WAVE)],
-    "line-dash": [stroke("M0 5H2M4.5 5H6.5M9 5H11")],
+    "line-dash": [stroke("M0 5H1.5M4.75 5H6.25M9.5 5H11")],
     "line-dots": [disc(x, 5, 0.8) for x in (0.3, 2.9, 5.5, 8.1, 10.7)],
     "line-tracks": [stroke("M0 5H11M1 3V7M4 3V7M7 3V7M10 3V7")],
     "line-plus": [stroke("M0 5H2M1 4V6M4.5 5H6.5M5.5 4V6M9 5H11M10 4V6")],
