@@ -95,6 +95,16 @@ TEST(SafeFile, FullDeviceIsDiskFull) {
     EXPECT_EQ(SafeFile::Replace("/dev/full", Bytes("new")), ErrDiskFull);
 }
 
+TEST(SafeFile, UnsyncedReplacesWholeAndFailsAlike) {
+    const TempFolder folder;
+    WriteFile(folder / "a", "a long old content");
+    EXPECT_EQ(SafeFile::ReplaceUnsynced(folder / "a", Bytes("new")), ErrNone);
+    EXPECT_EQ(ReadFile(folder / "a"), "new");
+    EXPECT_EQ(FilesIn(folder.Path()), 1U);
+    EXPECT_EQ(SafeFile::ReplaceUnsynced("/dev/full", Bytes("new")), ErrDiskFull);
+    EXPECT_EQ(SafeFile::ReplaceUnsynced(folder / "no" / "a", Bytes("new")), ErrPathNotFound);
+}
+
 TEST(SafeFile, BackupThatCannotBeMadeLeavesEveryNameAsItWas) {
     const TempFolder folder;
     WriteFile(folder / "a.pat", "old");
