@@ -136,6 +136,15 @@ RunMask CoverCanvas::Runs(Colour ink, QPoint begin) const {
     return mask;
 }
 
+/// Runs whose pixels are asked for before they are needed: each scan line lies far from the last.
+constexpr std::size_t RunsAhead = 10;
+
+void Prefetch(const PixelBuffer& target, QPoint place, const RunMask::Run& run) {
+    const int x = std::clamp(place.x() + run.X, 0, target.Width - 1);
+    const int y = std::clamp(place.y() + run.Y, 0, target.Height - 1);
+    __builtin_prefetch(target.Row(y) + x, 1);
+}
+
 /// How far marks and waves may reach to the side of a line: less than a square.
 int MarginOf(const LinePen& pen) {
     return pen.Width + static_cast<int>(std::ceil(std::max(pen.SquareWidth, pen.SquareHeight))) + 1;
@@ -150,8 +159,13 @@ std::uint64_t KeyOf(QPoint span, int style) {
 } // namespace
 
 void BlendRuns(const PixelBuffer& target, QPoint place, const RunMask& mask, QRgb colour) {
+    if (target.Width <= 0 || target.Height <= 0) {
+        return;
+    }
     const std::uint8_t* cover = mask.Cover.data();
-    for (const RunMask::Run& run : mask.Runs) {
+    for (std::size_t i = 0; i < mask.Runs.size(); ++i) {
+        Prefetch(target, place, mask.Runs[std::min(i + RunsAhead, mask.Runs.size() - 1)]);
+        const RunMask::Run& run = mask.Runs[i];
         const std::uint8_t* ownCover = cover;
         cover += run.Solid ? 0 : run.Count;
         const int y = place.y() + run.Y;
@@ -166,8 +180,8 @@ void BlendRuns(const PixelBuffer& target, QPoint place, const RunMask& mask, QRg
             std::fill(pixels + std::min(from, to), pixels + to, colour);
             continue;
         }
-        for (int i = from; i < to; ++i) {
-            BlendPixel(pixels[i], colour, ownCover[i]);
+        for (int j = from; j < to; ++j) {
+            BlendPixel(pixels[j], colour, ownCover[j]);
         }
     }
 }

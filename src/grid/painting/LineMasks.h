@@ -49,7 +49,7 @@ public:
 
 private:
     /// Memory that the masks may hold.
-    static constexpr std::size_t Budget = std::size_t{24} << 20U;
+    static constexpr std::size_t Budget = std::size_t{48} << 20U;
 
     /// Forgets all when lines now look different.
     void TakeLook(const LinePen& pen, bool antialias);
