@@ -118,9 +118,13 @@ int Pattern::Save(const std::string& fileName, ByteWriter& stream, std::uint64_t
     const bool paletteChanged = m_palette.IsChanged();
     const int number = Guarded(*m_context, [&]() -> int {
         const std::uint64_t start = offset != 0 ? offset : stream.Position();
-        const std::vector<std::uint8_t> bytes = PatternWriter::Write(*this);
-        stream.Seek(start);
-        stream.WriteBytes(bytes);
+        ByteWriter fresh = PatternWriter::WriteStream(*this);
+        if (start == 1 && stream.Bytes().empty()) {
+            stream = std::move(fresh);
+        } else {
+            stream.Seek(start);
+            stream.WriteBytes(fresh.Bytes());
+        }
         // As if the checksum had been put in last.
         stream.Seek(start + PatternHeader::Size);
         SetChanged(false);

@@ -52,7 +52,7 @@ struct RunValue {
 
 } // namespace
 
-std::vector<std::uint8_t> PatternWriter::Write(Pattern& pattern) {
+ByteWriter PatternWriter::WriteStream(Pattern& pattern) {
     if (pattern.m_grid.empty()) {
         throw RunTimeError(ErrInvalidCall, "A pattern without squares cannot be saved");
     }
@@ -73,7 +73,7 @@ std::vector<std::uint8_t> PatternWriter::Write(Pattern& pattern) {
     const std::int32_t checksum = ComputeChecksum(stream.Bytes());
     stream.Seek(PatternHeader::ChecksumOffset + 1);
     stream.WriteI32(checksum);
-    return stream.Take();
+    return stream;
 }
 
 void PatternWriter::WriteHeader() {

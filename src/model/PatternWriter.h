@@ -17,7 +17,11 @@ class PatternWriter {
 public:
     /// Notes the writing program's version in the pattern's header and, as every save inside a
     /// pattern does, clears the palette's changed flag.
-    [[nodiscard]] static std::vector<std::uint8_t> Write(Pattern& pattern);
+    [[nodiscard]] static std::vector<std::uint8_t> Write(Pattern& pattern) {
+        return WriteStream(pattern).Take();
+    }
+    /// The same, for a stream that has nothing in front of the pattern and needs no copy of it.
+    [[nodiscard]] static ByteWriter WriteStream(Pattern& pattern);
 
 private:
     PatternWriter(Pattern& pattern, ByteWriter& stream) : m_pattern(pattern), m_stream(stream) {}
