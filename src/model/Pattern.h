@@ -199,8 +199,8 @@ public:
     /// 0 or the position of its last. Without the release 6 magic the load fails with 321.
     [[nodiscard]] int Load(const std::string& fileName, ByteReader& stream, std::uint64_t offset,
                            std::uint64_t end);
-    /// Writes a file of its own, whole or not at all; an empty name means FileName. If `backup`
-    /// is given the old file takes that name. 0 or a run-time error number, told at the door.
+    /// Writes a file of its own, whole or not at all; an empty name means FileName. If `backup` is
+    /// given the old file takes it. 0 or an error number, told at the door; FileName then stays.
     [[nodiscard]] int Save(const std::filesystem::path& fileName,
                            const std::filesystem::path& backup = {});
     /// Writes the stream into an open file; `offset` 0 means its present position. The file then

@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <fstream>
 #include <new>
+#include <utility>
 
 #include "model/Pattern.h"
 #include "model/PatternReader.h"
@@ -93,6 +94,7 @@ int Pattern::Load(const std::string& fileName, ByteReader& stream, std::uint64_t
 }
 
 int Pattern::Save(const fs::path& fileName, const fs::path& backup) {
+    const std::string oldName = FileName;
     if (!fileName.empty()) {
         FileName = PathText(fileName);
     }
@@ -109,12 +111,14 @@ int Pattern::Save(const fs::path& fileName, const fs::path& backup) {
     if (number != ErrNone) {
         // Writing the palette block has taken its flag for saved.
         m_palette.SetChanged(paletteChanged);
+        // Nothing stands under the new name, so the next save has to find the old one.
+        FileName = oldName;
     }
     return number;
 }
 
 int Pattern::Save(const std::string& fileName, ByteWriter& stream, std::uint64_t offset) {
-    FileName = fileName;
+    const std::string oldName = std::exchange(FileName, fileName);
     const bool paletteChanged = m_palette.IsChanged();
     const int number = Guarded(*m_context, [&]() -> int {
         const std::uint64_t start = offset != 0 ? offset : stream.Position();
@@ -132,6 +136,7 @@ int Pattern::Save(const std::string& fileName, ByteWriter& stream, std::uint64_t
     });
     if (number != ErrNone) {
         m_palette.SetChanged(paletteChanged);
+        FileName = oldName;
     }
     return number;
 }

@@ -66,6 +66,12 @@ TEST_F(PatternFile, SaveWithoutAnyNameFailsAndTells) {
     EXPECT_EQ(messages.told[0].icon, MessageIcon::Exclamation);
 }
 
+TEST_F(PatternFile, FailedSaveKeepsTheNameOfTheLastFile) {
+    ASSERT_EQ(pattern.Save(folder / "a.pat"), 0);
+    EXPECT_EQ(pattern.Save(folder / "none" / "b.pat"), ErrPathNotFound);
+    EXPECT_EQ(pattern.FileName, PathText(folder / "a.pat"));
+}
+
 TEST_F(PatternFile, BackupKeepsTheOldFile) {
     ASSERT_EQ(pattern.Save(folder / "a.pat"), 0);
     const std::string old = ReadFile(folder / "a.pat");
