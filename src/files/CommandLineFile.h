@@ -49,10 +49,9 @@ public:
     Outcome Run(const std::string& text);
 
 private:
-    [[nodiscard]] std::filesystem::path NewFilePath(const std::string& cleanName) const;
+    Outcome OpenFile(const std::filesystem::path& path, bool isNewFile);
     void Install(const std::string& fileName);
     void SaveNewFile(const std::filesystem::path& path);
-    [[nodiscard]] std::filesystem::path FreeNameBeside(const std::filesystem::path& path) const;
 
     FileCommands& m_commands;
     MessageDoor& m_messages;

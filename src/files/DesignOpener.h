@@ -28,9 +28,11 @@ public:
     /// `displayName` is what the title shows.
     [[nodiscard]] virtual DesignOpening Open(const std::string& fileName,
                                              const std::string& displayName) = 0;
-    /// A design of this kind without content, which ReadFrom fills; its name and title as given.
-    [[nodiscard]] virtual std::unique_ptr<OpenDesign> Make(const std::string& fileName,
-                                                           const std::string& displayName) = 0;
+    /// Reads what OpenDesign::WriteTo wrote into a recovery file; the design's name as given.
+    [[nodiscard]] virtual DesignOpening Recover(const std::string& fileName,
+                                                ByteReader& stream) = 0;
+    /// False for a kind that is known but cannot be read; Open then says so in its answer.
+    [[nodiscard]] virtual bool CanOpen() const { return true; }
 };
 
 } // namespace zol

@@ -11,10 +11,12 @@
 
 #include "files/DesignOpener.h"
 #include "files/FileCommandsView.h"
+#include "files/FilePlaces.h"
 #include "grid/tools/Undo.h"
 #include "model/Doors.h"
 #include "model/OpenDesign.h"
 #include "settings/Options.h"
+#include "settings/basAutoSave.h"
 
 namespace zol {
 
@@ -33,7 +35,7 @@ struct FileCommandsDesk {
     std::function<std::string(int index)> RecentFile; ///< from 0; empty if there is none
     std::function<void()> ClearAutoSave;              ///< removes this run's recovery file
     /// What lies below it may vanish at any time.
-    std::filesystem::path SystemTempFolder = std::filesystem::temp_directory_path();
+    std::filesystem::path TempFolder = FilePlaces::SystemTempFolder();
 };
 
 /// The commands that open, save and close designs: the one road by which a file reaches the grid
@@ -65,24 +67,23 @@ public:
     bool OpenDropped(const std::string& fileName);
     /// Saves what stands open as a pattern file of that name, which it then goes by.
     bool SaveUnder(const std::filesystem::path& fileName);
-    /// Puts a design of a recovery file onto the grid, changed, under the name that it had. False
-    /// for a kind that nobody reads (nothing happens then) and for damage: the design that stood
-    /// open stays.
-    bool Recover(char kind, const std::string& fileName, ByteReader& stream);
+    /// What reads recovery files, by kind. They fill the program's one pattern where that is what
+    /// they are of; after damage what stood open stays, and the user has been told.
+    [[nodiscard]] DesignMakers RecoveryMakers();
+    /// Puts recovered work onto the grid; it counts as changed.
+    void ShowRecovered(std::unique_ptr<OpenDesign> design);
 
 private:
     [[nodiscard]] DesignOpener& OpenerOf(const std::string& fileName) const;
     void TellOpenFailure(const std::string& fileName, const DesignOpening& opening);
-    void TellSaveFailure(int result);
-    [[nodiscard]] bool RefuseSave();
+    [[nodiscard]] bool MaySave();
     [[nodiscard]] bool SaveBeforeLeaving();
-    [[nodiscard]] bool InitializeCurrent(const NewPattern& wanted);
+    [[nodiscard]] bool IsSaved(int result);
     [[nodiscard]] NewPattern Defaults() const;
+    void PutUnsavedPattern();
+    void PrepareColors(Pattern& pattern) const;
     void PutOnGrid(std::unique_ptr<OpenDesign> design);
-    void PrepareColors();
-    void ShowTitle();
     [[nodiscard]] FileChoice SaveChoice() const;
-    [[nodiscard]] std::filesystem::path PatternsFolder() const;
 
     FileCommandsDesk m_desk;
     std::vector<std::unique_ptr<DesignOpener>> m_openers;

@@ -13,7 +13,7 @@ enum class FileNameKind : std::uint8_t { Pattern, Backup, StitchedFont, Library,
 
 /// By the name's ending in any case; a stitched font's ".stf" counts anywhere in the name.
 [[nodiscard]] FileNameKind KindOfFileName(const std::string& fileName);
-/// Whether the file commands can put it onto the grid now.
+/// Whether files of this kind hold a design that can stand on the grid.
 [[nodiscard]] bool CanStandOnGrid(FileNameKind kind);
 /// Whether the file is one that is installed into the program's folders (".plb" or ".stf").
 [[nodiscard]] bool IsAddOn(const std::string& fileName);

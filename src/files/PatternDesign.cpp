@@ -3,9 +3,10 @@
 
 #include "files/PatternDesign.h"
 
-#include <cctype>
 #include <filesystem>
+#include <string_view>
 
+#include "model/CodePage.h"
 #include "model/SafeFile.h"
 
 namespace zol {
@@ -14,13 +15,11 @@ namespace {
 
 /// Where the present file goes when a save replaces it; empty for names that keep no backup.
 std::filesystem::path BackupOf(const std::string& fileName) {
-    const std::filesystem::path path = PathOf(fileName);
-    std::string ending = PathText(path.extension());
-    for (char& letter : ending) {
-        letter = static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
+    constexpr std::string_view ending = ".pat";
+    if (!LowerCase(fileName).ends_with(ending)) {
+        return {};
     }
-    return ending == ".pat" ? std::filesystem::path(path).replace_extension(".bpt")
-                            : std::filesystem::path();
+    return PathOf(fileName.substr(0, fileName.size() - ending.size()) + ".bpt");
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "model/Pattern.h"
 #include "model/RunTimeError.h"
 
 namespace zol::FileCommandTexts {
@@ -19,6 +20,15 @@ namespace zol::FileCommandTexts {
 /// What the user sees of a pattern that could not be saved.
 [[nodiscard]] inline std::string SaveFailure(int result) {
     return "error saving pattern: " + std::to_string(result);
+}
+
+/// One line about a pattern: "Rose, 100 x 80, 12 flosses"; without a title it is left out.
+[[nodiscard]] inline std::string Summary(const Pattern& pattern) {
+    const int flosses = pattern.GetPalette().GetEntriesCount();
+    std::string text = pattern.Title.empty() ? std::string() : pattern.Title + ", ";
+    text += std::to_string(pattern.GetPatternWidth()) + " x ";
+    text += std::to_string(pattern.GetPatternHeight()) + ", ";
+    return text + std::to_string(flosses) + (flosses == 1 ? " floss" : " flosses");
 }
 
 } // namespace zol::FileCommandTexts
