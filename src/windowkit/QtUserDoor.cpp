@@ -1,0 +1,222 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#include "windowkit/QtUserDoor.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include <system_error>
+
+#include "model/SafeFile.h"
+
+namespace zol {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// A question must not stand under the wait cursor of the work that asks it.
+class NormalCursor {
+public:
+    NormalCursor() : m_covered(QApplication::overrideCursor() != nullptr) {
+        if (m_covered) {
+            QApplication::setOverrideCursor(Qt::ArrowCursor);
+        }
+    }
+    ~NormalCursor() {
+        if (m_covered) {
+            QApplication::restoreOverrideCursor();
+        }
+    }
+    NormalCursor(const NormalCursor&) = delete;
+    NormalCursor& operator=(const NormalCursor&) = delete;
+
+private:
+    bool m_covered;
+};
+
+QMessageBox::Icon IconOf(MessageIcon icon) {
+    switch (icon) {
+    case MessageIcon::Information:
+        return QMessageBox::Information;
+    case MessageIcon::Question:
+        return QMessageBox::Question;
+    case MessageIcon::Exclamation:
+        return QMessageBox::Warning;
+    case MessageIcon::Stop:
+        return QMessageBox::Critical;
+    default:
+        return QMessageBox::NoIcon;
+    }
+}
+
+QMessageBox::StandardButtons ButtonsOf(MessageButtons buttons) {
+    switch (buttons) {
+    case MessageButtons::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case MessageButtons::YesNoCancel:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    default:
+        return QMessageBox::Ok;
+    }
+}
+
+MessageAnswer AnswerOf(int button) {
+    switch (button) {
+    case QMessageBox::Yes:
+        return MessageAnswer::Yes;
+    case QMessageBox::No:
+        return MessageAnswer::No;
+    case QMessageBox::Ok:
+        return MessageAnswer::Ok;
+    default:
+        return MessageAnswer::Cancel;
+    }
+}
+
+void SetModality(QDialog& dialog) {
+    dialog.setWindowModality(dialog.parentWidget() != nullptr ? Qt::WindowModal
+                                                              : Qt::ApplicationModal);
+}
+
+/// What a message box shows.
+struct BoxContent {
+    QString Text;
+    QString More;
+    MessageIcon Icon = MessageIcon::None;
+    MessageButtons Buttons = MessageButtons::Ok;
+    QString Title;
+};
+
+MessageAnswer ShowBox(QWidget* parent, const BoxContent& content) {
+    const NormalCursor cursor;
+    QMessageBox box(IconOf(content.Icon),
+                    content.Title.isEmpty() ? QStringLiteral("Korvanta") : content.Title,
+                    content.Text, ButtonsOf(content.Buttons), parent);
+    // File names may hold "<" and "&", which are to be seen as they stand.
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(content.More);
+    box.setDefaultButton(content.Buttons == MessageButtons::Ok ? QMessageBox::Ok
+                                                               : QMessageBox::Yes);
+    switch (content.Buttons) {
+    case MessageButtons::YesNo:
+        box.setEscapeButton(QMessageBox::No);
+        break;
+    case MessageButtons::YesNoCancel:
+        box.setEscapeButton(QMessageBox::Cancel);
+        break;
+    default:
+        box.setEscapeButton(QMessageBox::Ok);
+    }
+    SetModality(box);
+    return AnswerOf(box.exec());
+}
+
+/// "*.pat" as "*.[pP][aA][tT]", since not every platform's dialog ignores the case.
+QString AnyCase(const QString& pattern) {
+    QString result;
+    for (const QChar letter : pattern) {
+        if (letter.toLower() != letter.toUpper()) {
+            result += QLatin1Char('[');
+            result += letter.toLower();
+            result += letter.toUpper();
+            result += QLatin1Char(']');
+        } else {
+            result += letter;
+        }
+    }
+    return result;
+}
+
+QString QtText(const std::string& text) {
+    return QString::fromStdString(text);
+}
+
+QString QtPath(const fs::path& path) {
+    return QString::fromStdString(PathText(path));
+}
+
+/// The file that was chosen; nothing if the user cancelled.
+std::optional<fs::path> RunDialog(QFileDialog& dialog) {
+    const NormalCursor cursor;
+    SetModality(dialog);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    return PathOf(dialog.selectedFiles().constFirst().toStdString());
+}
+
+void SetUp(QFileDialog& dialog, const FileChoice& choice) {
+    // The patterns spell both cases of every letter, which nobody wants to read.
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    dialog.setNameFilters(QtUserDoor::NameFilters(choice.Filter));
+    if (!choice.SuggestedName.empty()) {
+        dialog.selectFile(QtText(choice.SuggestedName));
+    }
+}
+
+} // namespace
+
+void QtUserDoor::Tell(const std::string& text, MessageIcon icon, const std::string& title) {
+    TellMore(text, {}, icon, title);
+}
+
+void QtUserDoor::TellMore(const std::string& text, const std::string& more, MessageIcon icon,
+                          const std::string& title) {
+    (void)ShowBox(m_parent, {QtText(text), QtText(more), icon, MessageButtons::Ok, QtText(title)});
+}
+
+MessageAnswer QtUserDoor::Ask(const std::string& text, MessageIcon icon, MessageButtons buttons,
+                              const std::string& title) {
+    return ShowBox(m_parent, {QtText(text), {}, icon, buttons, QtText(title)});
+}
+
+std::optional<fs::path> QtUserDoor::AskOpenFile(const FileChoice& choice) {
+    QFileDialog dialog(m_parent, QtText(choice.Title), QtPath(choice.Folder));
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    SetUp(dialog, choice);
+    return RunDialog(dialog);
+}
+
+std::optional<fs::path> QtUserDoor::AskSaveFile(const FileChoice& choice) {
+    FileChoice present = choice;
+    for (;;) {
+        QFileDialog dialog(m_parent, QtText(choice.Title), QtPath(present.Folder));
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        dialog.setFileMode(QFileDialog::AnyFile);
+        SetUp(dialog, present);
+        std::optional<fs::path> file = RunDialog(dialog);
+        if (!file || file->has_extension() || choice.DefaultExtension.empty()) {
+            return file;
+        }
+        // The ending is put on here and not by the dialog, because some platforms' dialogs ask
+        // about the name as it was typed: the file that would be lost goes by the longer name.
+        *file += PathOf("." + choice.DefaultExtension);
+        std::error_code error;
+        if (!fs::exists(*file, error) ||
+            Ask(PathText(file->filename()) + " already exists.  Do you want to replace it?",
+                MessageIcon::Question, MessageButtons::YesNo, choice.Title) == MessageAnswer::Yes) {
+            return file;
+        }
+        present.Folder = file->parent_path();
+        present.SuggestedName = PathText(file->filename());
+    }
+}
+
+QStringList QtUserDoor::NameFilters(const std::string& filter) {
+    const QStringList parts = QtText(filter).split(QLatin1Char('|'));
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        QStringList patterns;
+        for (const QString& pattern : parts[i + 1].split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+            patterns << AnyCase(pattern.trimmed());
+        }
+        filters << QStringLiteral("%1 (%2)").arg(parts[i], patterns.join(QLatin1Char(' ')));
+    }
+    return filters;
+}
+
+} // namespace zol
