@@ -164,12 +164,19 @@ void PaintNewLine(benchmark::State& state) {
     QImage piece(160, 160, QImage::Format_RGB32);
     zol::BackStitchLine line{500, 500, 1, 507, 503, 9, 7, zol::LineStraight};
     QRgb colour = 0xFF000000U;
-    zol::Ratio(state, 1).Measure(
-        [&] { Fill(whole, ++colour); },
-        [&] {
-            pattern.SetBackstitchLine(line);
-            painter.PaintImage(piece, {499 * 20, 499 * 20}, view, {500, 500, 507, 507});
-        });
+    const auto paint = [&] {
+        painter.PaintImage(piece, {499 * 20, 499 * 20}, view, {500, 500, 507, 507});
+    };
+    pattern.SetBackstitchLine(line);
+    zol::Ratio(state, 1).Measure([&] { Fill(whole, ++colour); },
+                                 [&] {
+                                     pattern.RemoveBackStitchLine(pattern.GetBackStitchCount());
+                                     paint(); // without it, so that the painter has seen it go
+                                 },
+                                 [&] {
+                                     pattern.SetBackstitchLine(line);
+                                     paint();
+                                 });
 }
 
 } // namespace
