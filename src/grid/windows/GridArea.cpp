@@ -235,11 +235,16 @@ SquareRect GridArea::GetVisibleRange() const {
     const QSize shown(static_cast<int>(std::ceil(m_holder->width() * ratio)),
                       static_cast<int>(std::ceil(m_holder->height() * ratio)));
     SquareRect range = Geometry().SquaresIn(QRect(corner, shown));
-    if (!range.IsEmpty()) {
-        // Where several squares share a pixel the first of them is meant.
-        range.Left = m_first.X;
-        range.Top = m_first.Y;
+    if (range.IsEmpty()) {
+        return range;
     }
+    // Squares smaller than a pixel: all that share one are meant.
+    const SquareRect all = Geometry().Everything();
+    const QSize grid = Geometry().GridSize();
+    range.Left = m_first.X;
+    range.Top = m_first.Y;
+    range.Right = corner.x() + shown.width() >= grid.width() ? all.Right : range.Right;
+    range.Bottom = corner.y() + shown.height() >= grid.height() ? all.Bottom : range.Bottom;
     return range;
 }
 

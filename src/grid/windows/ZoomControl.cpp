@@ -32,7 +32,7 @@ QString TextOf(int percent) {
 
 } // namespace
 
-ZoomControl::ZoomControl(ZoomSite& site, QWidget* boxParent) : m_site(site) {
+ZoomControl::ZoomControl(ZoomSite& site, QWidget* boxParent) : QObject(boxParent), m_site(site) {
     m_timer.setObjectName(QStringLiteral("timResize"));
     m_timer.setParent(this);
     m_timer.setSingleShot(true);
