@@ -168,7 +168,7 @@ void GridArea::ArrangeBar(QScrollBar& bar, int room, int holder, Qt::Orientation
     bar.setPageStep(
         std::max(1, static_cast<int>(room / std::max(0.01, across ? SquareSize().width()
                                                                   : SquareSize().height()))));
-    bar.setEnabled(wider);
+    bar.setEnabled(last > 1);
     m_scrollBusy = false;
 }
 
@@ -293,6 +293,10 @@ void GridArea::ZoomAt(QPointF place, int percent) {
     const double x = Geometry().LeftOf(square.X + 1) - inHolder.x() * ratio - 1;
     const double y = Geometry().TopOf(square.Y + 1) - inHolder.y() * ratio - 1;
     ScrollGrid(Geometry().ColumnAt(x), Geometry().RowAt(y), true);
+    // At broken ratios the window's pixels may shift it by one.
+    const QPointF after = m_canvas->DevicePixelAt(inHolder - m_canvas->pos());
+    ScrollGrid(m_first.X + square.X - Geometry().ColumnAt(after.x()),
+               m_first.Y + square.Y - Geometry().RowAt(after.y()), false);
 }
 
 void GridArea::resizeEvent(QResizeEvent* event) {

@@ -45,6 +45,37 @@ Qt::CursorShape ShapeOf(GridCursor kind) {
     return Qt::ArrowCursor;
 }
 
+/// Rectangles that hold the region, few of them: each has its cost beside its pixels. They hold at
+/// most about twice the region's pixels; what is too much is cut off by the painter.
+std::vector<QRect> FewRectsOf(const QRegion& region) {
+    struct Part {
+        QRect Rect;
+        double Wanted; ///< pixels of the region in it
+    };
+    const auto areaOf = [](const QRect& rect) {
+        return static_cast<double>(rect.width()) * rect.height();
+    };
+    std::vector<Part> parts;
+    for (const QRect& rect : region) {
+        const double area = areaOf(rect);
+        const auto near = std::find_if(parts.begin(), parts.end(), [&](const Part& part) {
+            return areaOf(part.Rect | rect) <= 2 * (part.Wanted + area);
+        });
+        if (near == parts.end()) {
+            parts.push_back({rect, area});
+        } else {
+            near->Rect |= rect;
+            near->Wanted += area;
+        }
+    }
+    std::vector<QRect> rects;
+    rects.reserve(parts.size());
+    for (const Part& part : parts) {
+        rects.push_back(part.Rect);
+    }
+    return rects;
+}
+
 } // namespace
 
 GridCanvas::GridCanvas(GridPainter& painter, QWidget* parent)
@@ -157,7 +188,14 @@ void GridCanvas::ShowCursor() {
 }
 
 QPointF GridCanvas::DevicePixelAt(QPointF place) const {
-    return DevicePixels::At(*this, place);
+    const QPointF pixel = DevicePixels::At(*this, place);
+    const QSize grid = m_geometry.GridSize();
+    if (grid.isEmpty() || !QRectF(rect()).contains(place)) {
+        return pixel;
+    }
+    // The widget's edges may lie a part of a pixel beside the grid's.
+    return {std::clamp(pixel.x(), 0.0, grid.width() - 0.5),
+            std::clamp(pixel.y(), 0.0, grid.height() - 0.5)};
 }
 
 void GridCanvas::UpdatePixels(const QRegion& pixels) {
@@ -183,7 +221,10 @@ void GridCanvas::PaintExposed(const QRegion& region) {
     for (const QRect& rect : region) {
         exposed += device.Covering(rect);
     }
-    for (const QRect& part : exposed) {
+    if (exposed.rectCount() > 1) {
+        painter.setClipRegion(exposed);
+    }
+    for (const QRect& part : FewRectsOf(exposed)) {
         PaintPart(painter, part);
     }
     if (m_pattern == nullptr || m_overlay == Overlay{}) {

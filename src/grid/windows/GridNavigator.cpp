@@ -42,7 +42,7 @@ bool GridNavigator::eventFilter(QObject* watched, QEvent* event) {
         return Wheel(wheel, placeOf(wheel.position()));
     }
     case QEvent::NativeGesture: {
-        const auto& gesture = static_cast<QNativeGestureEvent&>(*event);
+        auto& gesture = static_cast<QNativeGestureEvent&>(*event);
         return NativeGesture(gesture, placeOf(gesture.position()));
     }
     case QEvent::Gesture:
@@ -118,7 +118,9 @@ bool GridNavigator::WheelScroll(const QWheelEvent& event) {
     return true;
 }
 
-bool GridNavigator::NativeGesture(const QNativeGestureEvent& event, QPointF place) {
+bool GridNavigator::NativeGesture(QNativeGestureEvent& event, QPointF place) {
+    // Or else it would come to the parent too.
+    event.accept();
     switch (event.gestureType()) {
     case Qt::BeginNativeGesture:
         m_pinched = m_area.Zoom().GridZoom();

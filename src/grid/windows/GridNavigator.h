@@ -34,7 +34,7 @@ private:
     bool Wheel(QWheelEvent& event, QPointF place);
     bool WheelZoom(const QWheelEvent& event, QPointF place);
     bool WheelScroll(const QWheelEvent& event);
-    bool NativeGesture(const QNativeGestureEvent& event, QPointF place);
+    bool NativeGesture(QNativeGestureEvent& event, QPointF place);
     bool Gesture(QGestureEvent& event);
     void Pinch(double factor, QPointF place);
     bool MousePress(const QMouseEvent& event);

@@ -7,6 +7,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 
 #include "model/Rounding.h"
 #include "windowkit/DevicePixels.h"
@@ -33,7 +34,7 @@ public:
           m_device(painter),
           m_painter(painter),
           m_across(ruler.m_orientation == Qt::Horizontal),
-          m_depth(RoundToInt(Thickness * m_device.Ratio())),
+          m_depth(static_cast<int>(std::ceil(Thickness * m_device.Ratio()))),
           m_text(ruler.palette().color(QPalette::WindowText)),
           m_ground(ruler.palette().color(QPalette::Window)) {
         QFont font = ruler.font();

@@ -4,10 +4,10 @@
 #pragma once
 
 #include <QApplication>
+#include <QBackingStore>
 #include <QImage>
 #include <QPaintEvent>
 #include <QRegion>
-#include <QScreen>
 #include <QScrollBar>
 #include <QWheelEvent>
 #include <QtTest>
@@ -122,11 +122,8 @@ public:
 
     /// What the screen shows of the canvas: the pixels as they lie there, not painted anew.
     [[nodiscard]] QImage OnScreen() const {
-        const QImage window = Area->screen()
-                                  ->grabWindow(Area->winId())
-                                  .toImage()
-                                  .convertToFormat(QImage::Format_RGB32);
-        return window.copy(DeviceRect());
+        const auto* window = dynamic_cast<const QImage*>(Area->backingStore()->paintDevice());
+        return window->copy(DeviceRect()).convertToFormat(QImage::Format_RGB32);
     }
     /// The same part painted by the painter alone, from the pattern as it is now.
     [[nodiscard]] QImage Fresh() {
@@ -171,7 +168,9 @@ public:
         const QPoint place = target->mapFrom(Area.get(), inArea);
         QWheelEvent event(place, target->mapToGlobal(place), pixels, angle, Qt::NoButton, modifiers,
                           phase, false);
-        QApplication::sendEvent(target, &event);
+        // As from the system, so that it goes on to the parents.
+        QSpontaneKeyEvent::setSpontaneous(&event);
+        qApp->notify(target, &event);
         Settle();
     }
 
