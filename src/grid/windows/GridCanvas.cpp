@@ -3,6 +3,7 @@
 
 #include "grid/windows/GridCanvas.h"
 
+#include <QCursor>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -15,6 +16,7 @@
 #include "grid/painting/GridPainter.h"
 #include "grid/painting/PaintColors.h"
 #include "grid/tools/OverlayPainter.h"
+#include "grid/windows/GridCursors.h"
 #include "windowkit/DevicePixels.h"
 #include "windowkit/Theme.h"
 
@@ -26,23 +28,6 @@ PointerButton ButtonOf(Qt::MouseButton button) {
     return button == Qt::LeftButton    ? PointerButton::Left
            : button == Qt::RightButton ? PointerButton::Right
                                        : PointerButton::None;
-}
-
-Qt::CursorShape ShapeOf(GridCursor kind) {
-    switch (kind) {
-    case GridCursor::Cross:
-        return Qt::CrossCursor;
-    case GridCursor::Move:
-        return Qt::SizeAllCursor;
-    case GridCursor::Paint:
-        return Qt::PointingHandCursor;
-    case GridCursor::Erase:
-        return Qt::UpArrowCursor;
-    case GridCursor::ColorPicker:
-    case GridCursor::Default:
-        break;
-    }
-    return Qt::ArrowCursor;
 }
 
 /// Rectangles that hold the region, few of them: each has its cost beside its pixels. They hold at
@@ -184,7 +169,7 @@ void GridCanvas::SetHand(std::optional<Qt::CursorShape> shape) {
 }
 
 void GridCanvas::ShowCursor() {
-    setCursor(m_hand.value_or(ShapeOf(m_cursor)));
+    setCursor(m_hand ? QCursor(*m_hand) : GridCursors::Cursor(m_cursor, devicePixelRatioF()));
 }
 
 QPointF GridCanvas::DevicePixelAt(QPointF place) const {
