@@ -20,7 +20,7 @@ namespace {
 constexpr int LeastSide = 40;
 constexpr int LargestSide = 64;
 constexpr int Gap = 8;
-constexpr int TextCharacters = 22;
+constexpr int TextCharacters = 24;
 
 } // namespace
 
@@ -62,7 +62,7 @@ void CurrentFloss::Refresh() {
 }
 
 QSize CurrentFloss::sizeHint() const {
-    return {LeastSide + Gap + TextCharacters * fontMetrics().averageCharWidth(),
+    return {LargestSide + Gap + TextCharacters * fontMetrics().averageCharWidth(),
             std::max(LeastSide, 2 * fontMetrics().lineSpacing())};
 }
 

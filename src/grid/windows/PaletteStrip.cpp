@@ -13,6 +13,7 @@
 
 #include "grid/windows/CurrentFloss.h"
 #include "grid/windows/PaletteSwatches.h"
+#include "windowkit/IconFamily.h"
 
 namespace zol {
 
@@ -24,11 +25,11 @@ constexpr int FirstScrollMs = 300;
 constexpr int NextScrollMs = 50;
 constexpr int ArrowWidth = 20;
 
-QToolButton* MakeArrow(QWidget* parent, const QString& name, Qt::ArrowType arrow,
+QToolButton* MakeArrow(QWidget* parent, const QString& name, const QString& icon,
                        const QString& tip) {
     auto* button = new QToolButton(parent);
     button->setObjectName(name);
-    button->setArrowType(arrow);
+    button->setIcon(IconFamily::Icon(icon));
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::NoFocus);
     button->setToolTip(tip);
@@ -49,9 +50,9 @@ PaletteStrip::PaletteStrip(QWidget* parent) : QWidget(parent) {
 
 void PaletteStrip::SetUpParts() {
     m_currentFloss = new CurrentFloss(this);
-    m_left = MakeArrow(this, QStringLiteral("cmdPaletteLeft"), Qt::LeftArrow,
+    m_left = MakeArrow(this, QStringLiteral("cmdPaletteLeft"), QStringLiteral("palette-left"),
                        QStringLiteral("Earlier flosses"));
-    m_right = MakeArrow(this, QStringLiteral("cmdPaletteRight"), Qt::RightArrow,
+    m_right = MakeArrow(this, QStringLiteral("cmdPaletteRight"), QStringLiteral("palette-right"),
                         QStringLiteral("Later flosses"));
     m_holder = new QWidget(this);
     m_holder->setObjectName(QStringLiteral("picPaletteHolder"));

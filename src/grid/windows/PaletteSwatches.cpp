@@ -38,10 +38,13 @@ bool IsTyped(const QKeyEvent& event) {
 
 } // namespace
 
-PaletteSwatches::PaletteSwatches(QWidget* parent) : QWidget(parent) {
+PaletteSwatches::PaletteSwatches(QWidget* parent) : QWidget(parent), m_typingPause(this) {
     setObjectName(QStringLiteral("picPalette"));
     // A click picks a floss and leaves the keyboard to the cloth.
     setFocusPolicy(Qt::TabFocus);
+    // It leaves no pixel out, so scrolling moves what is there.
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    m_typingPause.setObjectName(QStringLiteral("typingPause"));
     m_typingPause.setSingleShot(true);
     m_typingPause.setInterval(TypingPauseMs);
     connect(&m_typingPause, &QTimer::timeout, this, [this] { m_typed.clear(); });
@@ -100,20 +103,22 @@ void PaletteSwatches::PaintSwatch(QPainter& painter, int position) {
     const QRect rect = m_layout.RectOf(position);
     const zol::Palette& flosses = m_pattern->GetPalette();
     const int floss = FlossAt(position);
+    const bool isCurrent = floss == m_current && floss > 0;
     m_swatches.Paint(painter, rect, flosses, floss, m_showSymbols, palette());
-    if (floss == m_current && floss > 0) {
+    if (isCurrent) {
         SwatchPainter::PaintFrame(painter, rect, flosses, floss, palette());
     }
     if (hasFocus() && position == m_cursor) {
-        SwatchPainter::PaintFocus(painter, rect, flosses, floss);
+        SwatchPainter::PaintFocus(painter, rect, isCurrent, palette());
     }
 }
 
 void PaletteSwatches::paintEvent(QPaintEvent* event) {
-    if (m_pattern == nullptr || m_layout.Count == 0) {
+    QPainter painter(this);
+    painter.fillRect(event->rect(), palette().color(QPalette::Window));
+    if (m_pattern == nullptr) {
         return;
     }
-    QPainter painter(this);
     m_swatches.TakeFont(m_pattern->GetPalette());
     const int first = event->rect().left() / m_layout.Pitch() * m_layout.Rows + 1;
     const int last = (event->rect().right() / m_layout.Pitch() + 1) * m_layout.Rows;

@@ -52,7 +52,7 @@ void StatusLine::SetUpPanels() {
     m_floss =
         MakePanel(this, QStringLiteral("flossPanel"), QStringLiteral("Floss under the pointer"));
     m_zoom = new ZoomPanel(this);
-    m_place->setIndent(6);
+    m_place->setContentsMargins(6, 0, 0, 0);
     m_place->setMinimumWidth(WidthOf(*this, QStringLiteral("0000, 0000")) + 12);
     m_selection->setMinimumWidth(WidthOf(*this, QStringLiteral("000 × 000 squares")) + 12);
     m_place->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);

@@ -6,6 +6,10 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPolygon>
+#include <QTransform>
+
+#include <algorithm>
+#include <cmath>
 
 #include "grid/painting/PaintColors.h"
 #include "windowkit/Theme.h"
@@ -18,7 +22,6 @@ namespace {
 constexpr double SymbolScale = 0.8;
 constexpr int FrameWidth = 2;
 
-/// A ring of filled bars, which stays crisp at every scale of the screen.
 void PaintRing(QPainter& painter, const QRect& rect, int width, const QColor& color) {
     painter.fillRect(rect.left(), rect.top(), rect.width(), width, color);
     painter.fillRect(rect.left(), rect.bottom() - width + 1, rect.width(), width, color);
@@ -26,6 +29,35 @@ void PaintRing(QPainter& painter, const QRect& rect, int width, const QColor& co
     painter.fillRect(rect.left(), rect.top() + width, width, side, color);
     painter.fillRect(rect.right() - width + 1, rect.top() + width, width, side, color);
 }
+
+/// While one lives its painter takes pixels of the device, so that edges stay crisp at every scale
+/// of the screen.
+class DevicePixels {
+public:
+    explicit DevicePixels(QPainter& painter)
+        : m_painter(painter),
+          m_device(painter.deviceTransform()) {
+        painter.save();
+        painter.setWorldTransform(m_device.inverted() * painter.worldTransform());
+    }
+    ~DevicePixels() { m_painter.restore(); }
+    DevicePixels(const DevicePixels&) = delete;
+    DevicePixels& operator=(const DevicePixels&) = delete;
+
+    [[nodiscard]] QRect Of(const QRect& rect) const {
+        const QRectF device = m_device.mapRect(QRectF(rect));
+        return {device.topLeft().toPoint(), device.bottomRight().toPoint() - QPoint(1, 1)};
+    }
+    [[nodiscard]] int Lengths(int pixels) const {
+        return static_cast<int>(std::lround(pixels * m_device.m11()));
+    }
+    /// The thinnest line that is seen well.
+    [[nodiscard]] int Thin() const { return std::max(1, static_cast<int>(m_device.m11())); }
+
+private:
+    QPainter& m_painter;
+    QTransform m_device;
+};
 
 QColor Contrast(Colour colour) {
     return ToQColor(GetContrastColor(colour));
@@ -46,6 +78,8 @@ void SwatchPainter::Paint(QPainter& painter, const QRect& rect, const Palette& p
     if (floss < 1 || floss > palette.GetEntriesCount()) {
         return;
     }
+    const DevicePixels device(painter);
+    const QRect pixels = device.Of(rect);
     const int symbol = withSymbol ? palette.GetFlossSymbol(floss) : 0;
     if (palette.IsBlended(floss)) {
         const PaletteEntry& entry = palette.GetEntry(floss);
@@ -53,54 +87,52 @@ void SwatchPainter::Paint(QPainter& painter, const QRect& rect, const Palette& p
             // Each half takes the symbol's ink that stands out from its own thread.
             const Colour thread = first ? entry.RGB : entry.BlendRGB;
             QPainterPath half;
-            half.addPolygon(Triangle(rect, first));
+            half.addPolygon(Triangle(pixels, first));
             painter.save();
             painter.setClipPath(half, Qt::IntersectClip);
-            painter.fillRect(rect, ToQColor(thread));
-            PaintSymbol(painter, rect, symbol, Contrast(thread));
+            PaintThread(painter, pixels, thread, symbol);
             painter.restore();
         }
     } else {
-        const Colour colour = palette.GetFlossRGB(floss);
-        painter.fillRect(rect, ToQColor(colour));
-        PaintSymbol(painter, rect, symbol, Contrast(colour));
+        PaintThread(painter, pixels, palette.GetFlossRGB(floss), symbol);
     }
     // So that white thread shows on a light window and black on a dark one.
-    PaintRing(painter, rect, 1,
+    PaintRing(painter, pixels, device.Thin(),
               Theme::IsDark(theme) ? QColor(255, 255, 255, 56) : QColor(0, 0, 0, 44));
 }
 
-void SwatchPainter::PaintSymbol(QPainter& painter, const QRect& rect, int symbol,
-                                const QColor& color) {
-    if (symbol == 0) {
-        return;
+void SwatchPainter::PaintThread(QPainter& painter, const QRect& pixels, Colour thread, int symbol) {
+    painter.fillRect(pixels, ToQColor(thread));
+    if (symbol != 0) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.fillPath(m_symbols.Outline(pixels, symbol, SymbolScale, true), Contrast(thread));
+        painter.setRenderHint(QPainter::Antialiasing, false);
     }
-    // In pixels of the device, where the outline's edges are fitted to them.
-    const double ratio = painter.device()->devicePixelRatioF();
-    const QRectF device(rect.x() * ratio, rect.y() * ratio, rect.width() * ratio,
-                        rect.height() * ratio);
-    painter.save();
-    painter.scale(1 / ratio, 1 / ratio);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(m_symbols.Outline(device, symbol, SymbolScale, true), color);
-    painter.restore();
 }
 
 void SwatchPainter::PaintFrame(QPainter& painter, const QRect& rect, const Palette& palette,
                                int floss, const QPalette& theme) {
-    PaintRing(painter, rect, FrameWidth, Theme::Accent(theme));
-    PaintRing(painter, rect.marginsRemoved({FrameWidth, FrameWidth, FrameWidth, FrameWidth}), 1,
+    const DevicePixels device(painter);
+    const QRect pixels = device.Of(rect);
+    const int width = device.Lengths(FrameWidth);
+    PaintRing(painter, pixels, width, Theme::Accent(theme));
+    PaintRing(painter, pixels.adjusted(width, width, -width, -width), device.Thin(),
               Contrast(palette.GetFlossRGB(floss)));
 }
 
-void SwatchPainter::PaintFocus(QPainter& painter, const QRect& rect, const Palette& palette,
-                               int floss) {
-    constexpr int inset = FrameWidth + 2;
-    QPen pen(Contrast(palette.GetFlossRGB(floss)), 1, Qt::CustomDashLine);
-    pen.setDashPattern({2, 2});
+void SwatchPainter::PaintFocus(QPainter& painter, const QRect& rect, bool isFramed,
+                               const QPalette& theme) {
+    const DevicePixels device(painter);
+    const int inset = device.Lengths(isFramed ? FrameWidth + 2 : 1);
+    const int width = device.Thin();
+    const QRect ring = device.Of(rect).adjusted(inset, inset, -inset, -inset);
+    // One of the two stands out from any floss.
+    PaintRing(painter, ring, width, Qt::white);
+    QPen pen(Theme::Accent(theme), width, Qt::CustomDashLine, Qt::FlatCap, Qt::MiterJoin);
+    pen.setDashPattern({3, 3});
     painter.setPen(pen);
     painter.setBrush(Qt::NoBrush);
-    painter.drawRect(rect.adjusted(inset, inset, -inset - 1, -inset - 1));
+    painter.drawRect(QRectF(ring).adjusted(width / 2.0, width / 2.0, -width / 2.0, -width / 2.0));
 }
 
 } // namespace zol

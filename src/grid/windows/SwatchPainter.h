@@ -27,11 +27,13 @@ public:
     /// apart from any floss.
     static void PaintFrame(QPainter& painter, const QRect& rect, const Palette& palette, int floss,
                            const QPalette& theme);
-    /// The dashed ring of the swatch that the keyboard stands on.
-    static void PaintFocus(QPainter& painter, const QRect& rect, const Palette& palette, int floss);
+    /// The dashed ring of the swatch that the keyboard stands on; inside the frame if it has one.
+    static void PaintFocus(QPainter& painter, const QRect& rect, bool isFramed,
+                           const QPalette& theme);
 
 private:
-    void PaintSymbol(QPainter& painter, const QRect& rect, int symbol, const QColor& color);
+    /// `pixels` of the device.
+    void PaintThread(QPainter& painter, const QRect& pixels, Colour thread, int symbol);
 
     SymbolText m_symbols;
 };
