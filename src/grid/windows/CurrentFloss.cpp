@@ -3,6 +3,7 @@
 
 #include "grid/windows/CurrentFloss.h"
 
+#include <QApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
@@ -29,6 +30,7 @@ CurrentFloss::CurrentFloss(QWidget* parent) : QAbstractButton(parent) {
     setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     setStatusTip(QStringLiteral("The floss you draw with; click to change the palette"));
+    connect(this, &QAbstractButton::clicked, this, [this] { m_sinceClick.start(); });
     Refresh();
 }
 
@@ -120,8 +122,11 @@ void CurrentFloss::keyPressEvent(QKeyEvent* event) {
 }
 
 void CurrentFloss::mouseDoubleClickEvent(QMouseEvent* event) {
-    // The first click has asked already.
     event->accept();
+    // The first click has asked as a rule, and once is enough.
+    if (!m_sinceClick.isValid() || m_sinceClick.hasExpired(QApplication::doubleClickInterval())) {
+        click();
+    }
 }
 
 bool CurrentFloss::event(QEvent* event) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QElapsedTimer>
 
 #include "grid/windows/SwatchPainter.h"
 #include "model/Pattern.h"
@@ -45,6 +46,7 @@ private:
     Pattern* m_pattern = nullptr;
     int m_floss = 0;
     bool m_showSymbol = true;
+    QElapsedTimer m_sinceClick;
 };
 
 } // namespace zol

@@ -167,10 +167,15 @@ void PaletteSwatches::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void PaletteSwatches::mouseDoubleClickEvent(QMouseEvent* event) {
-    // The first click has picked the floss.
-    if (event->button() == Qt::LeftButton && m_layout.PositionAt(event->position().toPoint()) > 0) {
-        Q_EMIT EditorRequested();
+    const int floss = FlossAt(m_layout.PositionAt(event->position().toPoint()));
+    if (event->button() != Qt::LeftButton || floss == 0) {
+        return;
     }
+    // The first click has picked the floss as a rule.
+    if (floss != m_current) {
+        Q_EMIT FlossPicked(floss);
+    }
+    Q_EMIT EditorRequested();
 }
 
 void PaletteSwatches::wheelEvent(QWheelEvent* event) {
