@@ -32,17 +32,17 @@ void PaintRing(QPainter& painter, const QRect& rect, int width, const QColor& co
 
 /// While one lives its painter takes pixels of the device, so that edges stay crisp at every scale
 /// of the screen.
-class DevicePixels {
+class PixelScope {
 public:
-    explicit DevicePixels(QPainter& painter)
+    explicit PixelScope(QPainter& painter)
         : m_painter(painter),
           m_device(painter.deviceTransform()) {
         painter.save();
         painter.setWorldTransform(m_device.inverted() * painter.worldTransform());
     }
-    ~DevicePixels() { m_painter.restore(); }
-    DevicePixels(const DevicePixels&) = delete;
-    DevicePixels& operator=(const DevicePixels&) = delete;
+    ~PixelScope() { m_painter.restore(); }
+    PixelScope(const PixelScope&) = delete;
+    PixelScope& operator=(const PixelScope&) = delete;
 
     [[nodiscard]] QRect Of(const QRect& rect) const {
         const QRectF device = m_device.mapRect(QRectF(rect));
@@ -78,7 +78,7 @@ void SwatchPainter::Paint(QPainter& painter, const QRect& rect, const Palette& p
     if (floss < 1 || floss > palette.GetEntriesCount()) {
         return;
     }
-    const DevicePixels device(painter);
+    const PixelScope device(painter);
     const QRect pixels = device.Of(rect);
     const int symbol = withSymbol ? palette.GetFlossSymbol(floss) : 0;
     if (palette.IsBlended(floss)) {
@@ -112,7 +112,7 @@ void SwatchPainter::PaintThread(QPainter& painter, const QRect& pixels, Colour t
 
 void SwatchPainter::PaintFrame(QPainter& painter, const QRect& rect, const Palette& palette,
                                int floss, const QPalette& theme) {
-    const DevicePixels device(painter);
+    const PixelScope device(painter);
     const QRect pixels = device.Of(rect);
     const int width = device.Lengths(FrameWidth);
     PaintRing(painter, pixels, width, Theme::Accent(theme));
@@ -122,7 +122,7 @@ void SwatchPainter::PaintFrame(QPainter& painter, const QRect& rect, const Palet
 
 void SwatchPainter::PaintFocus(QPainter& painter, const QRect& rect, bool isFramed,
                                const QPalette& theme) {
-    const DevicePixels device(painter);
+    const PixelScope device(painter);
     const int inset = device.Lengths(isFramed ? FrameWidth + 2 : 1);
     const int width = device.Thin();
     const QRect ring = device.Of(rect).adjusted(inset, inset, -inset, -inset);
