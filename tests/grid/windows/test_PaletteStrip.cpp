@@ -2,30 +2,29 @@
 // SPDX-License-Identifier: MIT
 
 #include <QAbstractButton>
-#include <QHelpEvent>
-#include <QImage>
 #include <QSignalSpy>
-#include <QTest>
-#include <QTimer>
-#include <QToolButton>
-#include <QToolTip>
-#include <QWheelEvent>
 
-#include <memory>
 #include <set>
 
 #include "grid/painting/PaintColors.h"
-#include "grid/windows/PaletteStrip.h"
+#include "grid/windows/PaletteStripKit.h"
 #include "windowkit/Theme.h"
 
 using namespace zol;
 
-class TestPaletteStrip : public QObject {
+namespace {
+
+constexpr Colour Dark = 0x402010;
+constexpr Colour Light = 0xD0E0F0;
+
+} // namespace
+
+class TestPaletteStrip : public PaletteStripTest {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { SetUp(); }
+    void cleanup() { TearDown(); }
 
     void SwatchesTakeSizeAndRows_data();
     void SwatchesTakeSizeAndRows();
@@ -35,112 +34,15 @@ private Q_SLOTS:
     void CurrentFlossIsFramed();
     void BlendShowsBothColors();
     void TwiceTheScaleStaysCrisp();
-
-    void LeftClickPicks();
-    void DoubleClickAsksForTheEditor();
     void TipShowsNumberNameAndStitches();
     void TipCountsWhenItShows();
-
-    void ArrowsScrollWhileHeld();
-    void ArrowsEndAtTheEnds();
-    void DragScrollsAndPicksNothing();
-    void WheelScrolls();
-    void FittingPaletteNeedsNoArrows();
-    void CurrentFlossStaysVisible();
-
-    void KeysMoveAndPick();
-    void KeysMoveByColumns();
-    void TypingFindsAFloss();
-    void PauseBeginsANewNumber();
     void FocusIsSeen();
     void CurrentFlossIsTold();
-
     void EmptyPaletteAndNoPattern();
     void CurrentFlossShowsItsColor();
     void CurrentFlossAsksForTheEditorOnce();
     void CurrentFlossTellsAllInItsTip();
-
-private:
-    void Fill(int count);
-    void Show(int width = 900);
-    template<class Widget>
-    Widget* Find(const char* name) const {
-        auto* widget = m_strip->findChild<Widget*>(QLatin1String(name));
-        Q_ASSERT(widget != nullptr);
-        return widget;
-    }
-    [[nodiscard]] QWidget* Swatches() const { return Find<QWidget>("picPalette"); }
-    [[nodiscard]] QImage Picture() const { return Swatches()->grab().toImage(); }
-    [[nodiscard]] int Offset() const { return -Swatches()->x(); }
-    /// Middle of a swatch of the first row, at the smallest size.
-    static QPoint PlaceOf(int position) { return {(position - 1) * 25 + 12, 12}; }
-    [[nodiscard]] QString TipAt(QPoint place) const;
-    void ClickInWindow(Qt::MouseButton button, QPoint place) const {
-        QTest::mouseClick(m_strip->windowHandle(), button, {},
-                          Swatches()->mapTo(m_strip.get(), place));
-    }
-    [[nodiscard]] bool IsInView(int position) const {
-        const QRect swatch((position - 1) * 25 - Offset(), 0, 24, 24);
-        return Find<QWidget>("picPaletteHolder")->rect().contains(swatch);
-    }
-
-    std::unique_ptr<ProgramContext> m_context;
-    std::unique_ptr<Pattern> m_pattern;
-    std::unique_ptr<PaletteStrip> m_strip;
 };
-
-namespace {
-
-constexpr Colour Dark = 0x402010;
-constexpr Colour Light = 0xD0E0F0;
-
-QRgb ColorOf(int floss) {
-    return qRgb(floss * 7 % 256, floss * 31 % 256, floss * 53 % 256);
-}
-
-} // namespace
-
-void TestPaletteStrip::init() {
-    m_context = std::make_unique<ProgramContext>();
-    m_pattern = std::make_unique<Pattern>(*m_context);
-    m_pattern->Initialize(50, 50, 14, 14);
-    m_strip = std::make_unique<PaletteStrip>();
-}
-
-void TestPaletteStrip::cleanup() {
-    QToolTip::hideText();
-    m_strip.reset();
-}
-
-/// Flosses numbered downwards from 999, with colours of their own and symbols.
-void TestPaletteStrip::Fill(int count) {
-    zol::Palette& palette = m_pattern->GetPalette();
-    palette.ClearPalette();
-    for (int floss = 1; floss <= count; ++floss) {
-        const QRgb rgb = ColorOf(floss);
-        const std::string number = std::to_string(1000 - floss);
-        palette.AddPaletteEntry(MakeColour(static_cast<unsigned>(qRed(rgb)),
-                                           static_cast<unsigned>(qGreen(rgb)),
-                                           static_cast<unsigned>(qBlue(rgb))),
-                                number, "floss of " + number, "DMC",
-                                palette.GetNextAvailableSymbol(), 2, 2, 0, floss, 0, "DMC");
-    }
-    palette.Sort(SortOrderAdded);
-}
-
-void TestPaletteStrip::Show(int width) {
-    m_strip->SetPattern(m_pattern.get());
-    m_strip->resize(width, m_strip->sizeHint().height());
-    m_strip->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_strip.get()));
-}
-
-QString TestPaletteStrip::TipAt(QPoint place) const {
-    QToolTip::hideText();
-    QHelpEvent help(QEvent::ToolTip, place, Swatches()->mapToGlobal(place));
-    QCoreApplication::sendEvent(Swatches(), &help);
-    return QToolTip::text();
-}
 
 void TestPaletteStrip::SwatchesTakeSizeAndRows_data() {
     QTest::addColumn<int>("size");
@@ -288,32 +190,6 @@ void TestPaletteStrip::TwiceTheScaleStaysCrisp() {
     QCOMPARE(picture.pixel(6, 24), ColorOf(1));
 }
 
-void TestPaletteStrip::LeftClickPicks() {
-    Fill(10);
-    Show();
-    const QSignalSpy picked(m_strip.get(), &PaletteStrip::FlossPicked);
-    ClickInWindow(Qt::LeftButton, PlaceOf(4));
-    QCOMPARE(picked.count(), 1);
-    QCOMPARE(picked.first().first().toInt(), 4);
-    ClickInWindow(Qt::RightButton, PlaceOf(5));
-    QCOMPARE(picked.count(), 1);
-    // It shows what it is told; whoever heard the pick decides.
-    QCOMPARE(m_strip->Current(), 0);
-}
-
-void TestPaletteStrip::DoubleClickAsksForTheEditor() {
-    Fill(10);
-    Show();
-    const QSignalSpy picked(m_strip.get(), &PaletteStrip::FlossPicked);
-    const QSignalSpy asked(m_strip.get(), &PaletteStrip::PaletteEditorRequested);
-    connect(m_strip.get(), &PaletteStrip::FlossPicked, m_strip.get(), &PaletteStrip::SetCurrent);
-    QTest::mouseDClick(m_strip->windowHandle(), Qt::LeftButton, {},
-                       Swatches()->mapTo(m_strip.get(), PlaceOf(3)));
-    QCOMPARE(asked.count(), 1);
-    QCOMPARE(picked.count(), 1);
-    QCOMPARE(picked.first().first().toInt(), 3);
-}
-
 void TestPaletteStrip::TipShowsNumberNameAndStitches() {
     Fill(10);
     Show();
@@ -335,211 +211,6 @@ void TestPaletteStrip::TipCountsWhenItShows() {
     QVERIFY(TipAt(PlaceOf(1)).endsWith(QStringLiteral("1 stitch")));
     m_pattern->SetStitch(2, 1, StitchWhole, 1, 5);
     QVERIFY(TipAt(PlaceOf(1)).endsWith(QStringLiteral("2 stitches")));
-}
-
-void TestPaletteStrip::ArrowsScrollWhileHeld() {
-    Fill(200);
-    Show();
-    auto* right = Find<QToolButton>("cmdPaletteRight");
-    auto* left = Find<QToolButton>("cmdPaletteLeft");
-    const auto* timer = m_strip->findChild<QTimer*>(QStringLiteral("timPaletteScroll"));
-    QVERIFY(timer != nullptr);
-    QVERIFY(!left->isEnabled());
-    QTest::mousePress(right, Qt::LeftButton);
-    QCOMPARE(Offset(), 25);
-    QVERIFY(timer->isActive());
-    QTRY_VERIFY(Offset() >= 100);
-    QTest::mouseRelease(right, Qt::LeftButton);
-    QVERIFY(!timer->isActive());
-    const int reached = Offset();
-    QVERIFY(left->isEnabled());
-    QTest::mouseClick(left, Qt::LeftButton);
-    QCOMPARE(Offset(), reached - 25);
-}
-
-void TestPaletteStrip::ArrowsEndAtTheEnds() {
-    Fill(60);
-    Show(800);
-    const auto* timer = m_strip->findChild<QTimer*>(QStringLiteral("timPaletteScroll"));
-    auto* right = Find<QToolButton>("cmdPaletteRight");
-    QTest::mousePress(right, Qt::LeftButton);
-    QTRY_VERIFY_WITH_TIMEOUT(!timer->isActive(), 20000);
-    QCOMPARE(Offset(), Swatches()->width() - Find<QWidget>("picPaletteHolder")->width());
-    QVERIFY(IsInView(60));
-    QVERIFY(!right->isEnabled());
-    QTest::mouseRelease(right, Qt::LeftButton);
-}
-
-void TestPaletteStrip::DragScrollsAndPicksNothing() {
-    Fill(200);
-    Show();
-    QWindow* window = m_strip->windowHandle();
-    const QSignalSpy picked(m_strip.get(), &PaletteStrip::FlossPicked);
-    const QPoint from = Find<QWidget>("picPaletteHolder")->mapTo(m_strip.get(), QPoint(400, 12));
-    QTest::mousePress(window, Qt::LeftButton, {}, from);
-    QTest::mouseMove(window, from - QPoint(60, 0));
-    QTest::mouseMove(window, from - QPoint(150, 0));
-    QCOMPARE(Offset(), 150);
-    QTest::mouseMove(window, from - QPoint(100, 0));
-    QCOMPARE(Offset(), 100);
-    QTest::mouseRelease(window, Qt::LeftButton, {}, from - QPoint(100, 0));
-    QCOMPARE(picked.count(), 0);
-    QTest::mouseMove(window, from);
-    QCOMPARE(Offset(), 100);
-    // A hand that trembles still picks.
-    QTest::mousePress(window, Qt::LeftButton, {}, from);
-    QTest::mouseMove(window, from + QPoint(1, 1));
-    QTest::mouseRelease(window, Qt::LeftButton, {}, from + QPoint(1, 1));
-    QCOMPARE(picked.count(), 1);
-    QCOMPARE(Offset(), 100);
-}
-
-void TestPaletteStrip::WheelScrolls() {
-    Fill(200);
-    Show();
-    const auto turn = [&](int x, int y) {
-        const QPointF place(12, 12);
-        QWheelEvent wheel(place, Swatches()->mapToGlobal(place), {}, QPoint(x, y), Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(Swatches(), &wheel);
-    };
-    turn(0, -120);
-    QCOMPARE(Offset(), 75);
-    turn(-120, 0);
-    QCOMPARE(Offset(), 150);
-    turn(0, 120);
-    QCOMPARE(Offset(), 75);
-    turn(0, 2400);
-    QCOMPARE(Offset(), 0);
-    // A fine wheel loses nothing: 120 steps of one are a notch.
-    for (int step = 0; step < 120; ++step) {
-        turn(0, -1);
-    }
-    QVERIFY(std::abs(Offset() - 75) <= 1);
-}
-
-void TestPaletteStrip::FittingPaletteNeedsNoArrows() {
-    Fill(5);
-    Show();
-    QVERIFY(!Find<QToolButton>("cmdPaletteLeft")->isVisible());
-    QVERIFY(!Find<QToolButton>("cmdPaletteRight")->isVisible());
-    Fill(200);
-    m_strip->Refresh();
-    QVERIFY(Find<QToolButton>("cmdPaletteLeft")->isVisible());
-    QVERIFY(Find<QToolButton>("cmdPaletteRight")->isVisible());
-}
-
-void TestPaletteStrip::CurrentFlossStaysVisible() {
-    Fill(200);
-    Show();
-    m_strip->SetCurrent(200);
-    QVERIFY(IsInView(200));
-    m_strip->SetCurrent(1);
-    QVERIFY(IsInView(1));
-    m_strip->SetCurrent(20);
-    QVERIFY(IsInView(20));
-    m_strip->resize(500, m_strip->height());
-    QVERIFY(IsInView(20));
-    m_pattern->GetPalette().Sort(SortManufacturerID);
-    m_strip->Refresh();
-    QVERIFY(IsInView(m_pattern->GetPalette().GetSortedPosition(20)));
-}
-
-void TestPaletteStrip::KeysMoveAndPick() {
-    Fill(200);
-    Show();
-    m_strip->SetCurrent(3);
-    m_strip->setFocus();
-    QVERIFY(Swatches()->hasFocus());
-    const QSignalSpy picked(m_strip.get(), &PaletteStrip::FlossPicked);
-    const auto lastPick = [&] { return picked.last().first().toInt(); };
-    QWindow* window = m_strip->windowHandle();
-    QTest::keyClick(window, Qt::Key_Right);
-    QCOMPARE(picked.count(), 0);
-    QTest::keyClick(window, Qt::Key_Return);
-    QCOMPARE(lastPick(), 4);
-    QTest::keyClick(window, Qt::Key_Left);
-    QTest::keyClick(window, Qt::Key_Left);
-    QTest::keyClick(window, Qt::Key_Space);
-    QCOMPARE(lastPick(), 2);
-    QTest::keyClick(window, Qt::Key_End);
-    QVERIFY(IsInView(200));
-    QTest::keyClick(window, Qt::Key_Enter);
-    QCOMPARE(lastPick(), 200);
-    QTest::keyClick(window, Qt::Key_Right);
-    QTest::keyClick(window, Qt::Key_Enter);
-    QCOMPARE(lastPick(), 200);
-    QTest::keyClick(window, Qt::Key_Home);
-    QVERIFY(IsInView(1));
-    QTest::keyClick(window, Qt::Key_Enter);
-    QCOMPARE(lastPick(), 1);
-    QTest::keyClick(window, Qt::Key_PageDown);
-    QVERIFY(!IsInView(1));
-    QTest::keyClick(window, Qt::Key_PageUp);
-    QVERIFY(IsInView(1));
-}
-
-void TestPaletteStrip::KeysMoveByColumns() {
-    Fill(8);
-    m_strip->SetRows(3);
-    Show();
-    m_strip->SetCurrent(1);
-    m_strip->setFocus();
-    const QSignalSpy picked(m_strip.get(), &PaletteStrip::FlossPicked);
-    const auto pickAfter = [&](Qt::Key key) {
-        QTest::keyClick(Swatches(), key);
-        QTest::keyClick(Swatches(), Qt::Key_Return);
-        return picked.last().first().toInt();
-    };
-    QCOMPARE(pickAfter(Qt::Key_Down), 2);
-    QCOMPARE(pickAfter(Qt::Key_Down), 3);
-    QCOMPARE(pickAfter(Qt::Key_Right), 6);
-    // The last column has two swatches.
-    QCOMPARE(pickAfter(Qt::Key_Right), 8);
-    QCOMPARE(pickAfter(Qt::Key_Right), 8);
-    QCOMPARE(pickAfter(Qt::Key_Up), 7);
-    QCOMPARE(pickAfter(Qt::Key_Left), 4);
-    QCOMPARE(pickAfter(Qt::Key_Left), 1);
-    QCOMPARE(pickAfter(Qt::Key_Left), 1);
-}
-
-void TestPaletteStrip::TypingFindsAFloss() {
-    Fill(200);
-    m_pattern->GetPalette().SetFlossManuIDs(150, "White");
-    Show();
-    m_strip->setFocus();
-    const QSignalSpy picked(m_strip.get(), &PaletteStrip::FlossPicked);
-    QTest::keyClicks(Swatches(), QStringLiteral("840"));
-    QVERIFY(IsInView(160));
-    QTest::keyClick(Swatches(), Qt::Key_Return);
-    QCOMPARE(picked.last().first().toInt(), 160);
-    auto* pause = m_strip->findChild<QTimer*>(QStringLiteral("typingPause"));
-    pause->setInterval(0);
-    QTest::keyClicks(Swatches(), QStringLiteral("w"));
-    QTRY_VERIFY(!pause->isActive());
-    pause->setInterval(60000);
-    QTest::keyClicks(Swatches(), QStringLiteral("wHi"));
-    QTest::keyClick(Swatches(), Qt::Key_Return);
-    QCOMPARE(picked.last().first().toInt(), 150);
-    // A number that is not there leaves the place.
-    QTest::keyClicks(Swatches(), QStringLiteral("5"));
-    QTest::keyClick(Swatches(), Qt::Key_Return);
-    QCOMPARE(picked.last().first().toInt(), 150);
-}
-
-void TestPaletteStrip::PauseBeginsANewNumber() {
-    Fill(200);
-    Show();
-    m_strip->setFocus();
-    const QSignalSpy picked(m_strip.get(), &PaletteStrip::FlossPicked);
-    auto* pause = m_strip->findChild<QTimer*>(QStringLiteral("typingPause"));
-    QVERIFY(pause->interval() >= 500);
-    QTest::keyClicks(Swatches(), QStringLiteral("85"));
-    pause->start(0);
-    QTRY_VERIFY(!pause->isActive());
-    QTest::keyClicks(Swatches(), QStringLiteral("901"));
-    QTest::keyClick(Swatches(), Qt::Key_Return);
-    QCOMPARE(picked.last().first().toInt(), 99);
 }
 
 void TestPaletteStrip::FocusIsSeen() {
