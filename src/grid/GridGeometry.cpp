@@ -7,12 +7,17 @@
 #include <cmath>
 
 #include "grid/GridViewport.h"
+#include "model/Rounding.h"
 
 namespace zol {
 
 namespace {
 
-constexpr double TwipsPerPixel = 15;
+/// Twips of a device's pixel, in whole hundredths as edges are snapped to pixels: finer ones would
+/// let the two drift apart over a wide grid.
+double TwipsPerPixelOf(double pixelRatio) {
+    return RoundHalfEven(1500 / pixelRatio) / 100;
+}
 
 /// One axis of the grid: where its columns (or rows) begin, in pixels.
 class Axis {
@@ -22,7 +27,7 @@ public:
           m_pixel(twipsPerPixel) {}
 
     [[nodiscard]] int EdgeOf(int index) const {
-        return ToPixel(GridViewport::EdgeOf(index, m_square, 0, m_pixel), m_pixel);
+        return ToNearestPixel(GridViewport::EdgeOf(index, m_square, 0, m_pixel), m_pixel);
     }
     /// The last index that begins at or before the pixel. Where squares are smaller than a pixel
     /// several begin at one, and the last of them is painted over the others.
@@ -63,8 +68,8 @@ Axis DownOf(const GridScale& scale) {
 
 GridGeometry::GridGeometry(const Pattern& pattern, int zoom, double pixelRatio)
     : m_scale(GridScale::ForZoom(zoom, pattern.GetPatternClothCountX(),
-                                 pattern.GetPatternClothCountY(), TwipsPerPixel / pixelRatio,
-                                 TwipsPerPixel / pixelRatio)),
+                                 pattern.GetPatternClothCountY(), TwipsPerPixelOf(pixelRatio),
+                                 TwipsPerPixelOf(pixelRatio))),
       m_zoom(zoom),
       m_pixelRatio(pixelRatio),
       m_width(pattern.GetPatternWidth()),
@@ -85,7 +90,8 @@ QRect GridGeometry::PixelsOf(const SquareRect& rect) const {
 
 QPoint GridGeometry::PointOf(int column, int row, int region) const {
     const TwipsPoint point = GridViewport::GetGridPoint(column, row, 0, 0, region, m_scale);
-    return {ToPixel(point.X, m_scale.TwipsPerPixelX), ToPixel(point.Y, m_scale.TwipsPerPixelY)};
+    return {ToNearestPixel(point.X, m_scale.TwipsPerPixelX),
+            ToNearestPixel(point.Y, m_scale.TwipsPerPixelY)};
 }
 
 int GridGeometry::ColumnAt(double x) const {

@@ -14,6 +14,14 @@ namespace zol {
     return static_cast<int>(std::trunc(pixels + std::copysign(1e-6, pixels)));
 }
 
+/// The device pixel nearest to a point that was snapped to one, half a pixel counting as none.
+/// Such a point is in whole twips, which its pixel's edge need not be: cutting would often give
+/// the pixel before it.
+[[nodiscard]] inline int ToNearestPixel(double twips, double twipsPerPixel) {
+    const double pixels = twips / twipsPerPixel;
+    return static_cast<int>(std::trunc(pixels + std::copysign(0.5 - 1e-6, pixels)));
+}
+
 /// How large the squares of a grid are on a device: the ideal size of a square in twips, and the
 /// device's pixels. Edges of squares are found from it by GridViewport, which rounds each of them
 /// apart, so that errors never add up.

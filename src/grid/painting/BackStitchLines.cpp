@@ -65,8 +65,8 @@ private:
                                           m_view.Scale);
     }
     [[nodiscard]] QPoint ToPixels(const TwipsPoint& point) const {
-        return {ToPixel(point.X, m_view.Scale.TwipsPerPixelX),
-                ToPixel(point.Y, m_view.Scale.TwipsPerPixelY)};
+        return {ToNearestPixel(point.X, m_view.Scale.TwipsPerPixelX),
+                ToNearestPixel(point.Y, m_view.Scale.TwipsPerPixelY)};
     }
 
     LineCanvas& m_canvas;

@@ -118,7 +118,7 @@ SquareSpans::SquareSpans(const GridView& view, const Axis& axis, int first, int 
         const int edge =
             GridViewport::EdgeOf(index, axis.squareTwips, axis.origin, axis.twipsPerPixel);
         const bool isBold = IsBoldLine(index, axis.boldEvery, axis.numberOffset);
-        m_edges.push_back(ToPixel(edge, axis.twipsPerPixel));
+        m_edges.push_back(ToNearestPixel(edge, axis.twipsPerPixel));
         m_insets.push_back(isBold ? bold : normal);
         m_bold.push_back(isBold);
     }

@@ -85,8 +85,8 @@ PixelRect Box(const GridView& view, int column, int row, int position) {
         const SquareEdges second =
             GridViewport::EdgesOf(index + (third == 2 ? 1 : 0), square, origin, tpp);
         const bool whole = third == 1;
-        return std::pair(ToPixel(whole ? first.First : first.Middle, tpp),
-                         ToPixel(whole ? second.Last : second.Middle, tpp));
+        return std::pair(ToNearestPixel(whole ? first.First : first.Middle, tpp),
+                         ToNearestPixel(whole ? second.Last : second.Middle, tpp));
     };
     const auto [left, right] =
         corners(column, thirdX, s.SquareTwipsX, view.OriginX, s.TwipsPerPixelX);
