@@ -10,6 +10,10 @@
 
 namespace zol {
 
+QStyle* IconStyle::Over(const QString& style) {
+    return new IconStyle(style);
+}
+
 void IconStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                             const QWidget* widget) const {
     const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);

@@ -14,6 +14,9 @@ class IconStyle : public QProxyStyle {
 public:
     using QProxyStyle::QProxyStyle;
 
+    /// A new one over the style of this name, for the application to own.
+    [[nodiscard]] static QStyle* Over(const QString& style);
+
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget = nullptr) const override;
 };

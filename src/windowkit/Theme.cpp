@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <memory>
 #include <optional>
 
 #include <QApplication>
@@ -134,18 +133,19 @@ QPalette Palette(Look look) {
 }
 
 void Apply(QApplication& application) {
+    // The application owns its style and its children.
     const std::optional<Look> wanted = WantedLook();
     const QString style = QApplication::style()->name();
     if (wanted || IsFallback(style)) {
         // Judged before Fusion, which may bring a palette of its own, is set.
         const Look system = IsDark(QApplication::palette()) ? Look::Dark : Look::Light;
-        QApplication::setStyle(std::make_unique<IconStyle>(QStringLiteral("fusion")).release());
+        QApplication::setStyle(IconStyle::Over(QStringLiteral("fusion")));
         QApplication::setPalette(Palette(wanted.value_or(system)));
     } else {
-        QApplication::setStyle(std::make_unique<IconStyle>(style).release());
+        QApplication::setStyle(IconStyle::Over(style));
     }
     AccentKeeper::Keep();
-    application.installEventFilter(std::make_unique<AccentKeeper>(&application).release());
+    application.installEventFilter(new AccentKeeper(&application));
 }
 
 } // namespace zol::Theme
