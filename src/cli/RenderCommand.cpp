@@ -6,6 +6,7 @@
 
 #include "cli/CommandLine.h"
 #include "cli/Commands.h"
+#include "grid/GridOptions.h"
 #include "grid/painting/GridPainter.h"
 #include "model/CodePage.h"
 #include "model/RunTimeError.h"
@@ -52,16 +53,9 @@ SquareRect AreaOf(const CommandLine& line, const Pattern& pattern) {
 }
 
 PaintOptions OptionsFor(const Options& options, int style, bool gridLines) {
-    PaintOptions paint;
-    paint.Target = TargetPicture;
+    PaintOptions paint = GridPaintOptions(options, TargetPicture);
     paint.StitchStyle = style;
     paint.GridLines = gridLines;
-    paint.NormalWidthPercent = options.GridLineWidthPercentage1;
-    paint.BoldWidthPercent = options.GridLineWidthPercentage2;
-    paint.BackStitchWidthPercent = options.BackStitchLineWidthPercentage;
-    paint.ClothColor = options.ClothColor;
-    paint.NormalGLColor = options.NormalGLColor;
-    paint.BoldGLColor = options.BoldGLColor;
     return paint;
 }
 
