@@ -1,0 +1,204 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#include "grid/windows/frmDesignGrid.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMimeData>
+#include <QProcess>
+#include <QTimer>
+#include <QToolBar>
+#include <QUrl>
+
+#include "files/CommandLineFile.h"
+#include "files/FileCommands.h"
+#include "grid/GridOptions.h"
+#include "grid/tools/DrawModes.h"
+#include "grid/windows/DesignCommands.h"
+#include "grid/windows/DrawingCommands.h"
+#include "grid/windows/FileMenu.h"
+#include "grid/windows/GridArea.h"
+#include "grid/windows/GridToolView.h"
+#include "grid/windows/MainCommands.h"
+#include "grid/windows/MainMenus.h"
+#include "grid/windows/MainToolBars.h"
+#include "grid/windows/PaletteStrip.h"
+#include "grid/windows/StatusLine.h"
+#include "grid/windows/ViewCommands.h"
+#include "grid/windows/WindowPlace.h"
+#include "grid/windows/frmPopups.h"
+#include "model/SafeFile.h"
+#include "windowkit/BusyScope.h"
+
+namespace zol {
+
+frmDesignGrid::frmDesignGrid(Workshop workshop) : m_workshop(workshop) {
+    setObjectName(QStringLiteral("frmDesignGrid"));
+    SetUpParts();
+    SetUpTools();
+    SetUpFiles();
+    SetUpCommands();
+    ConnectGrid();
+    ConnectPalette();
+    OrderTabs();
+    FollowOptions();
+    ShowDesign();
+    SetWindowTitle(m_workshop.Open.Get().WindowTitle());
+    WindowPlace::Restore(*this, m_workshop.Store);
+}
+
+frmDesignGrid::~frmDesignGrid() {
+    m_workshop.Steps.SetView(nullptr);
+    m_workshop.AutoSave.SetView(nullptr);
+    if (m_workshop.Context.Progress == m_status) {
+        m_workshop.Context.Progress = nullptr;
+    }
+}
+
+void frmDesignGrid::BeginDrawing() {
+    m_modes->SetDrawMode(DrawStitches);
+    m_modes->SetStitchType(m_choice.CurrentStitchType);
+}
+
+bool frmDesignGrid::OfferRecovery() {
+    std::unique_ptr<OpenDesign> design =
+        m_workshop.AutoSave.CheckForRecovery(m_workshop.Messages, m_files->RecoveryMakers());
+    if (design == nullptr) {
+        return false;
+    }
+    m_files->ShowRecovered(std::move(design));
+    return true;
+}
+
+bool frmDesignGrid::OpenCommandLine(const std::string& text) {
+    CommandLineFile file(*m_files, m_workshop.Messages, m_workshop.Context.AppPath);
+    return file.Run(text) == CommandLineFile::Outcome::Loaded;
+}
+
+bool frmDesignGrid::RunPatternViewer(const std::filesystem::path& program) {
+    const QString path = QString::fromStdString(PathText(program));
+    if (QProcess::startDetached(path, {})) {
+        return true;
+    }
+    m_workshop.Messages.TellMore("The pattern viewer cannot be started.",
+                                 PathText(program) +
+                                     " is not there or is no program that can be run.",
+                                 MessageIcon::Stop, ProgramTitle);
+    return false;
+}
+
+void frmDesignGrid::closeEvent(QCloseEvent* event) {
+    if (BusyScope::IsAnyAlive() || !m_files->CheckSave()) {
+        event->ignore();
+        return;
+    }
+    WindowPlace::Store(*this, m_workshop.Store);
+    CloseOtherWindows();
+    event->accept();
+}
+
+void frmDesignGrid::CloseOtherWindows() {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (auto window = windows.crbegin(); window != windows.crend(); ++window) {
+        if (*window != this && (*window)->isVisible()) {
+            (*window)->close();
+        }
+    }
+}
+
+void frmDesignGrid::dragEnterEvent(QDragEnterEvent* event) {
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (urls.size() == 1 && urls.first().isLocalFile()) {
+        event->acceptProposedAction();
+    }
+}
+
+void frmDesignGrid::dropEvent(QDropEvent* event) {
+    const std::string name = event->mimeData()->urls().first().toLocalFile().toStdString();
+    event->acceptProposedAction();
+    // The program that the file came from waits until this returns, and a question may follow.
+    QTimer::singleShot(0, this, [this, name] { m_files->OpenDropped(name); });
+}
+
+void frmDesignGrid::SetBusy(bool busy) {
+    ShowBusy(busy);
+}
+
+void frmDesignGrid::ResetTools() {
+    m_modes->SetDrawMode(DrawStitches);
+    m_area->SetOverlay(m_modes->GetOverlay());
+}
+
+void frmDesignGrid::ShowDesign() {
+    Pattern& design = m_workshop.Open.Design();
+    m_area->SetPattern(&design);
+    m_strip->SetPattern(&design);
+    m_modes->PaletteChanged();
+    FollowCurrentColor();
+    FollowTool();
+    ShowUndo();
+}
+
+void frmDesignGrid::SetWindowTitle(const std::string& name) {
+    setWindowTitle(QString::fromUtf8(ProgramTitle) + QStringLiteral(" - ") +
+                   QString::fromStdString(name));
+}
+
+void frmDesignGrid::ShowSummary(const std::string& text) {
+    m_status->ShowNote(QString::fromStdString(text));
+}
+
+std::optional<NewPattern> frmDesignGrid::AskNewPattern(const NewPattern& defaults) {
+    return defaults;
+}
+
+bool frmDesignGrid::IsInLongMode() const {
+    // Half a stroke is no work to come back to.
+    return QGuiApplication::mouseButtons() != Qt::NoButton || BusyScope::IsAnyAlive();
+}
+
+void frmDesignGrid::FollowOptions() {
+    const Options& options = m_workshop.Settings;
+    m_bars->Commands().setVisible(options.ToolbarVisible);
+    m_bars->Stitches().setVisible(options.StitchToolbarVisible);
+    m_bars->UseSmartStitches(options.UseSmart3QS != 0, options.UseSmartQS != 0);
+    m_status->setVisible(options.StatusbarVisible);
+    m_area->SetRulers(options.RulersVisible, options.UsesInches());
+    m_strip->SetRows(options.PaletteDisplayRows);
+    m_strip->SetSquareSize(options.PaletteDisplaySize);
+    m_strip->ShowSymbols(options.DisplaySymbolInPalette);
+    m_drawing->SetAnchorBackstitches(options.AnchorBackstitches);
+    FollowPainting();
+}
+
+void frmDesignGrid::FollowPainting() {
+    m_area->SetPaintOptions(GridPaintOptions(m_workshop.Settings));
+}
+
+void frmDesignGrid::FollowDesign() {
+    m_area->DesignChanged();
+    m_modes->PaletteChanged();
+    m_strip->Refresh();
+    FollowTool();
+    ShowUndo();
+}
+
+void frmDesignGrid::FollowTool() {
+    m_area->SetOverlay(m_modes->GetOverlay());
+    m_area->SetGridCursor(m_modes->Cursor());
+}
+
+void frmDesignGrid::FollowCurrentColor() {
+    m_strip->SetCurrent(m_choice.CurrentPaletteIndex);
+}
+
+void frmDesignGrid::ShowUndo() {
+    const std::string label = m_workshop.Steps.GetUndoLabel();
+    QAction& undo = m_commands->At("mnuEditUndo");
+    undo.setEnabled(!label.empty());
+    undo.setText(label.empty() ? QStringLiteral("Undo")
+                               : QStringLiteral("Undo ") + QString::fromStdString(label));
+}
+
+} // namespace zol

@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QMainWindow>
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "files/FileCommandsView.h"
+#include "grid/MirrorMode.h"
+#include "grid/painting/GridPainter.h"
+#include "grid/tools/ToolDesk.h"
+#include "grid/windows/Workshop.h"
+
+class QTimer;
+
+namespace zol {
+
+class DesignCommands;
+class DrawingCommands;
+class DrawModes;
+class FileCommands;
+class FileMenu;
+class frmPopups;
+class GridArea;
+class GridToolView;
+class MainCommands;
+class MainMenus;
+class MainToolBars;
+class PaletteStrip;
+class StatusLine;
+class ViewCommands;
+
+/// The main window: it owns the parts that the user sees and the groups of commands, and ties them
+/// together. What a command does is the group's, what the pointer does is the draw modes'.
+class frmDesignGrid : public QMainWindow, private FileCommandsView, private AutoSaveView {
+    Q_OBJECT
+
+public:
+    static constexpr const char* ProgramTitle = "Korvanta";
+
+    explicit frmDesignGrid(Workshop workshop);
+    ~frmDesignGrid() override;
+
+    /// The last step of the start: the tools that the designer begins with.
+    void BeginDrawing();
+    /// Asks about work that a run left behind that ended badly. True if it stands open now.
+    bool OfferRecovery();
+    /// What the program was started with. True if a design was opened.
+    bool OpenCommandLine(const std::string& text);
+    /// Starts the separate viewer. False if it cannot be started, of which the user is told.
+    bool RunPatternViewer(const std::filesystem::path& program);
+
+    [[nodiscard]] GridArea& Area() { return *m_area; }
+    [[nodiscard]] DrawModes& Modes() { return *m_modes; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    // FileCommandsView and AutoSaveView
+    void SetBusy(bool busy) override;
+    void ResetTools() override;
+    void ShowDesign() override;
+    void SetWindowTitle(const std::string& name) override;
+    void ShowSummary(const std::string& text) override;
+    [[nodiscard]] std::optional<NewPattern> AskNewPattern(const NewPattern& defaults) override;
+    [[nodiscard]] bool IsInLongMode() const override;
+
+    void SetUpParts();
+    void SetUpTools();
+    void SetUpFiles();
+    void SetUpCommands();
+    void SetUpZoomCommands();
+    void ConnectGrid();
+    void ConnectPalette();
+    void OrderTabs();
+
+    /// Parts of the window by the options: bars, rulers, strip, painting.
+    void FollowOptions();
+    void FollowPainting();
+    /// Stitches, flosses or size have changed everywhere.
+    void FollowDesign();
+    void FollowTool();
+    void FollowCurrentColor();
+    void ShowUndo();
+    void ChooseZoom();
+    void CloseOtherWindows();
+
+    Workshop m_workshop;
+    GridPainter m_painter;
+    MirrorMode m_mirror;
+    DrawingChoice m_choice;
+    GridArea* m_area = nullptr;
+    PaletteStrip* m_strip = nullptr;
+    StatusLine* m_status = nullptr;
+    QTimer* m_autoSaveTimer = nullptr;
+    std::unique_ptr<GridToolView> m_toolView;
+    std::unique_ptr<MainCommands> m_commands;
+    std::unique_ptr<MainMenus> m_menus;
+    std::unique_ptr<MainToolBars> m_bars;
+    std::unique_ptr<DrawingCommands> m_drawing;
+    std::unique_ptr<DrawModes> m_modes;
+    std::unique_ptr<frmPopups> m_popups;
+    std::unique_ptr<FileCommands> m_files;
+    std::unique_ptr<FileMenu> m_fileMenu;
+    std::unique_ptr<ViewCommands> m_view;
+    std::unique_ptr<DesignCommands> m_design;
+};
+
+} // namespace zol
