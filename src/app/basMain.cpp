@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#include "app/basMain.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QScreen>
+#include <QSplashScreen>
+
+#include "files/CommandLineFile.h"
+#include "grid/windows/frmDesignGrid.h"
+#include "model/SafeFile.h"
+#include "windowkit/IconFamily.h"
+
+namespace zol {
+
+basMain::basMain(const Arguments& arguments, UserDoors doors)
+    : m_commandLine(arguments.CommandLine),
+      m_program(arguments, doors) {}
+
+basMain::~basMain() = default;
+
+void basMain::Step(const std::function<void()>& work) {
+    try {
+        work();
+    } catch (const std::exception&) {
+        m_program.Doors().Messages.Tell("No Default Printer Defined!", MessageIcon::Exclamation,
+                                        "Korvanta Initialization");
+    }
+}
+
+bool basMain::Start() {
+    Step([this] { m_program.LoadOptions(); });
+    Step([this] { m_program.LoadRecentFiles(); });
+    const bool wantsViewer = CommandLineText::WantsPatternViewer(m_commandLine);
+    Step([this] { ShowSplash(); });
+    m_program.Context().ColorDepth = QGuiApplication::primaryScreen()->depth();
+    Step([this] { m_program.CreatePattern(); });
+    Step([this] { m_window = std::make_unique<frmDesignGrid>(m_program.GetWorkshop()); });
+    if (wantsViewer && EndForPatternViewer()) {
+        return false;
+    }
+    Step([this] {
+        Pattern& pattern = m_program.CurrentPattern();
+        if (m_program.Context().RecolorPatterns) {
+            RefreshFlossColors(pattern);
+        }
+        pattern.SetChanged(false);
+        m_window->show();
+        QCoreApplication::processEvents();
+    });
+    Step([this] { OpenWhatWasAskedFor(); });
+    if (m_splash != nullptr) {
+        m_splash->finish(m_window.get());
+        m_splash.reset();
+    }
+    Step([this] { m_window->BeginDrawing(); });
+    return true;
+}
+
+void basMain::ShowSplash() {
+    constexpr QSize size(440, 200);
+    const double ratio = QGuiApplication::primaryScreen()->devicePixelRatio();
+    QPixmap picture(size * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(QColor(0xF6, 0xF1, 0xE7));
+    QPainter painter(&picture);
+    const QPixmap sign = IconFamily::ProgramIcon().pixmap(QSize(112, 112), ratio);
+    painter.drawPixmap(QPointF(36, 44), sign);
+    painter.setPen(QColor(0x3A, 0x34, 0x2E));
+    QFont font = QApplication::font();
+    font.setPixelSize(38);
+    font.setWeight(QFont::DemiBold);
+    painter.setFont(font);
+    painter.drawText(QRect(176, 58, 250, 50), Qt::AlignLeft | Qt::AlignVCenter,
+                     QStringLiteral("Korvanta"));
+    font.setPixelSize(14);
+    font.setWeight(QFont::Normal);
+    painter.setFont(font);
+    painter.drawText(QRect(178, 108, 250, 24), Qt::AlignLeft | Qt::AlignVCenter,
+                     QStringLiteral("Counted cross-stitch design"));
+    painter.end();
+    m_splash = std::make_unique<QSplashScreen>(picture);
+    m_splash->show();
+}
+
+bool basMain::EndForPatternViewer() {
+    // The viewer is a program of its own in the program's folder.
+    const auto viewer = m_program.Context().AppPath / "PatternViewer";
+    m_splash.reset();
+    if (m_window->RunPatternViewer(viewer)) {
+        return true;
+    }
+    m_exitCode = 1;
+    return true;
+}
+
+void basMain::OpenWhatWasAskedFor() {
+    m_loaded = m_window->OfferRecovery();
+    if (!m_loaded && !m_commandLine.empty()) {
+        m_loaded = m_window->OpenCommandLine(m_commandLine);
+    }
+}
+
+void basMain::End() {
+    m_window.reset();
+    m_program.End();
+}
+
+} // namespace zol
