@@ -69,6 +69,9 @@ function(zol_add_test name)
         PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8" TIMEOUT 120)
 endfunction()
 
+# A display server without a display; where there is one, windows are tested on it as well.
+find_program(KORVANTA_XVFB_RUN xvfb-run)
+
 # zol_add_window_test(NAME SOURCES ... LINKS ...): one Qt Test program of windows, driven by mouse
 # and keys without a display. Its cases run in one process, as starting one costs more than a case.
 function(zol_add_window_test name)
@@ -81,4 +84,11 @@ function(zol_add_window_test name)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8" TIMEOUT 240)
+    if(KORVANTA_XVFB_RUN)
+        add_test(NAME ${name}_on_x11 COMMAND "${KORVANTA_XVFB_RUN}" -a
+            -s "-screen 0 1600x1200x24" $<TARGET_FILE:${name}>)
+        # One display server at a time: they choose their numbers by looking for a free one.
+        set_tests_properties(${name}_on_x11 PROPERTIES
+            ENVIRONMENT "QT_QPA_PLATFORM=xcb;LC_ALL=C.UTF-8" TIMEOUT 240 RESOURCE_LOCK xvfb)
+    endif()
 endfunction()

@@ -77,6 +77,8 @@ protected:
         current.Initialize(5, 4, 14, 14);
     }
 
+    void TearDown() override { EXPECT_TRUE(user.unanswered.empty()) << user.unanswered.front(); }
+
     FileCommandsDesk Desk() {
         FileCommandsDesk desk{open,
                               current,

@@ -1,0 +1,142 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QAction>
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "app/basMain.h"
+#include "grid/tools/DrawModes.h"
+#include "grid/windows/GridArea.h"
+#include "grid/windows/GridCanvas.h"
+#include "grid/windows/frmDesignGrid.h"
+#include "support/ScriptedUser.h"
+#include "support/TestPaths.h"
+
+namespace zol::test {
+
+inline void WriteText(const std::filesystem::path& file, const std::string& text) {
+    std::ofstream(file, std::ios::binary) << text;
+}
+
+inline std::string ReadText(const std::filesystem::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+}
+
+/// Files below a folder, at any depth.
+inline int CountFiles(const std::filesystem::path& folder) {
+    int files = 0;
+    if (std::filesystem::exists(folder)) {
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+            files += entry.is_regular_file() ? 1 : 0;
+        }
+    }
+    return files;
+}
+
+/// A home of its own for a program under test: settings, program folder, state.
+class ProgramHome {
+public:
+    ProgramHome() {
+        namespace fs = std::filesystem;
+        fs::create_directories(*this / "app");
+        fs::copy(fs::path(BuildDataFolder), *this / "app", fs::copy_options::recursive);
+        qputenv("XDG_STATE_HOME", QByteArray::fromStdString((*this / "state").string()));
+        qunsetenv("ZOLUNDO");
+    }
+    [[nodiscard]] std::filesystem::path operator/(const std::string& name) const {
+        return std::filesystem::path(m_folder.path().toStdString()) / name;
+    }
+    [[nodiscard]] Arguments CalledWith(std::string commandLine = {}) const {
+        Arguments arguments;
+        arguments.Settings = *this / "settings.ini";
+        arguments.AppPath = *this / "app";
+        arguments.CommandLine = std::move(commandLine);
+        return arguments;
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+/// The whole program as a user starts it, with a user who answers from a script.
+class RunningProgram {
+public:
+    explicit RunningProgram(const ProgramHome& home, const std::string& commandLine = {})
+        : m_main(std::make_unique<basMain>(home.CalledWith(commandLine), UserDoors{User, User})) {}
+
+    /// Shown at a size that tests can rely on.
+    [[nodiscard]] bool Start() {
+        if (!m_main->Start()) {
+            return false;
+        }
+        Window().resize(1280, 800);
+        return QTest::qWaitForWindowExposed(&Window());
+    }
+    void End() { m_main->End(); }
+    [[nodiscard]] int ExitCode() const { return m_main->ExitCode(); }
+
+    [[nodiscard]] frmDesignGrid& Window() { return m_main->MainWindow(); }
+    [[nodiscard]] Pattern& Design() { return m_main->Parts().GetWorkshop().Open.Design(); }
+    [[nodiscard]] Workshop Parts() { return m_main->Parts().GetWorkshop(); }
+    [[nodiscard]] GridArea& Area() { return Window().Area(); }
+    [[nodiscard]] QWidget& Grid() { return *Find<QWidget>("picGrid"); }
+
+    template<typename Widget>
+    [[nodiscard]] Widget* Find(const char* name) {
+        auto* found = Window().findChild<Widget*>(QLatin1String(name));
+        if (found == nullptr) {
+            qFatal("there is no %s", name);
+        }
+        return found;
+    }
+    [[nodiscard]] QAction& Command(const char* name) { return *Find<QAction>(name); }
+    /// A click on a tool button.
+    void Click(const char* toolKey) {
+        QTest::mouseClick(Find<QToolButton>(toolKey), Qt::LeftButton);
+    }
+    /// What the menu does when its item is chosen.
+    void Choose(const char* command) { Command(command).trigger(); }
+
+    /// Window pixel of a region 1 to 9 of a square, just inside it.
+    [[nodiscard]] QPoint Place(int column, int row, int region = 5) {
+        const GridGeometry& geometry = Area().Geometry();
+        const QRect pixels = geometry.PixelsOf({column, row, column, row});
+        const int thirds[] = {0, 50, 99};
+        const auto at = [&](int first, int length, int third) {
+            return first + length * thirds[third] / 100;
+        };
+        const QPoint device(at(pixels.left(), pixels.width(), PositionColumn(region)),
+                            at(pixels.top(), pixels.height(), PositionRow(region)));
+        return (QPointF(device) / geometry.PixelRatio()).toPoint();
+    }
+    void ClickSquare(int column, int row, int region = 5, Qt::MouseButton button = Qt::LeftButton,
+                     Qt::KeyboardModifiers keys = {}) {
+        QTest::mouseClick(&Grid(), button, keys, Place(column, row, region));
+    }
+    /// Press, moves from square to square, release.
+    void Drag(SquarePos from, SquarePos to, Qt::MouseButton button = Qt::LeftButton,
+              Qt::KeyboardModifiers keys = {}) {
+        QTest::mousePress(&Grid(), button, keys, Place(from.X, from.Y));
+        QTest::mouseMove(&Grid(), Place(to.X, to.Y));
+        QTest::mouseRelease(&Grid(), button, keys, Place(to.X, to.Y));
+    }
+
+    ScriptedUser User;
+
+private:
+    std::unique_ptr<basMain> m_main;
+};
+
+} // namespace zol::test
