@@ -47,7 +47,7 @@ Program::Program(const Arguments& arguments, UserDoors doors)
       m_open(std::make_unique<PatternDesign>(m_pattern, std::string())),
       m_steps(m_open, Undo::SnapshotPath(m_run.Path())),
       m_recentFiles(m_store),
-      m_autoSave(m_open, m_run) {}
+      m_autoSave(m_open, m_run, doors.Clock) {}
 
 void Program::LoadOptions() {
     m_options = basOptions::LoadOptions(m_store, m_context);

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <optional>
 
@@ -16,6 +17,7 @@ namespace zol {
 struct UserDoors {
     MessageDoor& Messages;
     FileDoor& Files;
+    basAutoSave::Clock Clock = &std::chrono::steady_clock::now; ///< what auto-save goes by
 };
 
 /// Owns what lives for the whole run: the settings, the one pattern, what stands open, undo,

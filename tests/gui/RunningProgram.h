@@ -9,6 +9,7 @@
 #include <QTest>
 #include <QToolButton>
 
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -74,7 +75,10 @@ private:
 class RunningProgram {
 public:
     explicit RunningProgram(const ProgramHome& home, const std::string& commandLine = {})
-        : m_main(std::make_unique<basMain>(home.CalledWith(commandLine), UserDoors{User, User})) {}
+        : RunningProgram(home.CalledWith(commandLine)) {}
+    explicit RunningProgram(const Arguments& arguments,
+                            const basAutoSave::Clock& clock = &std::chrono::steady_clock::now)
+        : m_main(std::make_unique<basMain>(arguments, UserDoors{User, User, clock})) {}
 
     /// Shown at a size that tests can rely on.
     [[nodiscard]] bool Start() {

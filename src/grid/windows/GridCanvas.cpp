@@ -30,6 +30,12 @@ PointerButton ButtonOf(Qt::MouseButton button) {
                                        : PointerButton::None;
 }
 
+Qt::MouseButton QtButtonOf(PointerButton button) {
+    return button == PointerButton::Left    ? Qt::LeftButton
+           : button == PointerButton::Right ? Qt::RightButton
+                                            : Qt::NoButton;
+}
+
 /// Rectangles that hold the region, few of them: each has its cost beside its pixels. They hold at
 /// most about twice the region's pixels; what is too much is cut off by the painter.
 std::vector<QRect> FewRectsOf(const QRegion& region) {
@@ -250,6 +256,10 @@ PointerEvent GridCanvas::EventOf(const QMouseEvent& event, PointerButton button)
 
 void GridCanvas::mousePressEvent(QMouseEvent* event) {
     const PointerButton button = ButtonOf(event->button());
+    if (button == m_held || !event->buttons().testFlag(QtButtonOf(m_held))) {
+        // Its release went to a menu that the press opened.
+        m_held = PointerButton::None;
+    }
     if (m_pattern == nullptr || button == PointerButton::None || m_held != PointerButton::None) {
         return;
     }
@@ -263,8 +273,12 @@ void GridCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void GridCanvas::mouseMoveEvent(QMouseEvent* event) {
+    if (!event->buttons().testFlag(QtButtonOf(m_held))) {
+        m_held = PointerButton::None;
+    }
+    const bool alone = event->buttons() == QtButtonOf(m_held);
     if (m_pattern != nullptr) {
-        Q_EMIT Moved(EventOf(*event, m_held));
+        Q_EMIT Moved(EventOf(*event, alone ? m_held : PointerButton::None));
     }
 }
 

@@ -90,6 +90,7 @@ void frmDesignGrid::SetUpFiles() {
         std::make_unique<FileMenu>(*m_commands, *m_menus, *m_files, m_workshop.RecentFiles);
     m_workshop.AutoSave.SetView(this);
     m_autoSaveTimer = new QTimer(this);
+    m_autoSaveTimer->setObjectName(QStringLiteral("timAutoSave"));
     m_autoSaveTimer->setInterval(std::chrono::minutes(1));
     connect(m_autoSaveTimer, &QTimer::timeout, this,
             [this] { m_workshop.AutoSave.AutoSaveTick(false, true); });
