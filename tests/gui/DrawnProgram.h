@@ -4,9 +4,11 @@
 #pragma once
 
 #include <QBackingStore>
+#include <QDialog>
 #include <QImage>
 #include <QPainter>
 #include <QScreen>
+#include <QTimer>
 
 #include <cmath>
 #include <string>
@@ -17,6 +19,7 @@
 #include "grid/tools/OverlayPainter.h"
 #include "gui/Mouse.h"
 #include "gui/RunningProgram.h"
+#include "gui/Twin.h"
 #include "model/ByteStream.h"
 #include "windowkit/Theme.h"
 
@@ -93,6 +96,16 @@ public:
         QVERIFY2(button->isVisible() && button->isEnabled(), key);
         Pointer.Click(*button, QRectF(button->rect()).center());
     }
+    /// File, New; what it asks of the new pattern is left as it is offered.
+    void NewPatternByMenu() {
+        QTimer::singleShot(0, &Window(), [] {
+            if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+                dialog->accept();
+            }
+        });
+        Choose("mnuFileNew");
+        Settle();
+    }
     void Key(Qt::Key key, Qt::KeyboardModifiers keys = {}) {
         QTest::keyClick(Window().windowHandle(), key, keys);
     }
@@ -165,3 +178,11 @@ private:
 };
 
 } // namespace zol::test
+
+/// The design is the twin's, and the screen shows it.
+#define COMPARE_TWIN(program, twin)                                                                \
+    do {                                                                                           \
+        const std::string difference = zol::test::DifferenceOf((program).Design(), twin);          \
+        QVERIFY2(difference.empty(), difference.c_str());                                          \
+        QTRY_COMPARE((program).WrongPixels(), 0);                                                  \
+    } while (false)

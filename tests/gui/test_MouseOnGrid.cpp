@@ -7,7 +7,6 @@
 
 #include "grid/tools/BackstitchTool.h"
 #include "gui/DrawnProgram.h"
-#include "gui/Twin.h"
 
 namespace zol::test {
 
@@ -28,13 +27,6 @@ std::string Label(DrawnProgram& program) {
 }
 
 } // namespace
-
-#define COMPARE_TWIN(program, twin)                                                                \
-    do {                                                                                           \
-        const std::string difference = DifferenceOf((program).Design(), twin);                     \
-        QVERIFY2(difference.empty(), difference.c_str());                                          \
-        QTRY_COMPARE((program).WrongPixels(), 0);                                                  \
-    } while (false)
 
 /// The mouse over the grid where it is no plain click inside a square: edges, other buttons, other
 /// sizes.
