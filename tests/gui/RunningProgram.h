@@ -57,12 +57,18 @@ public:
         qunsetenv("ZOLUNDO");
     }
     [[nodiscard]] std::filesystem::path operator/(const std::string& name) const {
-        return std::filesystem::path(m_folder.path().toStdString()) / name;
+        return Path() / name;
     }
+    [[nodiscard]] std::filesystem::path Path() const { return m_folder.path().toStdString(); }
     [[nodiscard]] Arguments CalledWith(std::string commandLine = {}) const {
+        return CalledIn(Path(), std::move(commandLine));
+    }
+    /// For a home that another process has made.
+    [[nodiscard]] static Arguments CalledIn(const std::filesystem::path& home,
+                                            std::string commandLine = {}) {
         Arguments arguments;
-        arguments.Settings = *this / "settings.ini";
-        arguments.AppPath = *this / "app";
+        arguments.Settings = home / "settings.ini";
+        arguments.AppPath = home / "app";
         arguments.CommandLine = std::move(commandLine);
         return arguments;
     }
