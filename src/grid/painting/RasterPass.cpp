@@ -14,22 +14,6 @@ namespace zol {
 
 namespace {
 
-/// The columns (or rows) of `first` to `last` that may show between two device pixels, a little
-/// more at each end.
-std::pair<int, int> ShownOf(int first, int last, int fromPixel, int toPixel, double squareTwips,
-                            double origin, double twipsPerPixel) {
-    if (squareTwips <= 0) {
-        return {first, last};
-    }
-    const double from = (fromPixel * twipsPerPixel - origin) / squareTwips - 2;
-    const double to = (toPixel * twipsPerPixel - origin) / squareTwips + 3;
-    return {std::clamp(static_cast<int>(std::clamp(from, -1e9, 1e9)), first, last + 1),
-            std::clamp(static_cast<int>(std::clamp(to, -1e9, 1e9)), first - 1, last)};
-}
-
-/// Look-ups of a square's record that cost as much as walking one record of the table.
-constexpr std::size_t RecordsPerLookUp = 16;
-
 /// Columns whose cells are asked for before they are needed.
 constexpr std::size_t ColumnsAhead = 12;
 
@@ -68,85 +52,6 @@ RasterGrid::Painted RasterPass::Run() {
     PaintMixedSquares();
     PaintKnots();
     return {m_area, m_rect};
-}
-
-void RasterPass::FindArea() {
-    const GridScale& s = m_view.Scale;
-    const auto [left, right] =
-        ShownOf(m_rect.Left, m_rect.Right, m_position.x(), m_position.x() + m_buffer.Width,
-                s.SquareTwipsX, m_view.OriginX, s.TwipsPerPixelX);
-    const auto [top, bottom] =
-        ShownOf(m_rect.Top, m_rect.Bottom, m_position.y(), m_position.y() + m_buffer.Height,
-                s.SquareTwipsY, m_view.OriginY, s.TwipsPerPixelY);
-    m_rect = {left, top, right, bottom};
-    if (m_rect.IsEmpty()) {
-        return;
-    }
-    m_x = SquareSpans::Columns(m_view, left, right);
-    m_y = SquareSpans::Rows(m_view, top, bottom);
-    // The closing lines are painted too, as far as the image holds them.
-    const QPoint corner(m_x->Edge(left), m_y->Edge(top));
-    const QPoint end(m_x->First(right + 1), m_y->First(bottom + 1));
-    m_area = QRect(corner - m_position, end - m_position - QPoint(1, 1))
-                 .intersected(QRect(0, 0, m_buffer.Width, m_buffer.Height));
-}
-
-void RasterPass::Axis::Find(const SquareSpans& spans, int from, int to, int position, int areaFirst,
-                            int areaLast) {
-    for (int number = from; number <= to; ++number) {
-        const int edge = spans.Edge(number) - position;
-        const int first = spans.First(number) - position;
-        const int last = spans.Last(number) - position;
-        const bool shown = last >= first && last >= areaFirst && first <= areaLast;
-        PlaceOf.push_back(shown ? static_cast<int>(Shown.size()) : -1);
-        if (!shown) {
-            continue;
-        }
-        const int size = last - first + 1;
-        const auto known = std::find(Sizes.begin(), Sizes.end(), size);
-        const auto which = static_cast<std::size_t>(known - Sizes.begin());
-        if (known == Sizes.end()) {
-            Sizes.push_back(size);
-        }
-        Shown.push_back({number, edge, first, last, which, first < areaFirst || last > areaLast});
-    }
-    FindPitch();
-}
-
-void RasterPass::Axis::FindPitch() {
-    if (Shown.empty()) {
-        return;
-    }
-    Pitch = Shown.front().Last + 1 - Shown.front().Edge;
-    int edge = Shown.front().Edge;
-    for (const Stretch& stretch : Shown) {
-        if (stretch.Edge != edge || stretch.Last + 1 - edge != Pitch) {
-            Pitch = 0;
-            return;
-        }
-        edge += Pitch;
-    }
-}
-
-const RasterPass::Stretch* RasterPass::Axis::At(int number, int from) const {
-    const auto at = static_cast<std::size_t>(number - from);
-    if (number < from || at >= PlaceOf.size() || PlaceOf[at] < 0) {
-        return nullptr;
-    }
-    return &Shown[static_cast<std::size_t>(PlaceOf[at])];
-}
-
-void RasterPass::FindTiles() {
-    m_columns.Find(*m_x, m_rect.Left, m_rect.Right, m_position.x(), m_area.left(), m_area.right());
-    m_rows.Find(*m_y, m_rect.Top, m_rect.Bottom, m_position.y(), m_area.top(), m_area.bottom());
-    for (const int height : m_rows.Sizes) {
-        for (const int width : m_columns.Sizes) {
-            m_sizes.push_back(&m_tiles.SizeOf(width, height));
-        }
-    }
-    for (const int width : m_columns.Sizes) {
-        m_copiers.push_back(TileCopierFor(width));
-    }
 }
 
 std::vector<QRgb> RasterPass::TemplateRow(QRgb ground, bool normalColumns) const {
@@ -215,15 +120,6 @@ void RasterPass::GatherTiles(std::size_t firstRow) {
     }
 }
 
-void RasterPass::NoteFlags(const Stretch& column, const Stretch& row, const StitchCell& cell) {
-    if ((cell.CellFlags & CellHasKnot) != 0) {
-        m_knotted.push_back({column.Number, row.Number});
-    }
-    if ((cell.CellFlags & CellHasDup) != 0) {
-        m_mixed.push_back({column.Number, row.Number});
-    }
-}
-
 void RasterPass::PaintRow(std::size_t place) {
     const Stretch& row = m_rows.Shown[place];
     const std::size_t inBand = place % BandRows;
@@ -246,6 +142,9 @@ void RasterPass::PaintRow(std::size_t place) {
 
 void RasterPass::PrepareSolidLine() {
     if (m_columns.Shown.empty()) {
+        // Nothing but an upright line.
+        m_lineLeft = m_area.left();
+        m_line = m_groundRow;
         return;
     }
     m_lineLeft = std::min(m_area.left(), m_columns.Shown.front().Edge);
@@ -297,7 +196,7 @@ void RasterPass::GatherColours(std::size_t firstRow) {
 
 void RasterPass::PaintSolidRow(const Stretch& row, const QRgb* colours) {
     QRgb* line = m_line.data() - m_lineLeft;
-    if (m_columns.Pitch > 0) {
+    if (m_columns.Pitch > 0 && !m_columns.Shown.empty()) {
         // Over the upright lines, and those once more over the squares.
         SpreadColours(colours, m_columns.Shown.size(), line + m_columns.Shown.front().Edge,
                       m_columns.Pitch);
@@ -382,81 +281,6 @@ void RasterPass::CopyTile(const Stretch& column, const Stretch& row, const QRgb*
     for (int y = std::max(row.First, m_area.top()); y <= std::min(row.Last, m_area.bottom()); ++y) {
         const QRgb* from = tile + static_cast<std::ptrdiff_t>(y - row.First) * width;
         std::copy(from + (first - column.First), from + (last - column.First) + 1, Pixel(first, y));
-    }
-}
-
-void RasterPass::PaintMixedSquares() {
-    const KeyedTable<DupStitch>& table = m_view.Source->DupStitches();
-    const auto paint = [this](int x, int y, const DupStitch* dup) {
-        const Stretch* column = m_columns.At(x, m_rect.Left);
-        const Stretch* row = m_rows.At(y, m_rect.Top);
-        if (column != nullptr && row != nullptr) {
-            PaintMixedSquare(*column, *row, dup);
-        }
-    };
-    // Whichever is less work: walking the table, or looking each square up in it.
-    if (table.Count() <= m_mixed.size() * RecordsPerLookUp) {
-        table.ForEach([&](const DupStitch& dup) { paint(dup.X, dup.Y, &dup); });
-        return;
-    }
-    for (const SquarePos& square : m_mixed) {
-        paint(square.X, square.Y, table.Find(KeyedTable<DupStitch>::KeyOf(square.Y, square.X)));
-    }
-}
-
-void RasterPass::PaintMixedSquare(const Stretch& column, const Stretch& row, const DupStitch* dup) {
-    const StitchCell& cell = m_view.Source->Cell(column.Number, row.Number);
-    if ((cell.CellFlags & CellHasDup) == 0 || cell.StitchType == NoStitch) {
-        return;
-    }
-    const SquareContent content(cell, dup);
-    TileCache::Size& size = SizeOf(column, row);
-    if (!column.Cut && !row.Cut) {
-        m_tiles.Compose(
-            {Pixel(column.First, row.First), m_buffer.Stride, size.Width(), size.Height()}, size,
-            content);
-        return;
-    }
-    m_scratch.resize(static_cast<std::size_t>(size.Width()) *
-                     static_cast<std::size_t>(size.Height()));
-    m_tiles.Compose({m_scratch.data(), size.Width(), size.Width(), size.Height()}, size, content);
-    CopyTile(column, row, m_scratch.data());
-}
-
-void RasterPass::PaintKnots() {
-    for (const PlacedKnot& placed : KnotsOf(*m_view.Source, m_rect, m_knotted)) {
-        PaintKnot(placed);
-    }
-}
-
-void RasterPass::PaintKnot(const PlacedKnot& placed) {
-    const PixelRect box =
-        KnotShapes::Box(m_view, placed.Square.X, placed.Square.Y, placed.Knot.Position);
-    const int pen = KnotShapes::PenWidth(m_view);
-    const int x = box.Left - m_position.x() - m_area.left();
-    const int y = box.Top - m_position.y() - m_area.top();
-    const PixelBuffer target{Pixel(m_area.left(), m_area.top()), m_buffer.Stride, m_area.width(),
-                             m_area.height()};
-    const std::uint8_t floss = placed.Knot.PaletteIndex;
-    const KnotInk ink = KnotInkOf(m_view.Options, m_tiles.ColourOf(floss));
-    const auto blend = [&](Colour colour, bool filled) {
-        const PixelMask& mask = m_tiles.Masks().Knot(placed.Knot.Orientation, box.Right - box.Left,
-                                                     box.Bottom - box.Top, pen, filled);
-        BlendMask(target, x + mask.Left, y + mask.Top, mask, ToRgb(colour));
-    };
-    if (ink.Body) {
-        blend(*ink.Body, true);
-    }
-    if (ink.Outline) {
-        blend(*ink.Outline, false);
-    }
-    const int symbol = m_tiles.SymbolOf(floss);
-    const PixelRect inner = KnotShapes::SymbolRect(box);
-    if (ink.Symbol && symbol != 0 && placed.Knot.Orientation == KnotNormal && !inner.IsEmpty()) {
-        const PixelMask& mask =
-            m_tiles.Masks().Symbol(symbol, StitchFKnot, inner.Width(), inner.Height());
-        BlendMask(target, x + inner.Left - box.Left + mask.Left, y + inner.Top - box.Top + mask.Top,
-                  mask, ToRgb(*ink.Symbol));
     }
 }
 

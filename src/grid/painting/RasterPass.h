@@ -87,6 +87,10 @@ private:
     void PaintMixedSquares();
     void PaintMixedSquare(const Stretch& column, const Stretch& row, const DupStitch* dup);
     void PaintKnots();
+    [[nodiscard]] std::vector<PlacedKnot> FindKnots();
+    /// The columns (or rows) that do not show but touch a stretch of device pixels.
+    [[nodiscard]] static std::vector<int> Around(const Axis& axis, const SquareSpans& spans,
+                                                 int from, int to, int firstPixel, int lastPixel);
     void PaintKnot(const PlacedKnot& placed);
 
     [[nodiscard]] QRgb* Pixel(int x, int y) { return m_buffer.Row(y) + x; }

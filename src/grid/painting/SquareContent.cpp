@@ -36,6 +36,26 @@ PlacedKnot Placed(const SquarePos& square, const FrenchKnot& knot) {
     return {square, {position, knot.Orientation, knot.GetPaletteIndex()}};
 }
 
+void AddShown(std::vector<PlacedKnot>& shown, const Pattern& pattern, const SquareRect& rect,
+              const FrenchKnot& knot) {
+    if (const auto square = LastSquareOf(pattern, rect, knot); square) {
+        shown.push_back(Placed(*square, knot));
+    }
+}
+
+/// In painting order, each once.
+void PutInOrder(std::vector<PlacedKnot>& knots) {
+    const auto place = [](const PlacedKnot& knot) {
+        return std::tuple(knot.Square.X, knot.Square.Y, knot.Knot.Position);
+    };
+    std::sort(knots.begin(), knots.end(),
+              [&](const PlacedKnot& a, const PlacedKnot& b) { return place(a) < place(b); });
+    knots.erase(
+        std::unique(knots.begin(), knots.end(),
+                    [&](const PlacedKnot& a, const PlacedKnot& b) { return place(a) == place(b); }),
+        knots.end());
+}
+
 } // namespace
 
 SquareContent::SquareContent(const StitchCell& cell, const DupStitch* dup) {
@@ -73,38 +93,32 @@ SquareContent::SquareContent(const Pattern& pattern, int column, int row)
     }
 }
 
+std::vector<PlacedKnot> KnotsOf(const Pattern& pattern, const SquareRect& rect) {
+    std::vector<PlacedKnot> shown;
+    pattern.FrenchKnots().ForEach(
+        [&](const FrenchKnot& knot) { AddShown(shown, pattern, rect, knot); });
+    PutInOrder(shown);
+    return shown;
+}
+
 std::vector<PlacedKnot> KnotsOf(const Pattern& pattern, const SquareRect& rect,
                                 const std::vector<SquarePos>& flagged) {
-    std::vector<PlacedKnot> shown;
     const KeyedTable<FrenchKnot>& knots = pattern.FrenchKnots();
-    const auto add = [&](const FrenchKnot& knot) {
-        if (const auto square = LastSquareOf(pattern, rect, knot); square) {
-            shown.push_back(Placed(*square, knot));
-        }
-    };
     // Whichever is less work: walking the table, or asking for the points of the squares.
     if (knots.Count() <= flagged.size() * 9) {
-        knots.ForEach(add);
-    } else {
-        for (const SquarePos& square : flagged) {
-            for (int position = 1; position <= 9; ++position) {
-                const LatticePos at = LatticeOf(square.X, square.Y, position);
-                if (const auto* knot = knots.Find(KeyedTable<FrenchKnot>::KeyOf(at.LY, at.LX));
-                    knot != nullptr) {
-                    add(*knot);
-                }
+        return KnotsOf(pattern, rect);
+    }
+    std::vector<PlacedKnot> shown;
+    for (const SquarePos& square : flagged) {
+        for (int position = 1; position <= 9; ++position) {
+            const LatticePos at = LatticeOf(square.X, square.Y, position);
+            if (const auto* knot = knots.Find(KeyedTable<FrenchKnot>::KeyOf(at.LY, at.LX));
+                knot != nullptr) {
+                AddShown(shown, pattern, rect, *knot);
             }
         }
     }
-    const auto place = [](const PlacedKnot& knot) {
-        return std::tuple(knot.Square.X, knot.Square.Y, knot.Knot.Position);
-    };
-    std::sort(shown.begin(), shown.end(),
-              [&](const PlacedKnot& a, const PlacedKnot& b) { return place(a) < place(b); });
-    shown.erase(
-        std::unique(shown.begin(), shown.end(),
-                    [&](const PlacedKnot& a, const PlacedKnot& b) { return place(a) == place(b); }),
-        shown.end());
+    PutInOrder(shown);
     return shown;
 }
 

@@ -49,8 +49,9 @@ struct PlacedKnot {
 };
 
 /// The knots that the squares of a rectangle show, in painting order (column by column), each
-/// once: where several squares show it, from the last of them, which lies on top. `flagged` are
-/// the rectangle's squares that a knot may touch.
+/// once: where several squares show it, from the last of them, which lies on top.
+[[nodiscard]] std::vector<PlacedKnot> KnotsOf(const Pattern& pattern, const SquareRect& rect);
+/// The same when the rectangle's squares that a knot may touch are known.
 [[nodiscard]] std::vector<PlacedKnot> KnotsOf(const Pattern& pattern, const SquareRect& rect,
                                               const std::vector<SquarePos>& flagged);
 
