@@ -72,6 +72,7 @@ void GridPainter::PaintImage(QImage& image, QPoint position, const GridView& vie
     PixelCanvas canvas({first, stride, area.width(), area.height()}, position + area.topLeft(),
                        *m_lineMasks, view.Options.Antialias);
     zol::DrawBackStitchLines(canvas, view, painted.Squares, *m_lines);
+    canvas.Flush();
 }
 
 void GridPainter::DrawGridLines(QPainter& painter, const GridView& view, const SquareRect& rect) {

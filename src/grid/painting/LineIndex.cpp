@@ -4,6 +4,7 @@
 #include "grid/painting/LineIndex.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstring>
 #include <type_traits>
@@ -61,7 +62,7 @@ void LineIndex::Rebuild(const Pattern& pattern) {
     for (std::vector<int>& block : m_blocks) {
         block.clear();
     }
-    m_seen.resize(m_lines.size() + 1);
+    m_found.resize(m_lines.size() / 64 + 1);
     InsertLines(0, m_lines.size());
 }
 
@@ -85,7 +86,7 @@ bool LineIndex::Mend(const std::vector<BackStitchLine>& lines) {
         Renumber(static_cast<int>(before), static_cast<int>(gone), static_cast<int>(fresh));
     }
     m_lines = lines;
-    m_seen.resize(m_lines.size() + 1);
+    m_found.resize(m_lines.size() / 64 + 1);
     InsertLines(before, before + fresh);
     return true;
 }
@@ -135,8 +136,6 @@ void LineIndex::Insert(const BackStitchLine& line, int index) {
 }
 
 std::vector<int> LineIndex::FindInBlocks(const SquareRect& rect) {
-    std::vector<int> found;
-    ++m_search;
     const int left = BlockOf(rect.Left - 2, m_blocksAcross);
     const int right = BlockOf(rect.Right + 2, m_blocksAcross);
     const int top = BlockOf(rect.Top - 2, m_blocksDown);
@@ -144,16 +143,19 @@ std::vector<int> LineIndex::FindInBlocks(const SquareRect& rect) {
     for (int row = top; row <= bottom; ++row) {
         for (int column = left; column <= right; ++column) {
             for (const int index : m_blocks[PlaceOf(column, row)]) {
-                std::uint32_t& seen = m_seen[static_cast<std::size_t>(index)];
-                if (seen != m_search) {
-                    seen = m_search;
-                    found.push_back(index);
-                }
+                const auto bit = static_cast<unsigned>(index);
+                m_found[bit / 64] |= std::uint64_t{1} << (bit % 64);
             }
         }
     }
-    // Later lines lie over earlier ones.
-    std::sort(found.begin(), found.end());
+    // Later lines lie over earlier ones: bit by bit they come in order, each once.
+    std::vector<int> found;
+    for (std::size_t i = 0; i < m_found.size(); ++i) {
+        for (std::uint64_t bits = m_found[i]; bits != 0; bits &= bits - 1) {
+            found.push_back(static_cast<int>(i) * 64 + std::countr_zero(bits));
+        }
+        m_found[i] = 0;
+    }
     return found;
 }
 

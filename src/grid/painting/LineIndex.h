@@ -49,8 +49,7 @@ private:
     int m_blocksAcross = 0;
     int m_blocksDown = 0;
     std::vector<std::vector<int>> m_blocks;
-    std::vector<std::uint32_t> m_seen; ///< the search that last found each line
-    std::uint32_t m_search = 0;
+    std::vector<std::uint64_t> m_found; ///< a bit for each line; none set between searches
 };
 
 } // namespace zol

@@ -19,7 +19,7 @@ constexpr std::int64_t LargestArea = std::int64_t{1} << 18U;
 /// And of its longer side.
 constexpr std::int64_t LongestSide = 30'000;
 
-/// Solid runs shorter than this go along with their neighbours' cover.
+/// Solid stretches shorter than this go along with their neighbours' cover.
 constexpr int LeastSolid = 4;
 
 /// The inks that a line is laid out in, to be told apart.
@@ -57,8 +57,16 @@ public:
     }
     [[nodiscard]] QRect Visible() const override { return {}; }
 
+    /// What the line itself covers wholly need not be hidden first.
+    void DropHidden() {
+        const std::vector<std::uint8_t>& over = m_cover[OverInk];
+        std::vector<std::uint8_t>& under = m_cover[UnderInk];
+        for (std::size_t i = 0; i < std::min(over.size(), under.size()); ++i) {
+            under[i] = over[i] == 255 ? std::uint8_t{0} : under[i];
+        }
+    }
     /// What an ink covers, counted from `begin`.
-    [[nodiscard]] RunMask Runs(Colour ink, QPoint begin) const;
+    [[nodiscard]] SpanMask Spans(Colour ink, QPoint begin) const;
 
 private:
     template<typename Join>
@@ -83,66 +91,69 @@ private:
     std::array<std::vector<std::uint8_t>, 2> m_cover;
 };
 
-/// Adds the runs of a scan line.
-void AddRuns(RunMask& mask, const std::uint8_t* row, int width, QPoint begin, int y) {
+/// Adds the spans of a scan line.
+void AddSpans(SpanMask& mask, const std::uint8_t* row, int width, int beginX) {
+    // The end of the solid pixels from x on; x itself where they are too few to count.
     const auto solidUpTo = [&](int x) {
-        while (x < width && row[x] == 255) {
+        int end = x;
+        while (end < width && row[end] == 255) {
+            ++end;
+        }
+        return end - x >= LeastSolid ? end : x;
+    };
+    const auto edgeUpTo = [&](int x) {
+        while (x < width && row[x] != 0 && solidUpTo(x) == x) {
             ++x;
         }
         return x;
-    };
-    const auto add = [&](int from, int to, bool solid) {
-        if (from == to) {
-            return;
-        }
-        mask.Runs.push_back({static_cast<std::int16_t>(from - begin.x()),
-                             static_cast<std::int16_t>(y - begin.y()),
-                             static_cast<std::uint16_t>(to - from), solid});
-        if (!solid) {
-            mask.Cover.insert(mask.Cover.end(), row + from, row + to);
-        }
     };
     for (int x = 0; x < width;) {
         if (row[x] == 0) {
             ++x;
             continue;
         }
-        int from = x;
-        while (x < width && row[x] != 0) {
-            const int solid = solidUpTo(x);
-            if (solid - x >= LeastSolid) {
-                add(from, x, false);
-                add(x, solid, true);
-                from = solid;
-            }
-            x = std::max(solid, x + 1);
-        }
-        add(from, x, false);
+        const int solid = edgeUpTo(x);
+        const int trail = solid < width && row[solid] != 0 ? solidUpTo(solid) : solid;
+        const int end = trail > solid ? edgeUpTo(trail) : solid;
+        mask.Spans.push_back(
+            {static_cast<std::int16_t>(x - beginX), static_cast<std::uint16_t>(solid - x),
+             static_cast<std::uint16_t>(trail - solid), static_cast<std::uint16_t>(end - trail),
+             static_cast<std::uint32_t>(mask.Cover.size())});
+        mask.Cover.insert(mask.Cover.end(), row + x, row + solid);
+        mask.Cover.insert(mask.Cover.end(), row + trail, row + end);
+        x = end;
     }
 }
 
-RunMask CoverCanvas::Runs(Colour ink, QPoint begin) const {
-    RunMask mask;
+SpanMask CoverCanvas::Spans(Colour ink, QPoint begin) const {
+    SpanMask mask;
     const std::vector<std::uint8_t>& cover = m_cover[ink];
-    if (!cover.empty()) {
-        for (int y = 0; y < m_height; ++y) {
-            AddRuns(mask,
-                    cover.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width),
-                    m_width, begin, y);
-        }
+    if (cover.empty()) {
+        return mask;
     }
-    mask.Runs.shrink_to_fit();
+    const auto isBare = [](std::uint8_t share) { return share == 0; };
+    for (int y = 0; y < m_height; ++y) {
+        const auto at = static_cast<std::ptrdiff_t>(y) * m_width;
+        const auto row = cover.begin() + at;
+        if (mask.Rows.empty()) {
+            if (std::all_of(row, row + m_width, isBare)) {
+                continue;
+            }
+            mask.Top = y - begin.y();
+        }
+        mask.Rows.push_back(static_cast<std::uint32_t>(mask.Spans.size()));
+        AddSpans(mask, cover.data() + at, m_width, begin.x());
+    }
+    while (!mask.Rows.empty() && mask.Rows.back() == mask.Spans.size()) {
+        mask.Rows.pop_back();
+    }
+    if (!mask.Rows.empty()) {
+        mask.Rows.push_back(static_cast<std::uint32_t>(mask.Spans.size()));
+    }
+    mask.Rows.shrink_to_fit();
+    mask.Spans.shrink_to_fit();
     mask.Cover.shrink_to_fit();
     return mask;
-}
-
-/// Runs whose pixels are asked for before they are needed: each scan line lies far from the last.
-constexpr std::size_t RunsAhead = 10;
-
-void Prefetch(const PixelBuffer& target, QPoint place, const RunMask::Run& run) {
-    const int x = std::clamp(place.x() + run.X, 0, target.Width - 1);
-    const int y = std::clamp(place.y() + run.Y, 0, target.Height - 1);
-    __builtin_prefetch(target.Row(y) + x, 1);
 }
 
 /// How far marks and waves may reach to the side of a line: less than a square.
@@ -158,77 +169,46 @@ std::uint64_t KeyOf(QPoint span, int style) {
 
 } // namespace
 
-void BlendRuns(const PixelBuffer& target, QPoint place, const RunMask& mask, QRgb colour) {
-    if (target.Width <= 0 || target.Height <= 0) {
-        return;
-    }
-    const std::uint8_t* cover = mask.Cover.data();
-    for (std::size_t i = 0; i < mask.Runs.size(); ++i) {
-        Prefetch(target, place, mask.Runs[std::min(i + RunsAhead, mask.Runs.size() - 1)]);
-        const RunMask::Run& run = mask.Runs[i];
-        const std::uint8_t* ownCover = cover;
-        cover += run.Solid ? 0 : run.Count;
-        const int y = place.y() + run.Y;
-        if (y < 0 || y >= target.Height) {
-            continue;
-        }
-        const int x = place.x() + run.X;
-        const int from = std::max(0, -x);
-        const int to = std::min<int>(run.Count, target.Width - x);
-        QRgb* pixels = target.Row(y) + x;
-        if (run.Solid) {
-            std::fill(pixels + std::min(from, to), pixels + to, colour);
-            continue;
-        }
-        for (int j = from; j < to; ++j) {
-            BlendPixel(pixels[j], colour, ownCover[j]);
-        }
-    }
+void LineMasks::Clear() {
+    m_masks.clear();
+    m_bytes = 0;
 }
 
 void LineMasks::TakeLook(const LinePen& pen, bool antialias) {
-    if (pen.Width == m_width && pen.SquareWidth == m_squareWidth &&
-        pen.SquareHeight == m_squareHeight && antialias == m_antialias) {
+    if (pen.Width == m_look.Width && pen.SquareWidth == m_look.SquareWidth &&
+        pen.SquareHeight == m_look.SquareHeight && antialias == m_antialias && m_margin > 0) {
         return;
     }
-    m_masks.clear();
-    m_bytes = 0;
-    m_width = pen.Width;
-    m_squareWidth = pen.SquareWidth;
-    m_squareHeight = pen.SquareHeight;
+    Clear();
+    m_look = pen;
+    m_look.Ground = UnderInk;
+    m_look.Floss = OverInk;
+    m_margin = MarginOf(pen);
     m_antialias = antialias;
 }
 
-const LineMask* LineMasks::Find(QPoint span, const LinePen& pen, bool antialias) {
-    const int margin = MarginOf(pen);
-    const std::int64_t width = std::int64_t{span.x()} + 2 * margin + 1;
-    const std::int64_t height = std::abs(std::int64_t{span.y()}) + 2 * margin + 1;
+const LineMask* LineMasks::Find(QPoint span, int style) {
+    const std::int64_t width = std::int64_t{span.x()} + 2 * m_margin + 1;
+    const std::int64_t height = std::abs(std::int64_t{span.y()}) + 2 * m_margin + 1;
     if (std::max(width, height) > LongestSide || width * height > LargestArea) {
         return nullptr;
     }
-    TakeLook(pen, antialias);
-    const std::uint64_t key = KeyOf(span, pen.Style);
+    const std::uint64_t key = KeyOf(span, style);
     if (const auto found = m_masks.find(key); found != m_masks.end()) {
         return &found->second;
     }
-    return &Make(key, span, {static_cast<int>(width), static_cast<int>(height)}, pen);
+    return &Make(key, span, {static_cast<int>(width), static_cast<int>(height)}, style);
 }
 
-const LineMask& LineMasks::Make(std::uint64_t key, QPoint span, const QSize& size,
-                                const LinePen& pen) {
-    if (m_bytes > Budget) {
-        m_masks.clear();
-        m_bytes = 0;
-    }
-    LinePen inks = pen;
-    inks.Ground = UnderInk;
-    inks.Floss = OverInk;
+const LineMask& LineMasks::Make(std::uint64_t key, QPoint span, const QSize& size, int style) {
+    LinePen inks = m_look;
+    inks.Style = style;
     // Coordinates stay positive: what marks are cut to does not depend on where a line lies.
-    const int margin = MarginOf(pen);
-    const QPoint begin(margin, margin + std::max(0, -span.y()));
+    const QPoint begin(m_margin, m_margin + std::max(0, -span.y()));
     CoverCanvas canvas(size.width(), size.height(), m_antialias);
     canvas.Line(begin, begin + span, inks);
-    LineMask mask{canvas.Runs(UnderInk, begin), canvas.Runs(OverInk, begin)};
+    canvas.DropHidden();
+    LineMask mask{canvas.Spans(UnderInk, begin), canvas.Spans(OverInk, begin)};
     m_bytes += mask.Under.Bytes() + mask.Over.Bytes() + sizeof(LineMask);
     return m_masks.emplace(key, std::move(mask)).first->second;
 }

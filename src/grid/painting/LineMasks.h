@@ -15,52 +15,68 @@
 
 namespace zol {
 
-/// How much of each pixel something long and thin covers: runs of pixels along scan lines, which
-/// leave out what is bare. Places count from the pixel where the line begins.
-struct RunMask {
-    struct Run {
+/// How much of each pixel something long and thin covers: spans along scan lines, which leave out
+/// what is bare. Places count from the pixel where the line begins.
+struct SpanMask {
+    /// Pixels side by side: some at an edge, some covered wholly, some at the other edge.
+    struct Span {
         std::int16_t X = 0;
-        std::int16_t Y = 0;
-        std::uint16_t Count = 0;
-        bool Solid = false; ///< covers its pixels wholly
+        std::uint16_t Lead = 0;
+        std::uint16_t Solid = 0;
+        std::uint16_t Trail = 0;
+        std::uint32_t Cover = 0; ///< where the cover of Lead and Trail begins
     };
-    std::vector<Run> Runs;           ///< from top to bottom
-    std::vector<std::uint8_t> Cover; ///< of the runs that are not solid, one after the other
+    int Top = 0;                     ///< of the first scan line
+    std::vector<std::uint32_t> Rows; ///< the first span of each scan line, and one past the last
+    std::vector<Span> Spans;
+    std::vector<std::uint8_t> Cover;
 
-    [[nodiscard]] std::size_t Bytes() const { return Runs.size() * sizeof(Run) + Cover.size(); }
+    [[nodiscard]] int Height() const {
+        return Rows.empty() ? 0 : static_cast<int>(Rows.size()) - 1;
+    }
+    [[nodiscard]] std::size_t Bytes() const {
+        return Rows.size() * sizeof(std::uint32_t) + Spans.size() * sizeof(Span) + Cover.size();
+    }
 };
 
-/// Mixes a colour into pixels by a mask that begins at `place`; what falls outside is cut.
-void BlendRuns(const PixelBuffer& target, QPoint place, const RunMask& mask, QRgb colour);
+/// Mixes a colour into the scan lines `top` to `bottom` by a mask that begins at `place`; what
+/// falls outside is cut.
+void BlendSpans(const PixelBuffer& target, int top, int bottom, QPoint place, const SpanMask& mask,
+                QRgb colour);
 
 /// A line in its style: what hides the ground, and the line on top of it.
 struct LineMask {
-    RunMask Under;
-    RunMask Over;
+    SpanMask Under;
+    SpanMask Over;
 };
 
 /// Lines of a pattern as masks, each made once and blended wherever such a line lies, in whatever
 /// colour. Lines repeat a few spans, and a view is painted over and over.
 class LineMasks {
 public:
-    /// The mask of a line from (0, 0) to `span`, which leads to the right or straight up or down;
-    /// null for a line too large to keep. Good until the next call.
-    [[nodiscard]] const LineMask* Find(QPoint span, const LinePen& pen, bool antialias);
+    /// To be called before lines are looked up: forgets all when lines now look different.
+    void TakeLook(const LinePen& pen, bool antialias);
+    /// How far lines may reach to their sides, in pixels.
+    [[nodiscard]] int Margin() const { return m_margin; }
+    /// Whether they hold as much memory as they may. Clear() makes room.
+    [[nodiscard]] bool IsFull() const { return m_bytes > Budget; }
+    void Clear();
+
+    /// The mask of a line in a style from (0, 0) to `span`, which leads to the right or straight up
+    /// or down; null for a line too large to keep. Good until Clear().
+    [[nodiscard]] const LineMask* Find(QPoint span, int style);
 
 private:
     /// Memory that the masks may hold.
     static constexpr std::size_t Budget = std::size_t{48} << 20U;
 
-    /// Forgets all when lines now look different.
-    void TakeLook(const LinePen& pen, bool antialias);
     [[nodiscard]] const LineMask& Make(std::uint64_t key, QPoint span, const QSize& size,
-                                       const LinePen& pen);
+                                       int style);
 
     std::unordered_map<std::uint64_t, LineMask> m_masks;
     std::size_t m_bytes = 0;
-    int m_width = 0;
-    double m_squareWidth = 0;
-    double m_squareHeight = 0;
+    LinePen m_look; ///< its width and squares are those of all lines
+    int m_margin = 0;
     bool m_antialias = true;
 };
 

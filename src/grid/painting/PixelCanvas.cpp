@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
+#include <utility>
 
 #include "grid/painting/Capsule.h"
 #include "grid/painting/LineMasks.h"
@@ -22,6 +24,19 @@ int PiecesOf(const std::array<QPointF, 4>& p) {
     const double length =
         QLineF(p[0], p[1]).length() + QLineF(p[1], p[2]).length() + QLineF(p[2], p[3]).length();
     return std::clamp(static_cast<int>(length / pixelsEach), 2, 12);
+}
+
+/// The first and last scan line of a mask; nothing if the first lies behind the last.
+std::pair<int, int> RowsOf(const LineMask& mask) {
+    int top = std::numeric_limits<int>::max() / 4;
+    int bottom = -top;
+    for (const SpanMask* part : {&mask.Under, &mask.Over}) {
+        if (part->Height() > 0) {
+            top = std::min(top, part->Top);
+            bottom = std::max(bottom, part->Top + part->Height() - 1);
+        }
+    }
+    return {top, bottom};
 }
 
 } // namespace
@@ -42,14 +57,52 @@ void PixelCanvas::Line(QPoint start, QPoint end, const LinePen& pen) {
     if (start.x() > end.x()) {
         std::swap(start, end);
     }
-    const LineMask* mask = m_masks.Find(end - start, pen, m_antialias);
+    m_masks.TakeLook(pen, m_antialias);
+    const QPoint margin(m_masks.Margin(), m_masks.Margin());
+    const QPoint upper(start.x(), std::min(start.y(), end.y()));
+    const QPoint lower(end.x(), std::max(start.y(), end.y()));
+    if (!QRect(upper - margin, lower + margin).intersects(Visible())) {
+        return;
+    }
+    if (m_masks.IsFull()) {
+        Flush();
+        m_masks.Clear();
+    }
+    const LineMask* mask = m_masks.Find(end - start, pen.Style);
     if (mask == nullptr) {
+        Flush(); // what lies beneath it
         LineCanvas::Line(start, end, pen);
         return;
     }
-    const QPoint place = start - m_origin;
-    BlendRuns(m_target, place, mask->Under, ToRgb(pen.Ground));
-    BlendRuns(m_target, place, mask->Over, ToRgb(pen.Floss));
+    m_placed.push_back({start - m_origin, mask, pen.Ground, pen.Floss});
+}
+
+void PixelCanvas::Flush() {
+    if (m_placed.empty() || m_target.Width <= 0 || m_target.Height <= 0) {
+        return;
+    }
+    const int rows = std::max(8, BandBytes / (m_target.Width * static_cast<int>(sizeof(QRgb))));
+    const int last = (m_target.Height - 1) / rows;
+    std::vector<std::vector<std::uint32_t>> bands(static_cast<std::size_t>(last) + 1);
+    for (std::size_t i = 0; i < m_placed.size(); ++i) {
+        const auto [top, bottom] = RowsOf(*m_placed[i].Mask);
+        const int from = std::max(0, m_placed[i].Place.y() + top);
+        const int to = std::min(m_target.Height - 1, m_placed[i].Place.y() + bottom);
+        for (int band = from / rows; band <= to / rows && from <= to; ++band) {
+            bands[static_cast<std::size_t>(band)].push_back(static_cast<std::uint32_t>(i));
+        }
+    }
+    for (int band = 0; band <= last; ++band) {
+        const int top = band * rows;
+        for (const std::uint32_t i : bands[static_cast<std::size_t>(band)]) {
+            const Placed& line = m_placed[i];
+            BlendSpans(m_target, top, top + rows - 1, line.Place, line.Mask->Under,
+                       ToRgb(line.Ground));
+            BlendSpans(m_target, top, top + rows - 1, line.Place, line.Mask->Over,
+                       ToRgb(line.Floss));
+        }
+    }
+    m_placed.clear();
 }
 
 void PixelCanvas::Piece(const QLine& line, int width, Colour colour) {

@@ -16,6 +16,7 @@ class QPainter;
 namespace zol {
 
 class LineMasks;
+struct LineMask;
 
 /// How a backstitch line is drawn, in device pixels.
 struct LinePen {
@@ -60,7 +61,8 @@ private:
     QPainter& m_painter;
 };
 
-/// Draws straight into pixels, where most lines are many small pieces.
+/// Draws straight into pixels. Lines are collected and painted by Flush(), a band of the image at a
+/// time, so that its pixels stay in the cache however many lines cross it.
 class PixelCanvas : public LineCanvas {
 public:
     /// `origin` is the place of the buffer's first pixel on the device.
@@ -75,8 +77,21 @@ public:
     void Wave(const std::vector<QPoint>& points, int width, Colour colour) override;
     [[nodiscard]] QRect Visible() const override;
     [[nodiscard]] bool Clips() const override { return true; }
+    /// To be called after the last line.
+    void Flush();
 
 private:
+    /// Bytes of the pixels that a band holds.
+    static constexpr int BandBytes = 256 * 1024;
+
+    /// A line whose mask is known, where it lies in the target.
+    struct Placed {
+        QPoint Place;
+        const LineMask* Mask;
+        Colour Ground;
+        Colour Floss;
+    };
+
     void CoverCurve(const std::vector<QPointF>& curve, int width, Colour colour);
 
     PixelBuffer m_target;
@@ -84,6 +99,7 @@ private:
     LineMasks& m_masks;
     bool m_antialias;
     PixelMask m_scratch;
+    std::vector<Placed> m_placed;
 };
 
 /// LineCanvas::Line on a QPainter.
