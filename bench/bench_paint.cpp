@@ -10,6 +10,8 @@
 #include <QImage>
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <random>
 
 #include "Ratio.h"
@@ -31,29 +33,53 @@ zol::Pattern& Scene() {
     return *scene;
 }
 
-/// The scene with so many lines instead of its own, all of them within the first `columns` and
-/// `rows`, up to ten squares long, in all six styles.
-zol::Pattern& SceneWithLines(int count, int columns, int rows) {
+/// What lines a pattern is given.
+enum LineSort : std::uint8_t {
+    Outlines = 0, ///< from corner to corner, one to five squares: half along a row, a column or a
+                  ///< diagonal, half at any slope
+    AnyLines = 1, ///< up to ten squares each way between any regions
+};
+
+zol::BackStitchLine AnyLine(std::mt19937& random, LineSort sort, int columns, int rows) {
+    const auto roll = [&random](int from, int to) {
+        return static_cast<std::int16_t>(
+            from + static_cast<int>(random() % static_cast<unsigned>(to - from + 1)));
+    };
+    const auto region = [&] {
+        constexpr std::array<std::int16_t, 4> corners{1, 3, 7, 9};
+        return sort == AnyLines ? roll(1, 9) : corners[static_cast<std::size_t>(roll(0, 3))];
+    };
+    zol::BackStitchLine line;
+    line.StartX = roll(1, columns);
+    line.StartY = roll(1, rows);
+    line.StartPos = region();
+    int across = sort == AnyLines ? roll(-10, 10) : roll(-3, 3);
+    int down = sort == AnyLines ? roll(-10, 10) : roll(-3, 3);
+    line.EndPos = region();
+    if (sort == Outlines && roll(0, 1) == 0) {
+        const int length = roll(1, 5);
+        const int way = roll(0, 3);
+        across = way == 0 ? 0 : length;
+        down = way == 1 ? 0 : way == 2 ? -length : length;
+        line.EndPos = line.StartPos;
+    }
+    line.EndX = static_cast<std::int16_t>(std::clamp(line.StartX + across, 1, columns));
+    line.EndY = static_cast<std::int16_t>(std::clamp(line.StartY + down, 1, rows));
+    line.PaletteIndex = static_cast<std::uint8_t>(roll(1, 200));
+    line.LineStyle = static_cast<std::uint8_t>(roll(0, 5));
+    return line;
+}
+
+/// The scene with so many lines instead of its own, in all six styles, all of them within the first
+/// `columns` and `rows`.
+zol::Pattern& SceneWithLines(int count, int columns, int rows, LineSort sort = AnyLines) {
     zol::Pattern& pattern = Scene();
     while (pattern.GetBackStitchCount() > 0) {
         pattern.RemoveBackStitchLine(pattern.GetBackStitchCount());
     }
     std::mt19937 random(20240602);
-    const auto roll = [&random](int from, int to) {
-        return static_cast<std::int16_t>(
-            from + static_cast<int>(random() % static_cast<unsigned>(to - from + 1)));
-    };
     while (pattern.GetBackStitchCount() < count) {
-        zol::BackStitchLine line;
-        line.StartX = roll(1, columns);
-        line.StartY = roll(1, rows);
-        line.StartPos = roll(1, 9);
-        line.EndX = static_cast<std::int16_t>(std::clamp(line.StartX + roll(-10, 10), 1, columns));
-        line.EndY = static_cast<std::int16_t>(std::clamp(line.StartY + roll(-10, 10), 1, rows));
-        line.EndPos = roll(1, 9);
-        line.PaletteIndex = static_cast<std::uint8_t>(roll(1, 200));
-        line.LineStyle = static_cast<std::uint8_t>(roll(0, 5));
-        pattern.SetBackstitchLine(line);
+        pattern.SetBackstitchLine(AnyLine(random, sort, columns, rows));
     }
     return pattern;
 }
@@ -91,12 +117,14 @@ void PaintView(benchmark::State& state) {
         .Measure([&] { Fill(image, ++colour); }, paint);
 }
 
-/// Pixels a square, lines in the view: what the window shows of a design with many lines.
+/// Pixels a square, lines in the view, their sort: what the window shows of a design with many
+/// lines.
 void PaintLines(benchmark::State& state) {
     const int pixels = static_cast<int>(state.range(0));
     const int lines = static_cast<int>(state.range(1));
     const zol::Pattern& pattern =
-        SceneWithLines(lines, std::min(999, Width / pixels), std::min(999, Height / pixels));
+        SceneWithLines(lines, std::min(999, Width / pixels), std::min(999, Height / pixels),
+                       static_cast<LineSort>(state.range(2)));
     const zol::GridView view = ViewOf(pattern, zol::ShowColorSquares, pixels);
     zol::GridPainter painter;
     QImage image(Width, Height, QImage::Format_RGB32);
@@ -187,8 +215,8 @@ BENCHMARK(PaintView)
     ->Apply(zol::AsRatio);
 
 BENCHMARK(PaintLines)
-    ->ArgNames({"pixels", "lines"})
-    ->ArgsProduct({{2, 5, 10, 20}, {2000, 3000, 4000, 10000}})
+    ->ArgNames({"pixels", "lines", "sort"})
+    ->ArgsProduct({{2, 5, 10, 20, 40}, {2000, 3000, 4000, 10000}, {Outlines, AnyLines}})
     ->Apply(zol::AsRatio);
 BENCHMARK(PaintStroke)
     ->ArgNames({"pixels", "lines"})
