@@ -4,14 +4,13 @@
 #include "app/basMain.h"
 
 #include <QApplication>
-#include <QPainter>
 #include <QScreen>
 #include <QSplashScreen>
 
+#include "app/Splash.h"
 #include "files/CommandLineFile.h"
 #include "grid/windows/frmDesignGrid.h"
 #include "model/SafeFile.h"
-#include "windowkit/IconFamily.h"
 
 namespace zol {
 
@@ -60,28 +59,8 @@ bool basMain::Start() {
 }
 
 void basMain::ShowSplash() {
-    constexpr QSize size(440, 200);
     const double ratio = QGuiApplication::primaryScreen()->devicePixelRatio();
-    QPixmap picture(size * ratio);
-    picture.setDevicePixelRatio(ratio);
-    picture.fill(QColor(0xF6, 0xF1, 0xE7));
-    QPainter painter(&picture);
-    const QPixmap sign = IconFamily::ProgramIcon().pixmap(QSize(112, 112), ratio);
-    painter.drawPixmap(QPointF(36, 44), sign);
-    painter.setPen(QColor(0x3A, 0x34, 0x2E));
-    QFont font = QApplication::font();
-    font.setPixelSize(38);
-    font.setWeight(QFont::DemiBold);
-    painter.setFont(font);
-    painter.drawText(QRect(176, 58, 250, 50), Qt::AlignLeft | Qt::AlignVCenter,
-                     QStringLiteral("Korvanta"));
-    font.setPixelSize(14);
-    font.setWeight(QFont::Normal);
-    painter.setFont(font);
-    painter.drawText(QRect(178, 108, 250, 24), Qt::AlignLeft | Qt::AlignVCenter,
-                     QStringLiteral("Counted cross-stitch design"));
-    painter.end();
-    m_splash = std::make_unique<QSplashScreen>(picture);
+    m_splash = std::make_unique<QSplashScreen>(Splash::Picture(QApplication::palette(), ratio));
     m_splash->show();
 }
 

@@ -27,13 +27,6 @@ QByteArray Bytes(const QString& name) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// `share` of the way from one colour to another.
-QColor Between(const QColor& from, const QColor& to, double share) {
-    const auto mixed = [share](int a, int b) { return qRound(a + (b - a) * share); };
-    return {mixed(from.red(), to.red()), mixed(from.green(), to.green()),
-            mixed(from.blue(), to.blue())};
-}
-
 /// The drawings say the tones as these colours. A tone may become another's name, so all three
 /// are replaced in one pass over places that cannot be met twice.
 QByteArray Coloured(QByteArray drawing, const Tones& tones) {
@@ -68,15 +61,15 @@ Tones TonesOf(const QPalette& palette, QIcon::Mode mode) {
     if (mode == QIcon::Selected) {
         const QColor text = palette.color(QPalette::Active, QPalette::HighlightedText);
         const QColor ground = palette.color(QPalette::Active, QPalette::Highlight);
-        return {text, text, Between(text, ground, 0.4)};
+        return {text, text, Theme::Mix(text, ground, 0.4)};
     }
     const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
     const QColor ground = palette.color(QPalette::Active, QPalette::Window);
     if (mode == QIcon::Disabled) {
-        const QColor faded = Between(text, ground, 0.62);
-        return {faded, faded, Between(text, ground, 0.78)};
+        const QColor faded = Theme::Mix(text, ground, 0.62);
+        return {faded, faded, Theme::Mix(text, ground, 0.78)};
     }
-    return {text, Theme::Accent(palette), Between(text, ground, 0.45)};
+    return {text, Theme::Accent(palette), Theme::Mix(text, ground, 0.45)};
 }
 
 QIcon Icon(const QString& name) {

@@ -11,6 +11,7 @@
 #include <QEvent>
 
 #include "windowkit/IconStyle.h"
+#include "windowkit/QuietStyle.h"
 
 namespace zol::Theme {
 
@@ -26,6 +27,9 @@ constexpr Shades LightShades{0xFFF0EFED, 0xFF26282B, 0xFFFBFAF8, 0xFFF4F2EF, 0xF
                              0xFF9C9C9D, 0xFF66686C, 0xFF2E3033, 0xFFF2F0ED};
 constexpr Shades DarkShades{0xFF2B2C2E, 0xFFE4E3E0, 0xFF232426, 0xFF292A2C, 0xFF363739,
                             0xFF7C7D7F, 0xFFA6A7A8, 0xFF3D3E41, 0xFFF0EFEC};
+
+constexpr QColor LightAccent(0xB2, 0x3A, 0x48);
+constexpr QColor DarkAccent(0xE0, 0x7A, 0x86);
 
 /// Light that a colour gives off, from 0 to 1, as the eye weighs red, green and blue.
 double Luminance(const QColor& color) {
@@ -97,7 +101,11 @@ bool IsDark(const QPalette& palette) {
 }
 
 QColor Accent(const QPalette& palette) {
-    return IsDark(palette) ? QColor(0xE0, 0x7A, 0x86) : QColor(0xB2, 0x3A, 0x48);
+    return IsDark(palette) ? DarkAccent : LightAccent;
+}
+
+QColor AccentOn(const QColor& ground) {
+    return Contrast(LightAccent, ground) >= Contrast(DarkAccent, ground) ? LightAccent : DarkAccent;
 }
 
 QColor Desk(const QPalette& palette) {
@@ -112,6 +120,12 @@ double Contrast(const QColor& one, const QColor& other) {
     const double first = Luminance(one) + 0.05;
     const double second = Luminance(other) + 0.05;
     return std::max(first, second) / std::min(first, second);
+}
+
+QColor Mix(const QColor& from, const QColor& to, double share) {
+    const auto mixed = [share](int a, int b) { return qRound(a + (b - a) * share); };
+    return {mixed(from.red(), to.red()), mixed(from.green(), to.green()),
+            mixed(from.blue(), to.blue())};
 }
 
 QPalette Palette(Look look) {
@@ -139,7 +153,7 @@ void Apply(QApplication& application) {
     if (wanted || IsFallback(style)) {
         // Judged before Fusion, which may bring a palette of its own, is set.
         const Look system = IsDark(QApplication::palette()) ? Look::Dark : Look::Light;
-        QApplication::setStyle(IconStyle::Over(QStringLiteral("fusion")));
+        QApplication::setStyle(QuietStyle::OverFusion());
         QApplication::setPalette(Palette(wanted.value_or(system)));
     } else {
         QApplication::setStyle(IconStyle::Over(style));

@@ -33,7 +33,8 @@ QStringList Wanted() {
                "install-library knot-horizontal knot-normal knot-ul-diagonal knot-ur-diagonal "
                "knot-vertical korvanta library-add library-add-box library-install library-maint "
                "line-dash line-delete line-dots line-plus line-squiggle line-straight line-tracks "
-               "load-palette mirror-horizontal mirror-none mirror-vertical options page-setup "
+               "load-palette mirror-horizontal mirror-none mirror-vertical more-down more-right "
+               "options page-setup "
                "paint "
                "paint-once palette palette-left palette-right paste-from pattern-info "
                "print-preview "
@@ -41,7 +42,8 @@ QStringList Wanted() {
                "status-bar stitch-bth stitch-custom stitch-fknot stitch-ll3q stitch-llq "
                "stitch-lr3q "
                "stitch-lrq stitch-s3q stitch-sq stitch-tbh stitch-ul3q stitch-ulq stitch-ur3q "
-               "stitch-urq stitch-whole stitched-fonts tips toolbar view-pattern zoom zoom-in "
+               "stitch-urq stitch-whole stitched-fonts tips toolbar view-pattern warning zoom "
+               "zoom-in "
                "zoom-out zoom-previous zoom-setting zoom-tool")
         .split(QLatin1Char(' '));
 }

@@ -90,6 +90,16 @@ private Q_SLOTS:
         QVERIFY(Theme::Contrast(selected.Text, palette.color(QPalette::Highlight)) >= Readable);
     }
 
+    void TheAccentCanBeSeenOnAnyCloth() {
+        for (int grey = 0; grey < 256; grey += 5) {
+            const QColor cloth(grey, grey, grey);
+            QVERIFY(Theme::Contrast(Theme::AccentOn(cloth), cloth) >= 1.3);
+        }
+        for (const auto& cloth : {QColor(Qt::white), QColor(0xF5, 0xEE, 0xDC), QColor(Qt::black)}) {
+            QVERIFY(Theme::Contrast(Theme::AccentOn(cloth), cloth) >= Visible);
+        }
+    }
+
     void NothingIsPureBlackOrWhiteOutsideTheChart_data() { AddRowPerLook(); }
     void NothingIsPureBlackOrWhiteOutsideTheChart() {
         QFETCH(int, look);

@@ -165,6 +165,8 @@ VIEW = {
         box(0, 1, 11, 9), stroke("M0 5H11"), *[block(x, 2.5, 1, 1, ACCENT) for x in (1.5, 3.5, 5.5)],
     ],
     "status-bar": [box(0, 1, 11, 9), stroke("M0 6H11"), block(1.5, 7.5, 4, 1, ACCENT)],
+    "more-right": [stroke("M1 1L5 5.5L1 10M6 1L10 5.5L6 10")],
+    "more-down": [stroke("M1 1L5.5 5L10 1M1 6L5.5 10L10 6")],
     "refresh": [
         stroke("M10.5 5A5 5 0 0 0 1.2 3M1 0V3H4M0.5 6A5 5 0 0 0 9.8 8M10 11V8H7"),
     ],
@@ -196,6 +198,7 @@ HELP = {
     ],
     "about": [ROUND, disc(5, 2.2, 0.8, ACCENT), stroke("M4 4.5H5V8M4 8H6", ACCENT)],
     "cancel": [ROUND, times(5, 5, 2, ACCENT)],
+    "warning": [stroke("M5 0L10.5 10H-0.5Z"), stroke("M5 3.4V6", ACCENT), disc(5, 8, 0.75, ACCENT)],
 }
 
 ICONS = {**EDIT, **TOOLS, **VIEW, **HELP}

@@ -21,7 +21,7 @@ namespace {
 constexpr int LeastSide = 40;
 constexpr int LargestSide = 64;
 constexpr int Gap = 8;
-constexpr int TextCharacters = 24;
+constexpr int TextCharacters = 30;
 
 } // namespace
 

@@ -71,6 +71,8 @@ void GridArea::MakeParts(GridPainter& painter) {
     for (QScrollBar* bar : {m_across, m_down}) {
         bar->setRange(1, 1);
         bar->setEnabled(false);
+        // The desk lies beneath them, so that a bar without a way to go is not seen.
+        bar->setAttribute(Qt::WA_OpaquePaintEvent, false);
     }
     m_rulerAcross = new QWidget(this);
     m_rulerAcross->setObjectName(QStringLiteral("picHRuler"));

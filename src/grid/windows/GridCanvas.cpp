@@ -159,7 +159,11 @@ void GridCanvas::SetOverlay(const Overlay& overlay) {
 
 OverlayPainter GridCanvas::OverlayOf(const Overlay& overlay) const {
     OverlayStyle style;
-    style.Accent = Theme::Accent(palette());
+    // It lies on the cloth, whatever the window's colours are.
+    const QColor cloth(ToRgb(m_options.ClothColor));
+    style.Accent = Theme::AccentOn(cloth);
+    style.Casing = Theme::Contrast(Qt::white, style.Accent) >= 3 ? QColor(Qt::white)
+                                                                 : QColor(0x1B, 0x1B, 0x1C);
     style.LineWidth = GetBackStitchPenWidth(View());
     return {overlay, m_geometry, style};
 }

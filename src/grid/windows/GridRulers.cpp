@@ -11,17 +11,13 @@
 
 #include "model/Rounding.h"
 #include "windowkit/DevicePixels.h"
+#include "windowkit/Theme.h"
 
 namespace zol {
 
 namespace {
 
 constexpr double TwipsPerPixel = 15;
-
-QColor Blend(const QColor& a, const QColor& b, double part) {
-    const auto mix = [part](int x, int y) { return RoundToInt(x + (y - x) * part); };
-    return {mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())};
-}
 
 } // namespace
 
@@ -69,7 +65,7 @@ private:
         const int first = (m_across ? pixels.left() : pixels.top()) - 4 * m_depth;
         const int last = m_across ? pixels.right() : pixels.bottom();
         const int count = m_ruler.m_scale.Inches ? 16 : 10;
-        const QColor color = Blend(m_ground, m_text, 0.6);
+        const QColor color = Theme::Mix(m_ground, m_text, 0.6);
         const int from = std::max(0, TruncToInt(first * perPixel / step) - 1);
         const int to =
             std::min(m_ruler.m_lengthTwips / step, TruncToInt(last * perPixel / step) + 1);
@@ -111,6 +107,9 @@ private:
         const QPoint corner =
             m_across ? QPoint(along + gap + edge, edge) : QPoint(edge, along + gap + edge);
         const QRect box(corner, QSize(metrics.horizontalAdvance(text), digits.height()));
+        if ((m_across ? box.right() : box.bottom()) >= ToPixels(m_ruler.m_lengthTwips)) {
+            return; // half a number behind the end of the cloth tells nothing
+        }
         m_painter.fillRect(box.adjusted(0, 0, edge, edge), m_ground);
         m_painter.setPen(m_text);
         m_painter.drawText(corner - QPoint(0, digits.top()), text);
