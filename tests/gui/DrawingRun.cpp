@@ -26,8 +26,11 @@ int main(int argc, char** argv) {
     if (words.size() > 2) {
         program.User.files = {words[2]};
         program.Choose("mnuFileSave");
-        now += std::chrono::minutes(11);
+        program.Tool("DRAWMODE_LINES");
+        program.DragOver({{2, 5}, {9, 8}});
+        program.Tool("DRAWMODE_STITCHES");
         program.Tool("STITCH_FKNOT");
+        now += std::chrono::minutes(11);
         program.ClickIn(4, 6, 0.1, 0.1);
     }
     zol::test::WriteText(home / "design.bytes", zol::test::BytesOf(program.Parts().Open.Get()));
