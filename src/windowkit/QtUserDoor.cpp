@@ -5,9 +5,11 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <memory>
 #include <system_error>
 
 #include "model/SafeFile.h"
@@ -91,6 +93,15 @@ struct BoxContent {
     QString Title;
 };
 
+/// A box is as wide as its message, which would break the paths in the text below into many lines.
+void LeaveRoomToRead(QMessageBox& box) {
+    constexpr int width = 420;
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+        auto room = std::make_unique<QSpacerItem>(width, 0);
+        grid->addItem(room.release(), grid->rowCount(), 0, 1, grid->columnCount());
+    }
+}
+
 MessageAnswer ShowBox(QWidget* parent, const BoxContent& content) {
     const NormalCursor cursor;
     QMessageBox box(IconOf(content.Icon),
@@ -110,6 +121,9 @@ MessageAnswer ShowBox(QWidget* parent, const BoxContent& content) {
         break;
     default:
         box.setEscapeButton(QMessageBox::Ok);
+    }
+    if (!content.More.isEmpty()) {
+        LeaveRoomToRead(box);
     }
     SetModality(box);
     return AnswerOf(box.exec());

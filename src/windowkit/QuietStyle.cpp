@@ -146,7 +146,10 @@ void QuietStyle::DrawScrollBar(const QStyleOptionSlider& bar, QPainter& painter,
     };
     const bool across = bar.orientation == Qt::Horizontal;
     const auto arrow = [&](SubControl which, PrimitiveElement element) {
-        QStyleOption drawn(bar);
+        QStyleOption drawn;
+        drawn.state = bar.state;
+        drawn.palette = bar.palette;
+        drawn.direction = bar.direction;
         drawn.rect = part(which).adjusted(3, 3, -3, -3);
         proxy()->drawPrimitive(element, &drawn, &painter, widget);
     };

@@ -76,6 +76,7 @@ struct Seen {
     QString Focused;
     Qt::WindowModality Modality = Qt::NonModal;
     QWidget* Parent = nullptr;
+    int Width = 0;
 };
 
 Seen See(const QDialog& dialog) {
@@ -88,7 +89,8 @@ Seen See(const QDialog& dialog) {
             box.defaultButton() != nullptr ? box.defaultButton()->text().remove(QLatin1Char('&'))
                                            : QString(),
             box.windowModality(),
-            box.parentWidget()};
+            box.parentWidget(),
+            box.width()};
 }
 
 DialogDriver::Step Click(QMessageBox::StandardButton button, Seen* seen = nullptr) {
@@ -178,6 +180,7 @@ void test_QtUserDoor::TellsWithIconTitleAndMore() {
     QVERIFY(driver.AllDone());
     QCOMPARE(seen.Text, QStringLiteral("error saving pattern: 61"));
     QCOMPARE(seen.More, QStringLiteral("Your work is still open."));
+    QVERIFY(seen.Width >= 420); // room for a path
     QCOMPARE(seen.Title, QStringLiteral("Saving"));
     QCOMPARE(seen.Icon, QMessageBox::Warning);
     QCOMPARE(seen.Buttons, QMessageBox::StandardButtons(QMessageBox::Ok));
