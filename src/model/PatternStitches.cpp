@@ -3,6 +3,8 @@
 
 #include "model/Pattern.h"
 
+#include <array>
+
 namespace zol {
 
 namespace {
@@ -208,6 +210,44 @@ void Pattern::DeletePrimary(int x, int y) {
     DeleteOneKind(x, y, Cell(x, y).StitchType);
 }
 
+namespace {
+
+/// Which points of a square and of the eight round it have knots. Squares share the points on their
+/// edges, so asking for each square by itself would look most of them up twice or four times.
+struct KnotMap {
+    static constexpr int Side = 7;
+    std::array<bool, std::size_t{Side} * Side> Has{};
+
+    [[nodiscard]] static constexpr std::size_t At(int i, int j) {
+        return static_cast<std::size_t>(j * Side + i);
+    }
+    /// Squares count from 0, from the upper left of the nine.
+    [[nodiscard]] bool TouchSquare(int dx, int dy) const {
+        for (int point = 0; point < 9; ++point) {
+            if (Has[At(2 * dx + point % 3, 2 * dy + point / 3)]) {
+                return true;
+            }
+        }
+        return false;
+    }
+};
+
+/// Round a square that has no knots left itself; `corner` is its upper left point.
+KnotMap KnotsRound(const KeyedTable<FrenchKnot>& table, const LatticePos& corner) {
+    KnotMap knots;
+    for (int j = 0; j < KnotMap::Side; ++j) {
+        for (int i = 0; i < KnotMap::Side; ++i) {
+            const bool own = i >= 2 && i <= 4 && j >= 2 && j <= 4;
+            knots.Has[KnotMap::At(i, j)] =
+                !own && table.Find(KeyedTable<FrenchKnot>::KeyOf(corner.LY - 2 + j,
+                                                                 corner.LX - 2 + i)) != nullptr;
+        }
+    }
+    return knots;
+}
+
+} // namespace
+
 void Pattern::DeleteAll(int x, int y) {
     StitchCell& cell = CellRef(x, y);
     cell.StitchType = NoStitch;
@@ -219,14 +259,18 @@ void Pattern::DeleteAll(int x, int y) {
     if (m_frenchKnots.IsEmpty()) {
         return;
     }
+    const LatticePos corner = LatticeOf(x, y, 1);
     for (int position = 1; position <= 9; ++position) {
         const LatticePos point = LatticeOf(x, y, position);
         m_frenchKnots.Remove(KeyedTable<FrenchKnot>::KeyOf(point.LY, point.LX));
     }
-    for (int nearX = x - 1; nearX <= x + 1; ++nearX) {
-        for (int nearY = y - 1; nearY <= y + 1; ++nearY) {
-            if (IsInGrid(nearX, nearY)) {
-                RefreshKnotFlag(nearX, nearY);
+    const KnotMap knots = KnotsRound(m_frenchKnots, corner);
+    for (int dx = 0; dx < 3; ++dx) {
+        for (int dy = 0; dy < 3; ++dy) {
+            if (IsInGrid(x - 1 + dx, y - 1 + dy)) {
+                std::uint8_t& flags = CellRef(x - 1 + dx, y - 1 + dy).CellFlags;
+                flags = static_cast<std::uint8_t>(knots.TouchSquare(dx, dy) ? flags | CellHasKnot
+                                                                            : flags & 253);
             }
         }
     }
