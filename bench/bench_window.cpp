@@ -9,6 +9,7 @@
 #include <QImage>
 
 #include <algorithm>
+#include <cstring>
 
 #include "Ratio.h"
 #include "Scene.h"
@@ -103,6 +104,25 @@ void ScrollOneSquare(benchmark::State& state) {
     });
 }
 
+/// What the system's own part of such a scroll is: the view's pixels are moved by a square, all but
+/// the strip that comes in. Nothing that shows one window's pixels can be faster.
+void MoveOneSquare(benchmark::State& state) {
+    QImage view(Width, Height, QImage::Format_RGB32);
+    view.fill(Qt::white);
+    Floor floor;
+    constexpr int square = 20;
+    int turn = 0;
+    zol::Ratio(state, 0).Measure(floor, [&] {
+        turn = 1 - turn;
+        for (int y = 0; y < Height; ++y) {
+            auto* line = reinterpret_cast<QRgb*>(view.scanLine(y));
+            const int from = turn == 0 ? 0 : square;
+            const int to = square - from;
+            std::memmove(line + to, line + from, (Width - square) * sizeof(QRgb));
+        }
+    });
+}
+
 /// A move of the pointer that sets 20 squares and their 20 mirror images.
 void StrokeMove(benchmark::State& state) {
     Window window(20);
@@ -132,6 +152,7 @@ BENCHMARK(RepaintWindow)
     ->Arg(40)
     ->Apply(zol::AsRatio);
 BENCHMARK(ScrollOneSquare)->Apply(zol::AsRatio);
+BENCHMARK(MoveOneSquare)->Apply(zol::AsRatio);
 BENCHMARK(StrokeMove)->Apply(zol::AsRatio);
 
 int main(int argc, char** argv) {
