@@ -3,9 +3,37 @@
 
 #include "app/Arguments.h"
 
+#include <algorithm>
+#include <array>
+#include <string_view>
+
 #include "model/SafeFile.h"
 
 namespace zol {
+
+namespace {
+
+/// Options of the window system that come with one dash or two; most have a word behind them.
+constexpr std::array<std::string_view, 20> WindowSystemOptions{
+    "platform",        "platformpluginpath",
+    "platformtheme",   "plugin",
+    "qwindowgeometry", "qwindowicon",
+    "qwindowtitle",    "reverse",
+    "session",         "display",
+    "style",           "stylesheet",
+    "widgetcount",     "icon",
+    "fontengine",      "nograb",
+    "dograb",          "sync",
+    "title",           "geometry",
+};
+
+bool IsForWindowSystem(const std::string& option) {
+    const std::string name = option.substr(2, option.find('=') - 2);
+    return std::find(WindowSystemOptions.begin(), WindowSystemOptions.end(), name) !=
+           WindowSystemOptions.end();
+}
+
+} // namespace
 
 Arguments ReadArguments(const std::vector<std::string>& words) {
     Arguments arguments;
@@ -20,7 +48,7 @@ Arguments ReadArguments(const std::vector<std::string>& words) {
             arguments.WantsHelp = true;
         } else if (word == "--version") {
             arguments.WantsVersion = true;
-        } else if (word.starts_with("--")) {
+        } else if (word.starts_with("--") && !IsForWindowSystem(word)) {
             arguments.Fault = "there is no option " + word;
         } else {
             arguments.CommandLine += (arguments.CommandLine.empty() ? "" : " ") + word;

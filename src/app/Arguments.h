@@ -19,7 +19,8 @@ struct Arguments {
     std::string Fault; ///< what cannot be understood; empty if all is well
 };
 
-/// Reads the arguments behind the program's name.
+/// Reads the arguments behind the program's name. Those of the window system, which takes them
+/// away when it starts, are no fault.
 [[nodiscard]] Arguments ReadArguments(const std::vector<std::string>& words);
 [[nodiscard]] std::string HelpText();
 

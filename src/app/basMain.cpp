@@ -4,6 +4,7 @@
 #include "app/basMain.h"
 
 #include <QApplication>
+#include <QProcess>
 #include <QScreen>
 #include <QSplashScreen>
 
@@ -33,11 +34,21 @@ bool basMain::Start() {
     Step([this] { m_program.LoadOptions(); });
     Step([this] { m_program.LoadRecentFiles(); });
     const bool wantsViewer = CommandLineText::WantsPatternViewer(m_commandLine);
-    Step([this] { ShowSplash(); });
+    if (!wantsViewer) {
+        Step([this] { ShowSplash(); });
+    }
     m_program.Context().ColorDepth = QGuiApplication::primaryScreen()->depth();
     Step([this] { m_program.CreatePattern(); });
     Step([this] { m_window = std::make_unique<frmDesignGrid>(m_program.GetWorkshop()); });
-    if (wantsViewer && EndForPatternViewer()) {
+    if (wantsViewer) {
+        RunPatternViewer();
+        End();
+        return false;
+    }
+    if (m_window == nullptr) {
+        // What stood in the way has been told; without its window there is no program.
+        m_exitCode = 1;
+        End();
         return false;
     }
     Step([this] {
@@ -64,15 +75,15 @@ void basMain::ShowSplash() {
     m_splash->show();
 }
 
-bool basMain::EndForPatternViewer() {
-    // The viewer is a program of its own in the program's folder.
-    const auto viewer = m_program.Context().AppPath / "PatternViewer";
-    m_splash.reset();
-    if (m_window->RunPatternViewer(viewer)) {
-        return true;
+void basMain::RunPatternViewer() {
+    const std::string viewer = PathText(m_program.Context().AppPath / "PatternViewer");
+    if (QProcess::startDetached(QString::fromStdString(viewer), {})) {
+        return;
     }
     m_exitCode = 1;
-    return true;
+    m_program.Doors().Messages.TellMore("The pattern viewer cannot be started.",
+                                        viewer + " is not there or is no program that can be run.",
+                                        MessageIcon::Stop, frmDesignGrid::ProgramTitle);
 }
 
 void basMain::OpenWhatWasAskedFor() {

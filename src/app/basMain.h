@@ -36,7 +36,8 @@ private:
     void Step(const std::function<void()>& work);
     void ShowSplash();
     void OpenWhatWasAskedFor();
-    [[nodiscard]] bool EndForPatternViewer();
+    /// The viewer is a program of its own; this run ends with its start.
+    void RunPatternViewer();
 
     std::string m_commandLine;
     Program m_program;

@@ -76,7 +76,7 @@ DesignOpener& FileCommands::OpenerOf(const std::string& fileName) const {
 
 void FileCommands::PutOnGrid(std::unique_ptr<OpenDesign> design) {
     m_desk.Open.Put(std::move(design));
-    m_desk.UndoSteps.ClearUndo();
+    m_desk.UndoSteps.WatchOpenDesign();
     m_desk.UndoSteps.RefreshSnapshot();
     m_desk.View.ShowDesign();
     m_desk.View.SetWindowTitle(m_desk.Open.Get().WindowTitle());

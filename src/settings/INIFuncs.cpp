@@ -5,6 +5,8 @@
 
 #include <QSettings>
 
+#include <utility>
+
 #include "model/CodePage.h"
 #include "model/SafeFile.h"
 
@@ -67,7 +69,9 @@ void INIFuncs::WriteSetting(const std::string& section, const std::string& name,
                             const std::string& value) {
     m_store->setValue(FindKey(section, name), QString::fromStdString(value));
     m_store->sync();
-    if (m_store->status() != QSettings::NoError && m_messages != nullptr) {
+    const bool failed = m_store->status() != QSettings::NoError;
+    // Closing the window alone writes nine values, and they would all fail alike.
+    if (failed && m_messages != nullptr && !std::exchange(m_failureTold, true)) {
         m_messages->Tell("Error " + std::to_string(static_cast<int>(m_store->status())),
                          MessageIcon::Exclamation, {});
     }

@@ -34,7 +34,8 @@ public:
     /// the default as it stands if there is none.
     [[nodiscard]] std::string ReadSetting(const std::string& section, const std::string& name,
                                           const std::string& defaultValue) const override;
-    /// Tells "Error " and the code if the store cannot be opened, and tries to write all the same.
+    /// Tells "Error " and the code if the store cannot be opened, once in a run, and tries to
+    /// write all the same.
     void WriteSetting(const std::string& section, const std::string& name,
                       const std::string& value) override;
 
@@ -43,6 +44,7 @@ private:
 
     std::unique_ptr<QSettings> m_store;
     MessageDoor* m_messages;
+    bool m_failureTold = false;
 };
 
 } // namespace zol

@@ -15,10 +15,14 @@ NumericFilter::NumericFilter(QLineEdit* field, int maxBefore, int maxAfter)
       m_maxBefore(maxBefore),
       m_maxAfter(maxAfter) {
     field->installEventFilter(this);
+    // The field of a box gets its keys from the box, past any filter of its own.
+    if (QWidget* box = field->focusProxy()) {
+        box->installEventFilter(this);
+    }
 }
 
 bool NumericFilter::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != m_field) {
+    if (watched != m_field && watched != m_field->focusProxy()) {
         return false;
     }
     if (event->type() == QEvent::InputMethod) {

@@ -12,7 +12,7 @@ class QLineEdit;
 namespace zol {
 
 /// Keeps a field to numbers: keys pass basCommonFunctions::FilterNumericKey before the field sees
-/// them. Enter is left to the window. Belongs to its field.
+/// them. Enter is left to the window. The field may be that of a combo box. Belongs to its field.
 class NumericFilter : public QObject {
     Q_OBJECT
 

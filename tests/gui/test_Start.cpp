@@ -22,6 +22,9 @@ private Q_SLOTS:
     void MissingFileIsTold();
     void DamagedFileLeavesTheFreshPattern();
     void PatternViewerEndsTheRunWithOne();
+    void PatternViewerIsStartedAndEndsTheRun();
+    void StartsWithoutItsFolders();
+    void FileNameWithBlanksAndRelative();
     void ShowsSmartButtonsInPlaceOfTheFixedOnes();
 
 private:
@@ -156,6 +159,52 @@ void StartTest::PatternViewerEndsTheRunWithOne() {
     QVERIFY(!program.Start());
     QCOMPARE(program.ExitCode(), 1);
     QCOMPARE(program.User.told.size(), std::size_t{1});
+    QVERIFY(program.User.told[0].icon == MessageIcon::Stop);
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+        QVERIFY2(!window->isVisible(), "no window is left");
+    }
+    QVERIFY(CountFiles(home / "state") <= 1);
+}
+
+void StartTest::PatternViewerIsStartedAndEndsTheRun() {
+    const ProgramHome home;
+    const auto viewer = home / "app" / "PatternViewer";
+    WriteText(viewer, "#!/bin/sh\ntouch \"$0.ran\"\n");
+    std::filesystem::permissions(viewer, std::filesystem::perms::owner_all);
+    RunningProgram program(home, "-PATTERNVIEWER");
+    QVERIFY(!program.Start());
+    QCOMPARE(program.ExitCode(), 0);
+    QVERIFY(program.User.told.empty());
+    QTRY_VERIFY(std::filesystem::exists(home / "app" / "PatternViewer.ran"));
+}
+
+void StartTest::StartsWithoutItsFolders() {
+    const ProgramHome home;
+    std::filesystem::remove_all(home / "app");
+    RunningProgram program(home);
+    QVERIFY(program.Start());
+    QCOMPARE(program.Window().windowTitle(), QStringLiteral("Korvanta - Unsaved Pattern"));
+    QVERIFY(program.Design().GetPalette().GetEntriesCount() > 0);
+    program.ClickSquare(4, 4);
+    QCOMPARE(program.Design().GetStitchCount(4, 4), 1);
+    program.End();
+}
+
+void StartTest::FileNameWithBlanksAndRelative() {
+    const ProgramHome home;
+    const auto folder = home / "my work";
+    std::filesystem::create_directory(folder);
+    std::filesystem::copy(home / "app" / "Patterns" / "robin.pat", folder / "red robin.pat");
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(folder);
+    RunningProgram program(home, ReadArguments({"red", "robin.pat"}).CommandLine);
+    const bool started = program.Start();
+    std::filesystem::current_path(before);
+    QVERIFY(started);
+    QCOMPARE(program.Design().Title, std::string("Winter Robin"));
+    QCOMPARE(program.Window().windowTitle(),
+             QStringLiteral("Korvanta - ") +
+                 QString::fromStdString((folder / "red robin.pat").string()));
     program.End();
 }
 

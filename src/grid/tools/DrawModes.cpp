@@ -106,14 +106,40 @@ void DrawModes::SetCurrentColor(int index) {
         return;
     }
     m_desk.With.CurrentPaletteIndex = index;
-    m_desk.View.ShowFloss(palette.GetFlossLongDesc(index));
+    RememberFloss();
+    m_desk.View.ShowFloss(m_floss.Description);
     m_listener.CurrentColorChanged();
 }
 
 void DrawModes::PaletteChanged() {
-    if (m_desk.With.CurrentPaletteIndex > m_desk.Design().GetPalette().GetEntriesCount()) {
-        SetCurrentColor(1);
+    const int found = FindFloss();
+    if (found != m_desk.With.CurrentPaletteIndex) {
+        SetCurrentColor(found);
     }
+    RememberFloss();
+}
+
+void DrawModes::RememberFloss() {
+    const Palette& palette = m_desk.Design().GetPalette();
+    const int index = m_desk.With.CurrentPaletteIndex;
+    m_floss = {index, palette.GetEntriesCount(), palette.GetFlossLongDesc(index)};
+}
+
+int DrawModes::FindFloss() const {
+    const Palette& palette = m_desk.Design().GetPalette();
+    const int index = m_desk.With.CurrentPaletteIndex;
+    const int count = palette.GetEntriesCount();
+    const bool isThere = index >= 1 && index <= count;
+    if (isThere &&
+        (index != m_floss.Index || palette.GetFlossLongDesc(index) == m_floss.Description)) {
+        return index;
+    }
+    for (int other = 1; other <= count; ++other) {
+        if (palette.GetFlossLongDesc(other) == m_floss.Description) {
+            return other;
+        }
+    }
+    return isThere && count == m_floss.Count ? index : 1;
 }
 
 bool DrawModes::PaintErases() const {

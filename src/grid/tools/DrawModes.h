@@ -4,6 +4,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include "grid/tools/Tool.h"
 #include "grid/tools/ToolDesk.h"
@@ -56,7 +57,8 @@ public:
     /// painting ends; without painting this does nothing.
     void SetPaintErases(bool on);
     [[nodiscard]] bool PaintErases() const;
-    /// After a change of the palette, or another design: a floss that is gone gives way to 1.
+    /// After a change of the palette, or another design: the current floss is found where it is
+    /// now, and one that is gone gives way to 1. One that was exchanged in its place stays current.
     void PaletteChanged();
 
     /// A mode that is on is turned off.
@@ -80,6 +82,8 @@ private:
     [[nodiscard]] Tool* ToolOf(DrawMode mode) const;
     [[nodiscard]] Tool& Current() const { return *ToolOf(m_mode); }
     [[nodiscard]] bool HasSquares() const;
+    void RememberFloss();
+    [[nodiscard]] int FindFloss() const;
     void ShowStatus(int column, int row);
 
     ToolDesk m_desk;
@@ -87,6 +91,14 @@ private:
     DrawMode m_mode = DrawStitches;
     DrawMode m_lastMode = DrawStitches;
     DrawMode m_baseMode = DrawStitches;
+    /// The floss that was current when the palette was last looked at.
+    struct KnownFloss {
+        int Index = 0;
+        int Count = 0; ///< of the palette then
+        std::string Description;
+    };
+
+    KnownFloss m_floss;
     bool m_mirrorHolds = false; ///< the right button is down and was the mirror's
     std::unique_ptr<Tool> m_stitches;
     std::unique_ptr<BackstitchTool> m_lines;

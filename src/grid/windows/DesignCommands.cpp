@@ -3,22 +3,36 @@
 
 #include "grid/windows/DesignCommands.h"
 
+#include <QMenu>
+
 #include <utility>
 
 #include "grid/tools/Undo.h"
 #include "grid/windows/MainCommands.h"
+#include "grid/windows/MainMenus.h"
 #include "model/Pattern.h"
 
 namespace zol {
 
-DesignCommands::DesignCommands(MainCommands& commands, DesignHolder& open, Undo& steps,
-                               std::function<void()> changed)
-    : m_open(open),
+DesignCommands::DesignCommands(MainCommands& commands, MainMenus& menus, DesignHolder& open,
+                               Undo& steps, Followers followers)
+    : m_commands(commands),
+      m_menus(menus),
+      m_open(open),
       m_steps(steps),
-      m_changed(std::move(changed)) {
-    const auto connect = [&commands](const char* name, auto run) {
-        commands.Connect(name, &commands.At(name), run);
+      m_followers(std::move(followers)) {
+    ConnectCommands();
+    for (const char* menu : {"mnuEdit", "mnuTools", "mnuLibs"}) {
+        QMenu& shown = m_menus.At(menu);
+        QObject::connect(&shown, &QMenu::aboutToShow, &shown, [this] { RefreshEnabling(); });
+    }
+}
+
+void DesignCommands::ConnectCommands() {
+    const auto connect = [this](const char* name, auto run) {
+        m_commands.Connect(name, &m_commands.At(name), run);
     };
+    connect("mnuEditUndo", [this] { TakeBack(); });
     connect("mnuCenterVertical",
             [this] { Run("Center", [](Pattern& design) { design.Center(0); }); });
     connect("mnuCenterHorizontal",
@@ -31,14 +45,50 @@ DesignCommands::DesignCommands(MainCommands& commands, DesignHolder& open, Undo&
     });
 }
 
+void DesignCommands::EnableForNewDesign() {
+    for (const char* menu : {"mnuEditFlip", "mnuEditRotate"}) {
+        m_menus.At(menu).setEnabled(false);
+    }
+    m_commands.SetEnabled({"mnuEditCut", "mnuEditCopy", "mnuEditPaste", "mnuEditErase",
+                           "mnuEditCopyTo", "mnuLibAddEditBox"},
+                          false);
+    for (const char* menu : {"mnuOptions", "mnuTools", "mnuLibs"}) {
+        m_menus.At(menu).setEnabled(true);
+    }
+    m_commands.SetEnabled({"mnuImport", "mnuExport", "mnuFileSave", "mnuFileSaveAs", "mnuText",
+                           "mnuOptionsPalette", "mnuPaintMode", "mnuEraseMode", "mnuLibGetPattern",
+                           "mnuViewGridLines"},
+                          true);
+    RefreshEnabling();
+}
+
+void DesignCommands::RefreshEnabling() {
+    const std::string label = m_steps.GetUndoLabel();
+    m_commands.SetEnabled({"mnuEditUndo"}, !label.empty());
+    m_commands.At("mnuEditUndo")
+        .setText(label.empty() ? QStringLiteral("Undo")
+                               : QStringLiteral("Undo ") + QString::fromStdString(label));
+    const bool hasSquares = m_open.Design().IsInGrid(1, 1);
+    m_commands.SetEnabled({"mnuCenterVertical", "mnuCenterHorizontal", "mnuCenterBoth",
+                           "mnuToolsShrink", "mnuClearPalette", "mnuLibsAdd"},
+                          hasSquares);
+}
+
 void DesignCommands::Run(const std::string& label, const std::function<void(Pattern&)>& work) {
+    m_followers.EndTool();
     Pattern& design = m_open.Design();
     {
         const UndoStep step(m_steps, UndoKind::Snapshot, label);
         work(design);
         design.SetChanged(true);
     }
-    m_changed();
+    m_followers.Changed();
+}
+
+void DesignCommands::TakeBack() {
+    // A chain of lines goes on from where it was.
+    m_steps.PerformUndo();
+    m_followers.Undone();
 }
 
 } // namespace zol

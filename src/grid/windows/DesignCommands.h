@@ -10,23 +10,39 @@ namespace zol {
 
 class DesignHolder;
 class MainCommands;
+class MainMenus;
 class Pattern;
 class Undo;
 
-/// The commands that rearrange the whole design: centering, cropping, clearing the palette. Each
-/// is one undo step.
+/// The commands on the whole design: centering, cropping, clearing the palette, each one undo
+/// step, and undo itself. Says what can be done with the design that stands open.
 class DesignCommands {
 public:
-    /// `changed` runs after a command has changed the design.
-    DesignCommands(MainCommands& commands, DesignHolder& open, Undo& steps,
-                   std::function<void()> changed);
+    /// What the window does about a command.
+    struct Followers {
+        std::function<void()> EndTool; ///< before: a line or frame under way is let go
+        std::function<void()> Changed; ///< after a command has changed the design everywhere
+        std::function<void()> Undone;  ///< what an undo did not repaint itself: sizes, overlay
+    };
+
+    DesignCommands(MainCommands& commands, MainMenus& menus, DesignHolder& open, Undo& steps,
+                   Followers followers);
+
+    /// Another design stands open: nothing is selected in it, and it can be drawn and saved.
+    void EnableForNewDesign();
+    /// What can be done now. The menus ask for it when they open.
+    void RefreshEnabling();
 
 private:
+    void ConnectCommands();
     void Run(const std::string& label, const std::function<void(Pattern&)>& work);
+    void TakeBack();
 
+    MainCommands& m_commands;
+    MainMenus& m_menus;
     DesignHolder& m_open;
     Undo& m_steps;
-    std::function<void()> m_changed;
+    Followers m_followers;
 };
 
 } // namespace zol

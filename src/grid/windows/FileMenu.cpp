@@ -44,7 +44,7 @@ void FileMenu::ShowRecent(const std::vector<std::string>& paths) {
             // A path's own ampersand is no mnemonic.
             QString path = QString::fromStdString(paths[index]);
             path.replace(QLatin1Char('&'), QLatin1String("&&"));
-            entry->setText(QStringLiteral("&%1 %2").arg(index + 1).arg(path));
+            entry->setText(path);
         }
         entry->setVisible(isThere);
         ++index;

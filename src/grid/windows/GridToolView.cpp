@@ -34,11 +34,25 @@ void GridToolView::SetBusy(bool busy) {
 }
 
 void GridToolView::ShowPlace(const std::string& text) {
+    m_showsPlace = true;
     m_status.ShowNote(QString::fromStdString(text));
 }
 
 void GridToolView::ShowFloss(const std::string& text) {
     m_status.ShowFloss(QString::fromStdString(text));
+}
+
+void GridToolView::ShowSummary(const std::string& text) {
+    m_showsPlace = false;
+    m_status.ShowNote(QString::fromStdString(text));
+}
+
+void GridToolView::PointerLeft() {
+    if (m_showsPlace) {
+        m_showsPlace = false;
+        m_status.ShowNote({});
+    }
+    m_status.ShowFloss({});
 }
 
 void GridToolView::ZoomToFrame(const SquareRect& frame) {

@@ -38,10 +38,15 @@ public:
     void OpenLineMenu(int lineStyle) override { m_followers.OpenLineMenu(lineStyle); }
     void DropFloating() override { m_followers.DropFloating(); }
 
+    /// What a file holds that was opened; it stands until the pointer has moved over the cloth.
+    void ShowSummary(const std::string& text);
+    void PointerLeft();
+
 private:
     GridArea& m_area;
     StatusLine& m_status;
     Followers m_followers;
+    bool m_showsPlace = false; ///< the first panel is the pointer's
 };
 
 /// The hourglass over the whole program; calls nest.

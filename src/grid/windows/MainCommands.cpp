@@ -8,6 +8,7 @@
 
 #include <cstdlib>
 
+#include "model/ProgramContext.h"
 #include "windowkit/IconFamily.h"
 
 namespace zol {
@@ -18,20 +19,20 @@ constexpr MainCommand Table[] = {
     // clang-format off
     {"mnuFileNew", "&New", "Begin a new pattern", "Ctrl+N", "file-new", false, true},
     {"mnuFileOpen", "&Open...", "Open a pattern file", "Ctrl+O", "file-open", false, true},
-    {"mnuFileBrowse", "&Browse Patterns...", "Look through pattern files as pictures", "", "file-browse", false, false},
-    {"mnuImport", "&Import Picture...", "Turn a picture into stitches", "Ctrl+I", "import", false, false},
-    {"mnuExport", "&Export...", "Give out the pattern as a picture or a document", "Ctrl+E", "export", false, false},
+    {"mnuFileBrowse", "&Browse Patterns...", "Look through pattern files as pictures", "", "file-browse", false, true},
+    {"mnuImport", "&Import Picture...", "Turn a picture into stitches", "Ctrl+I", "import", false, true},
+    {"mnuExport", "&Export...", "Give out the pattern as a picture or a document", "Ctrl+E", "export", false, true},
     {"mnuFileSave", "&Save", "Save the pattern to its file", "Ctrl+S", "file-save", false, true},
     {"mnuFileSaveAs", "Save &As...", "Save the pattern under another name", "Ctrl+Shift+S", "", false, true},
-    {"mnuFilePageSetup", "Page Set&up...", "Choose how the chart is printed", "", "page-setup", false, false},
-    {"mnuFilePrintPreview", "&Print...", "See the chart's pages and print them", "Ctrl+P", "file-print", false, false},
-    {"mnuPrintColorKey", "Print &Color Key...", "Print the key of flosses and symbols alone", "", "color-key", false, false},
+    {"mnuFilePageSetup", "Page Set&up...", "Choose how the chart is printed", "", "page-setup", false, true},
+    {"mnuFilePrintPreview", "&Print...", "See the chart's pages and print them", "Ctrl+P", "file-print", false, true},
+    {"mnuPrintColorKey", "Print &Color Key...", "Print the key of flosses and symbols alone", "", "color-key", false, true},
     {"mnuFileExit", "E&xit", "Leave the program", "Ctrl+Q", "exit", false, true},
-    {"mnuEditUndo", "Undo", "Take the last step back", "Ctrl+Z", "edit-undo", false, true},
+    {"mnuEditUndo", "Undo", "Take the last step back", "Ctrl+Z", "edit-undo", false, false},
     {"mnuEditCut", "Cu&t", "Move the edit box's content to the clipboard", "Ctrl+X", "edit-cut", false, false},
     {"mnuEditCopy", "&Copy", "Copy the edit box's content to the clipboard", "Ctrl+C", "edit-copy", false, false},
     {"mnuEditPaste", "&Paste", "Put the clipboard's content onto the grid", "Ctrl+V", "edit-paste", false, false},
-    {"mnuSelectAll", "Select &All", "Put the edit box round the whole design", "Ctrl+A", "select-all", false, false},
+    {"mnuSelectAll", "Select &All", "Put the edit box round the whole design", "Ctrl+A", "select-all", false, true},
     {"mnuFlipHorizontal", "&Horizontal", "Mirror the edit box's content left to right", "", "flip-horizontal", false, false},
     {"mnuFlipVertical", "&Vertical", "Mirror the edit box's content top to bottom", "", "flip-vertical", false, false},
     {"mnuRotate90", "&90 Degrees", "Turn the edit box's content a quarter to the right", "", "rotate-90", false, false},
@@ -39,12 +40,12 @@ constexpr MainCommand Table[] = {
     {"mnuRotate180", "&180 Degrees", "Turn the edit box's content upside down", "", "rotate-180", false, false},
     {"mnuEditErase", "&Erase", "Take away all stitches in the edit box", "Del", "erase-selection", false, false},
     {"mnuEditCopyTo", "Copy T&o File...", "Save the edit box's content as a pattern", "", "copy-to", false, false},
-    {"mnuEditPasteFrom", "Paste &From File...", "Put a pattern file onto the grid", "", "paste-from", false, false},
-    {"mnuOptionsFlexBackstitch", "Flexible &Backstitch", "Let lines end at corners, edges and centers of squares", "", "flex-backstitch", true, true},
-    {"mnuOptionsPalette", "&Palette...", "Choose the flosses of this pattern", "Ctrl+L", "palette", false, false},
-    {"mnuSaveDefaultpalette", "Save as &Default Palette", "Begin new patterns with these flosses", "", "default-palette", false, false},
-    {"mnuSavePalette", "&Save Palette As...", "Save the flosses to a file", "", "save-palette", false, false},
-    {"mnuLoadPalette", "&Load Palette...", "Take the flosses from a file", "", "load-palette", false, false},
+    {"mnuEditPasteFrom", "Paste &From File...", "Put a pattern file onto the grid", "", "paste-from", false, true},
+    {"mnuOptionsFlexBackstitch", "Flexible &Backstitch", "Let lines end at corners, edges and middles of squares", "", "flex-backstitch", true, true},
+    {"mnuOptionsPalette", "&Palette...", "Choose the flosses of this pattern", "Ctrl+L", "palette", false, true},
+    {"mnuSaveDefaultpalette", "Save as &Default Palette", "Begin new patterns with these flosses", "", "default-palette", false, true},
+    {"mnuSavePalette", "&Save Palette As...", "Save the flosses to a file", "", "save-palette", false, true},
+    {"mnuLoadPalette", "&Load Palette...", "Take the flosses from a file", "", "load-palette", false, true},
     {"mnuDrawModeStitches", "&Stitches", "Draw stitches", "F2", "draw-stitches", true, true},
     {"mnuDrawModeLines", "Backstitch &Lines", "Draw and change backstitch lines", "F3", "draw-lines", true, true},
     {"mnuDrawModeEditBox", "&Edit Box", "Select squares to move, copy and turn", "F4", "draw-editbox", true, false},
@@ -68,7 +69,7 @@ constexpr MainCommand Table[] = {
     {"mnuFK2", "Upper &Left Diagonal", "Set knots that lean to the upper left", "", "knot-ul-diagonal", true, true},
     {"mnuFK3", "&Vertical Oval", "Set knots that stand upright", "", "knot-vertical", true, true},
     {"mnuFK4", "Upper &Right Diagonal", "Set knots that lean to the upper right", "", "knot-ur-diagonal", true, true},
-    {"mnuViewPattern", "View &Pattern...", "See the design as it looks when stitched", "", "view-pattern", false, false},
+    {"mnuViewPattern", "View &Pattern...", "See the design as it looks when stitched", "", "view-pattern", false, true},
     {"mnuViewToolbar", "&Toolbar", "Show the row of commands", "", "toolbar", true, true},
     {"mnuStitchToolbar", "&Stitch Toolbar", "Show the column of stitches", "", "toolbar", true, true},
     {"mnuViewRulers", "&Rulers", "Show the rulers along the cloth", "", "rulers", true, true},
@@ -76,7 +77,7 @@ constexpr MainCommand Table[] = {
     {"mnuViewGridLines", "&Grid Lines", "Show the lines between squares", "Ctrl+G", "grid-lines", true, true},
     {"mnuZoom", "&Zoom...", "Choose how large the squares are", "", "zoom", false, true},
     {"mnuViewRefresh", "Re&fresh", "Paint the design anew", "F5", "refresh", false, true},
-    {"mnuViewOptions", "&Options...", "Change how the program works and looks", "", "options", false, false},
+    {"mnuViewOptions", "&Options...", "Change how the program works and looks", "", "options", false, true},
     {"mnuStitchColorSquares", "Coloured Squares", "Show each stitch as a shape in its floss's color", "", "display-color-squares", true, true},
     {"mnuStitchBlackSymbols", "&Black && White Symbols", "Show each stitch as its symbol in black", "", "display-black-symbols", true, true},
     {"mnuStitchColorSymbols", "Coloured Symbols", "Show each stitch as its symbol in its floss's color", "", "display-color-symbols", true, true},
@@ -94,36 +95,73 @@ constexpr MainCommand Table[] = {
     {"mnuClearPalette", "&Clear Unused Palette Colors", "Take flosses without stitches out of the palette", "", "clear-palette", false, true},
     {"mnuEraseMode", "&Erase Mode", "Take stitches or lines away", "E", "erase", true, true},
     {"mnuColorPicker", "Color Pic&ker", "Take the floss of a stitch as the current one", "I", "color-picker", true, true},
-    {"mnuToolsFlossUsage", "Floss &Usage...", "See how much of each floss the design takes", "Ctrl+U", "floss-usage", false, false},
-    {"mnuAddRows", "&Add Rows or Columns...", "Make the cloth larger", "", "add-rows", false, false},
-    {"mnuDelRows", "&Delete Rows or Columns...", "Make the cloth smaller", "", "delete-rows", false, false},
+    {"mnuToolsFlossUsage", "Floss &Usage...", "See how much of each floss the design takes", "Ctrl+U", "floss-usage", false, true},
+    {"mnuAddRows", "&Add Rows or Columns...", "Make the cloth larger", "", "add-rows", false, true},
+    {"mnuDelRows", "&Delete Rows or Columns...", "Make the cloth smaller", "", "delete-rows", false, true},
     {"mnuToolsShrink", "&Crop Design Area", "Cut the cloth down to the design", "", "shrink", false, true},
-    {"mnuInstallLibrary", "Install &Library...", "Add a pattern library to the program", "", "install-library", false, false},
-    {"mnuInstallFont", "Install &Font...", "Add a stitched font to the program", "", "install-font", false, false},
-    {"mnuText", "&Text...", "Write with stitches", "Ctrl+T", "draw-text", false, false},
-    {"mnuStitchedFonts", "Stitched Fo&nts...", "Draw the letters of stitched fonts", "", "stitched-fonts", false, false},
-    {"mnuInsertLibraryPat", "&Insert Library Pattern...", "Put a pattern of a library onto the grid", "", "insert-library", false, false},
-    {"mnuCustomStitchSelect", "Select C&ustom Stitch...", "Choose the custom stitch to draw with", "", "stitch-custom", false, false},
-    {"mnuCustomStitches", "Custo&m Stitches...", "Draw stitches of your own shape", "", "custom-stitches", false, false},
-    {"mnuPatternInfo", "Pattern &Properties...", "Title, designer, cloth and size of this pattern", "Alt+Return", "pattern-info", false, false},
-    {"mnuLibGetPattern", "&Get Pattern...", "Put a pattern of a library onto the grid", "", "insert-library", false, false},
-    {"mnuLibsAdd", "&Add Pattern...", "Put this pattern into a library", "", "library-add", false, false},
+    {"mnuInstallLibrary", "Install &Library...", "Add a pattern library to the program", "", "install-library", false, true},
+    {"mnuInstallFont", "Install &Font...", "Add a stitched font to the program", "", "install-font", false, true},
+    {"mnuText", "&Text...", "Write with stitches", "Ctrl+T", "draw-text", false, true},
+    {"mnuStitchedFonts", "Stitched Fo&nts...", "Draw the letters of stitched fonts", "", "stitched-fonts", false, true},
+    {"mnuInsertLibraryPat", "&Insert Library Pattern...", "Put a pattern of a library onto the grid", "", "insert-library", false, true},
+    {"mnuCustomStitchSelect", "&Select Custom Stitch...", "Choose the custom stitch to draw with", "", "stitch-custom", false, true},
+    {"mnuCustomStitches", "Custom Stitc&hes...", "Draw stitches of your own shape", "", "custom-stitches", false, true},
+    {"mnuPatternInfo", "P&attern Properties...", "Title, designer, cloth and size of this pattern", "Alt+Return", "pattern-info", false, true},
+    {"mnuLibGetPattern", "&Get Pattern...", "Put a pattern of a library onto the grid", "", "insert-library", false, true},
+    {"mnuLibsAdd", "&Add Pattern...", "Put this pattern into a library", "", "library-add", false, true},
     {"mnuLibAddEditBox", "Add Edit &Box...", "Put the edit box's content into a library", "", "library-add-box", false, false},
-    {"mnuLibMaint", "&Maintain Libraries...", "Order, rename and delete libraries", "", "library-maint", false, false},
-    {"mnuLibInstall", "&Install Library...", "Add a pattern library to the program", "", "library-install", false, false},
-    {"mnuHelpContents", "&Contents", "Read how the program is used", "F1", "help", false, false},
-    {"mnuHelpSearch", "&Search...", "Look for a word in the help", "", "help-search", false, false},
-    {"mnuHelpUpdate", "Check for &Updates...", "See whether there is a newer version", "", "help-update", false, false},
-    {"mnuHelpTutorials", "&Tutorials", "Learn the program step by step", "", "help-tutorials", false, false},
-    {"mnuShowTips", "Ti&p of the Day...", "Read a short hint", "", "tips", false, false},
-    {"mnuHelpAbout", "&About Korvanta...", "Version and makers of the program", "", "about", false, false},    // Tool buttons that no menu shows.
+    {"mnuLibMaint", "&Maintain Libraries...", "Order, rename and delete libraries", "", "library-maint", false, true},
+    {"mnuLibInstall", "&Install Library...", "Add a pattern library to the program", "", "library-install", false, true},
+    {"mnuHelpContents", "&Contents", "Read how the program is used", "F1", "help", false, true},
+    {"mnuHelpSearch", "&Search...", "Look for a word in the help", "", "help-search", false, true},
+    {"mnuHelpUpdate", "Check for &Updates...", "See whether there is a newer version", "", "help-update", false, true},
+    {"mnuHelpTutorials", "&Tutorials", "Learn the program step by step", "", "help-tutorials", false, true},
+    {"mnuShowTips", "Ti&p of the Day...", "Read a short hint", "", "tips", false, true},
+    {"mnuHelpAbout", "&About Korvanta...", "Version and makers of the program", "", "about", false, true},
+    // Tool buttons that no menu shows.
     {"ZoomTool", "Zoom Tool", "Drag a frame round what you want to see larger", "Z", "zoom-tool", true, true},
-    {"ZoomIn", "Zoom In", "Make the squares larger", "Ctrl++", "zoom-in", false, true},
+    {"ZoomIn", "Zoom In", "Make the squares larger", "Ctrl++; Ctrl+=", "zoom-in", false, true},
     {"ZoomOut", "Zoom Out", "Make the squares smaller", "Ctrl+-", "zoom-out", false, true},
     {"ZoomPrevious", "Previous Zoom", "Go back to the size and place before", "Ctrl+0", "zoom-previous", false, true},
     {"ZoomSetting", "Zoom Steps", "Choose how large the squares are", "", "zoom-setting", false, true},
     // clang-format on
 };
+
+/// As it is spelled where the program runs.
+QString Spelled(const char* text, const ProgramContext& context) {
+    const QString color = QString::fromStdString(context.ColorWord());
+    QString words = QString::fromUtf8(text);
+    words.replace(QStringLiteral("Color"), color);
+    return words.replace(QStringLiteral("color"), color.toLower());
+}
+
+/// What a button shows that stands still under the pointer: its words and its key.
+QString ToolTipOf(const QAction& action) {
+    QString words = action.text().remove(QLatin1Char('&'));
+    if (words.endsWith(QLatin1String("..."))) {
+        words.chop(3);
+    }
+    const QString key = action.shortcut().toString(QKeySequence::NativeText);
+    return key.isEmpty() ? words : words + QStringLiteral(" (") + key + QLatin1Char(')');
+}
+
+QAction* MakeAction(const MainCommand& command, QWidget& owner, const ProgramContext& context) {
+    auto* action = new QAction(Spelled(command.Caption, context), &owner);
+    action->setObjectName(QLatin1String(command.Name));
+    action->setStatusTip(Spelled(command.StatusTip, context));
+    action->setCheckable(command.Checkable);
+    action->setEnabled(false);
+    action->setMenuRole(QAction::NoRole);
+    if (*command.Shortcut != '\0') {
+        action->setShortcuts(QKeySequence::listFromString(QLatin1String(command.Shortcut),
+                                                          QKeySequence::PortableText));
+    }
+    action->setToolTip(ToolTipOf(*action));
+    if (*command.Icon != '\0') {
+        action->setIcon(IconFamily::Icon(QLatin1String(command.Icon)));
+    }
+    return action;
+}
 
 } // namespace
 
@@ -131,37 +169,33 @@ std::span<const MainCommand> MainCommandTable() {
     return Table;
 }
 
-MainCommands::MainCommands(QWidget& owner) {
+MainCommands::MainCommands(QWidget& owner, const ProgramContext& context) {
     for (const MainCommand& command : Table) {
-        auto* action = new QAction(QString::fromUtf8(command.Caption), &owner);
-        action->setObjectName(QLatin1String(command.Name));
-        action->setStatusTip(QString::fromUtf8(command.StatusTip));
-        action->setCheckable(command.Checkable);
-        action->setEnabled(command.Enabled);
-        action->setMenuRole(QAction::NoRole);
-        if (*command.Shortcut != '\0') {
-            action->setShortcut(
-                QKeySequence(QLatin1String(command.Shortcut), QKeySequence::PortableText));
-        }
-        if (*command.Icon != '\0') {
-            action->setIcon(IconFamily::Icon(QLatin1String(command.Icon)));
-        }
+        QAction* action = MakeAction(command, owner, context);
         owner.addAction(action);
-        m_actions.emplace(command.Name, action);
+        m_entries.emplace(command.Name, Entry{action, command.Enabled, false});
     }
 }
 
 QAction& MainCommands::At(std::string_view name) const {
-    const auto found = m_actions.find(name);
-    if (found == m_actions.end()) {
+    const auto found = m_entries.find(name);
+    if (found == m_entries.end()) {
         std::abort();
     }
-    return *found->second;
+    return *found->second.Action;
+}
+
+void MainCommands::CarryOut(std::string_view name) {
+    Entry& entry = m_entries.at(name);
+    entry.IsCarriedOut = true;
+    entry.Action->setEnabled(entry.IsWanted);
 }
 
 void MainCommands::SetEnabled(std::initializer_list<std::string_view> names, bool enabled) {
     for (const std::string_view name : names) {
-        At(name).setEnabled(enabled);
+        Entry& entry = m_entries.at(name);
+        entry.IsWanted = enabled;
+        entry.Action->setEnabled(enabled && entry.IsCarriedOut);
     }
 }
 

@@ -23,6 +23,8 @@ namespace {
 struct ToolRow {
     std::string_view Key;
     const char* Command;
+    /// What stands before the caption where that says too little outside its menu.
+    const char* Group = "";
 };
 
 constexpr std::array Tools{
@@ -33,8 +35,8 @@ constexpr std::array Tools{
     ToolRow{"Cut", "mnuEditCut"},
     ToolRow{"Copy", "mnuEditCopy"},
     ToolRow{"Paste", "mnuEditPaste"},
-    ToolRow{"DRAWMODE_STITCHES", "mnuDrawModeStitches"},
-    ToolRow{"DRAWMODE_LINES", "mnuDrawModeLines"},
+    ToolRow{"DRAWMODE_STITCHES", "mnuDrawModeStitches", "Draw "},
+    ToolRow{"DRAWMODE_LINES", "mnuDrawModeLines", "Draw "},
     ToolRow{"DRAWMODE_EDITBOX", "mnuDrawModeEditBox"},
     ToolRow{"DRAWMODE_TEXT", "mnuText"},
     ToolRow{"GRIDLINES", "mnuViewGridLines"},
@@ -45,8 +47,8 @@ constexpr std::array Tools{
     ToolRow{"ZOOMTOOL3", "ZoomPrevious"},
     ToolRow{"ZOOMSETTING", "ZoomSetting"},
     ToolRow{"INSERT_LIBRARY", "mnuLibGetPattern"},
-    ToolRow{"MIRRORMODE_V", "mnuMirrorVertical"},
-    ToolRow{"MIRRORMODE_H", "mnuMirrorHorizontal"},
+    ToolRow{"MIRRORMODE_V", "mnuMirrorVertical", "Mirror Mode: "},
+    ToolRow{"MIRRORMODE_H", "mnuMirrorHorizontal", "Mirror Mode: "},
     ToolRow{"PAINT", "mnuPaintMode"},
     ToolRow{"COLORPICKER", "mnuColorPicker"},
     ToolRow{"ERASE", "mnuEraseMode"},
@@ -117,16 +119,19 @@ void MainToolBars::Fill(QToolBar& bar, const MainCommands& commands, std::string
             bar.addSeparator();
             continue;
         }
-        QAction& action = commands.At(RowOf(key).Command);
+        const ToolRow& row = RowOf(key);
+        QAction& action = commands.At(row.Command);
+        action.setToolTip(QLatin1String(row.Group) + action.toolTip());
         auto* button = new QToolButton(&bar);
         button->setDefaultAction(&action);
         button->setObjectName(NameOf(key));
         button->setAutoRaise(true);
         button->setFocusPolicy(Qt::TabFocus);
-        button->setAccessibleName(action.text().remove(QLatin1Char('&')));
+        button->setAccessibleName(QLatin1String(row.Group) +
+                                  action.text().remove(QLatin1Char('&')));
         button->setAccessibleDescription(action.statusTip());
-        m_places.emplace(RowOf(key).Key, bar.addWidget(button));
-        m_buttons.emplace(RowOf(key).Key, button);
+        m_places.emplace(row.Key, bar.addWidget(button));
+        m_buttons.emplace(row.Key, button);
         if (key == "ZOOMSETTING") {
             bar.addWidget(m_zoomBox)->setVisible(true);
         }

@@ -3,6 +3,7 @@
 
 #include "grid/windows/ZoomControl.h"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QLineEdit>
 
@@ -58,6 +59,7 @@ void ZoomControl::MakeBox(QWidget* parent) {
     // Filters see events in the reverse order: Enter comes here first.
     m_box->lineEdit()->installEventFilter(this);
     m_box->installEventFilter(this);
+    m_box->view()->installEventFilter(this);
     connect(m_box->lineEdit(), &QLineEdit::textEdited, this, [this] {
         m_scrollToRestore.reset();
         m_timer.start(TypingDelay);
@@ -176,19 +178,33 @@ bool ZoomControl::eventFilter(QObject* watched, QEvent* event) {
     if (!m_box) {
         return false;
     }
+    if (watched == m_box->view()) {
+        if (event->type() == QEvent::Hide) {
+            Q_EMIT BoxLeft();
+        }
+        return false;
+    }
     if (event->type() == QEvent::FocusOut && m_box->currentText() != NormalText()) {
         m_timer.start(StepDelay);
     }
-    if (event->type() != QEvent::KeyPress || watched != m_box->lineEdit()) {
+    return event->type() == QEvent::KeyPress && TakeKey(static_cast<QKeyEvent*>(event)->key());
+}
+
+bool ZoomControl::TakeKey(int key) {
+    switch (key) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        RunChange();
+        m_box->lineEdit()->selectAll();
+        return true;
+    case Qt::Key_Escape:
+        m_timer.stop();
+        ShowText(NormalText());
+        Q_EMIT BoxLeft();
+        return true;
+    default:
         return false;
     }
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key != Qt::Key_Return && key != Qt::Key_Enter) {
-        return false;
-    }
-    RunChange();
-    m_box->lineEdit()->selectAll();
-    return true;
 }
 
 } // namespace zol

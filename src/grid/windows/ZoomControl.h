@@ -56,6 +56,8 @@ public:
     void ZoomToFit();
     /// Zoom and scroll position change places with those before the last change.
     void RestorePreviousZoom();
+    /// The present place is the one to come back to; the zoom tool begins so.
+    void RememberScroll() { m_savedScroll = m_site.ScrollPosition(); }
     /// Called before the zoom changes, to commit an open text block.
     void SetBeforeChange(std::function<void()> commit) { m_beforeChange = std::move(commit); }
 
@@ -64,6 +66,8 @@ public:
 Q_SIGNALS:
     /// After the grid has taken the zoom over.
     void ZoomChanged(int percent);
+    /// The user is done with the box: its list was closed, or Escape was pressed in it.
+    void BoxLeft();
 
 private:
     void MakeBox(QWidget* parent);
@@ -72,6 +76,7 @@ private:
     [[nodiscard]] QString NormalText() const;
     [[nodiscard]] int SteppingFrom() const;
     void RunChange();
+    [[nodiscard]] bool TakeKey(int key);
     [[nodiscard]] int NumberOf(const QString& text) const;
 
     ZoomSite& m_site;

@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMimeData>
-#include <QProcess>
 #include <QTimer>
 #include <QToolBar>
 #include <QUrl>
@@ -28,10 +27,19 @@
 #include "grid/windows/ViewCommands.h"
 #include "grid/windows/WindowPlace.h"
 #include "grid/windows/frmPopups.h"
-#include "model/SafeFile.h"
 #include "windowkit/BusyScope.h"
 
 namespace zol {
+
+namespace {
+
+/// A move would let the program that the file comes from delete it.
+void AcceptCopy(QDropEvent& event) {
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+}
+
+} // namespace
 
 frmDesignGrid::frmDesignGrid(Workshop workshop) : m_workshop(workshop) {
     setObjectName(QStringLiteral("frmDesignGrid"));
@@ -76,18 +84,6 @@ bool frmDesignGrid::OpenCommandLine(const std::string& text) {
     return file.Run(text) == CommandLineFile::Outcome::Loaded;
 }
 
-bool frmDesignGrid::RunPatternViewer(const std::filesystem::path& program) {
-    const QString path = QString::fromStdString(PathText(program));
-    if (QProcess::startDetached(path, {})) {
-        return true;
-    }
-    m_workshop.Messages.TellMore("The pattern viewer cannot be started.",
-                                 PathText(program) +
-                                     " is not there or is no program that can be run.",
-                                 MessageIcon::Stop, ProgramTitle);
-    return false;
-}
-
 void frmDesignGrid::closeEvent(QCloseEvent* event) {
     if (BusyScope::IsAnyAlive() || !m_files->CheckSave()) {
         event->ignore();
@@ -109,14 +105,15 @@ void frmDesignGrid::CloseOtherWindows() {
 
 void frmDesignGrid::dragEnterEvent(QDragEnterEvent* event) {
     const QList<QUrl> urls = event->mimeData()->urls();
-    if (urls.size() == 1 && urls.first().isLocalFile()) {
-        event->acceptProposedAction();
+    const bool mayOpen = QApplication::activeModalWidget() == nullptr;
+    if (mayOpen && urls.size() == 1 && urls.first().isLocalFile()) {
+        AcceptCopy(*event);
     }
 }
 
 void frmDesignGrid::dropEvent(QDropEvent* event) {
     const std::string name = event->mimeData()->urls().first().toLocalFile().toStdString();
-    event->acceptProposedAction();
+    AcceptCopy(*event);
     // The program that the file came from waits until this returns, and a question may follow.
     QTimer::singleShot(0, this, [this, name] { m_files->OpenDropped(name); });
 }
@@ -137,7 +134,7 @@ void frmDesignGrid::ShowDesign() {
     m_modes->PaletteChanged();
     FollowCurrentColor();
     FollowTool();
-    ShowUndo();
+    m_design->EnableForNewDesign();
 }
 
 void frmDesignGrid::SetWindowTitle(const std::string& name) {
@@ -146,7 +143,7 @@ void frmDesignGrid::SetWindowTitle(const std::string& name) {
 }
 
 void frmDesignGrid::ShowSummary(const std::string& text) {
-    m_status->ShowNote(QString::fromStdString(text));
+    m_toolView->ShowSummary(text);
 }
 
 std::optional<NewPattern> frmDesignGrid::AskNewPattern(const NewPattern& defaults) {
@@ -178,10 +175,10 @@ void frmDesignGrid::FollowPainting() {
 
 void frmDesignGrid::FollowDesign() {
     m_area->DesignChanged();
-    m_modes->PaletteChanged();
     m_strip->Refresh();
+    m_modes->PaletteChanged();
     FollowTool();
-    ShowUndo();
+    m_design->RefreshEnabling();
 }
 
 void frmDesignGrid::FollowTool() {
@@ -193,12 +190,8 @@ void frmDesignGrid::FollowCurrentColor() {
     m_strip->SetCurrent(m_choice.CurrentPaletteIndex);
 }
 
-void frmDesignGrid::ShowUndo() {
-    const std::string label = m_workshop.Steps.GetUndoLabel();
-    QAction& undo = m_commands->At("mnuEditUndo");
-    undo.setEnabled(!label.empty());
-    undo.setText(label.empty() ? QStringLiteral("Undo")
-                               : QStringLiteral("Undo ") + QString::fromStdString(label));
+void frmDesignGrid::EndTool() {
+    m_modes->SetDrawMode(m_modes->GetDrawMode());
 }
 
 } // namespace zol

@@ -5,7 +5,6 @@
 
 #include <QMainWindow>
 
-#include <filesystem>
 #include <memory>
 #include <string>
 
@@ -51,8 +50,6 @@ public:
     bool OfferRecovery();
     /// What the program was started with. True if a design was opened.
     bool OpenCommandLine(const std::string& text);
-    /// Starts the separate viewer. False if it cannot be started, of which the user is told.
-    bool RunPatternViewer(const std::filesystem::path& program);
 
     [[nodiscard]] GridArea& Area() { return *m_area; }
     [[nodiscard]] DrawModes& Modes() { return *m_modes; }
@@ -88,7 +85,8 @@ private:
     void FollowDesign();
     void FollowTool();
     void FollowCurrentColor();
-    void ShowUndo();
+    /// Whatever the tool has under way is let go; the draw mode stays.
+    void EndTool();
     void ChooseZoom();
     void CloseOtherWindows();
 

@@ -33,7 +33,7 @@ namespace zol {
 
 void frmDesignGrid::SetUpParts() {
     setAcceptDrops(true);
-    m_commands = std::make_unique<MainCommands>(*this);
+    m_commands = std::make_unique<MainCommands>(*this, m_workshop.Context);
     m_menus = std::make_unique<MainMenus>(*this, *m_commands);
     auto* desk = new QWidget(this);
     auto* layout = new QVBoxLayout(desk);
@@ -54,16 +54,15 @@ void frmDesignGrid::SetUpParts() {
 void frmDesignGrid::SetUpTools() {
     m_toolView = std::make_unique<GridToolView>(
         *m_area, *m_status,
-        GridToolView::Followers{[this] { m_area->SetOverlay(m_modes->GetOverlay()); },
-                                [this] { FollowDesign(); },
-                                [this](int lineStyle) { m_popups->OpenLineMenu(lineStyle); },
-                                [this] { m_modes->SetDrawMode(m_modes->GetDrawMode()); }});
+        GridToolView::Followers{
+            [this] { m_area->SetOverlay(m_modes->GetOverlay()); }, [this] { FollowDesign(); },
+            [this](int lineStyle) { m_popups->OpenLineMenu(lineStyle); }, [this] { EndTool(); }});
     m_workshop.Steps.SetView(m_toolView.get());
     m_drawing = std::make_unique<DrawingCommands>(
         *m_commands, DrawingCommands::Followers{
                          [this] { FollowTool(); }, [this] { FollowCurrentColor(); },
                          [this] {
-                             ShowUndo();
+                             m_design->RefreshEnabling();
                              m_workshop.AutoSave.AutoSaveTick(false, false);
                          },
                          [this](bool anchored) {
@@ -102,14 +101,15 @@ void frmDesignGrid::SetUpCommands() {
                                             ViewCommands::Followers{[this] { FollowOptions(); },
                                                                     [this] { FollowPainting(); },
                                                                     [this] { FollowDesign(); }});
-    m_design = std::make_unique<DesignCommands>(*m_commands, m_workshop.Open, m_workshop.Steps,
-                                                [this] { FollowDesign(); });
+    m_design = std::make_unique<DesignCommands>(
+        *m_commands, *m_menus, m_workshop.Open, m_workshop.Steps,
+        DesignCommands::Followers{[this] { EndTool(); }, [this] { FollowDesign(); },
+                                  [this] {
+                                      m_area->ArrangeGrid();
+                                      FollowTool();
+                                      m_design->RefreshEnabling();
+                                  }});
     m_commands->Connect("mnuFileExit", this, [this] { close(); });
-    m_commands->Connect("mnuEditUndo", this, [this] {
-        m_workshop.Steps.PerformUndo();
-        FollowDesign();
-    });
-    connect(&m_menus->At("mnuEdit"), &QMenu::aboutToShow, this, &frmDesignGrid::ShowUndo);
     SetUpZoomCommands();
 }
 
@@ -119,6 +119,12 @@ void frmDesignGrid::SetUpZoomCommands() {
     m_commands->Connect("ZoomOut", this, [&zoom] { zoom.ZoomOut(); });
     m_commands->Connect("ZoomPrevious", this, [&zoom] { zoom.RestorePreviousZoom(); });
     m_commands->Connect("mnuZoom", this, [this] { ChooseZoom(); });
+    m_commands->Connect("ZoomTool", this, [this, &zoom] {
+        if (m_modes->GetDrawMode() == DrawZoom) {
+            zoom.RememberScroll();
+        }
+    });
+    connect(&zoom, &ZoomControl::BoxLeft, this, [this] { m_area->Canvas().setFocus(); });
     connect(m_status, &StatusLine::ZoomChosen, &zoom, &ZoomControl::ChangeZoom);
     connect(m_area, &GridArea::ZoomChanged, m_status, &StatusLine::ShowZoom);
     m_status->ShowZoom(zoom.GridZoom());
@@ -132,6 +138,7 @@ void frmDesignGrid::SetUpZoomCommands() {
     QToolButton& button = m_bars->At("ZOOMSETTING");
     button.setMenu(steps);
     button.setPopupMode(QToolButton::InstantPopup);
+    m_commands->CarryOut("ZoomSetting");
 }
 
 void frmDesignGrid::ChooseZoom() {
@@ -151,10 +158,7 @@ void frmDesignGrid::ConnectGrid() {
             [this](const PointerEvent& event) { m_modes->Move(event); });
     connect(m_area, &GridArea::Released, this,
             [this](const PointerEvent& event) { m_modes->Release(event); });
-    connect(m_area, &GridArea::PointerLeft, this, [this] {
-        m_status->ShowNote({});
-        m_status->ShowFloss({});
-    });
+    connect(m_area, &GridArea::PointerLeft, this, [this] { m_toolView->PointerLeft(); });
     connect(m_area, &GridArea::EscapePressed, this, [this] { m_modes->Escape(); });
 }
 

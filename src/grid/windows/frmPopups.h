@@ -14,7 +14,7 @@ class QWidget;
 namespace zol {
 
 class BackstitchTool;
-class ProgramContext;
+struct ProgramContext;
 
 /// The menus that open at the pointer: `mnuLines`, the commands on a backstitch line.
 class frmPopups : public QObject {
