@@ -9,7 +9,7 @@
 #include "model/RunTimeError.h"
 #include "print/KeySectionPainter.h"
 #include "print/PageText.h"
-#include "print/RichTextWords.h"
+#include "print/RTFFuncs.h"
 #include "print/TextFormatter.h"
 
 namespace zol {
@@ -111,8 +111,8 @@ void NewColorKey::PrintKeySection(KeyPages& pages, const KeyRows& rows, const Ke
 }
 
 void NewColorKey::PrintInstructions(KeyPages& pages) {
-    const PlainTextFormatter text(PrintableInstructions(m_job->PrintPattern()->Instructions),
-                                  pages.Font());
+    const PlainTextFormatter text(
+        RTFFuncs::PrintableInstructions(m_job->PrintPattern()->Instructions), pages.Font());
     if (text.Length() == 0) {
         return;
     }

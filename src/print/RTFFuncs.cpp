@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#include "print/RTFFuncs.h"
+
+#include <QTextBlock>
+#include <QTextDocument>
+
+#include <string_view>
+
+#include "print/rtf/RtfReader.h"
+#include "print/rtf/RtfWriter.h"
+
+namespace zol {
+
+namespace RTFFuncs {
+
+namespace {
+
+constexpr std::string_view RtfStart = "{\\rtf";
+
+QString WordsOf(const QTextDocument& document) {
+    QString words;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        if (block.textList() != nullptr) {
+            words += QStringLiteral("\u2022 ");
+        }
+        words += block.text();
+        words += QLatin1Char('\n');
+    }
+    words.replace(QChar(QChar::LineSeparator), QLatin1Char('\n'));
+    return words.trimmed();
+}
+
+} // namespace
+
+bool IsRichText(const std::string& text) {
+    return text.starts_with(RtfStart);
+}
+
+void LoadRichText(QTextDocument& document, const std::string& rtf) {
+    const bool hadUndo = document.isUndoRedoEnabled();
+    document.setUndoRedoEnabled(false);
+    RtfReader(rtf, document).Read();
+    document.setUndoRedoEnabled(hadUndo);
+    document.setModified(false);
+}
+
+std::string SaveRichText(const QTextDocument& document) {
+    return RtfWriter(document).Write();
+}
+
+void LoadInstructions(QTextDocument& document, const std::string& instructions) {
+    if (IsRichText(instructions)) {
+        LoadRichText(document, instructions);
+        return;
+    }
+    document.setPlainText(QString::fromStdString(instructions));
+    document.setModified(false);
+}
+
+std::string SaveInstructions(const QTextDocument& document, const std::string& before) {
+    if (!document.isModified()) {
+        return before;
+    }
+    return document.isEmpty() ? std::string() : SaveRichText(document);
+}
+
+QString PrintableInstructions(const std::string& instructions) {
+    if (!IsRichText(instructions)) {
+        return QString::fromStdString(instructions);
+    }
+    QTextDocument document;
+    LoadRichText(document, instructions);
+    return WordsOf(document);
+}
+
+} // namespace RTFFuncs
+
+} // namespace zol

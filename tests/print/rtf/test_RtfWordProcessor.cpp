@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextList>
+
+#include <gtest/gtest.h>
+
+#include "print/RTFFuncs.h"
+#include "print/rtf/RtfScene.h"
+#include "support/TempFolder.h"
+
+// Documents go to a word processor and come from it. Without LibreOffice these cases are skipped.
+
+namespace zol::test {
+
+namespace {
+
+class RtfWordProcessorTest : public testing::Test {
+protected:
+    void SetUp() override {
+        m_program = QStandardPaths::findExecutable(QStringLiteral("soffice"));
+        if (m_program.isEmpty()) {
+            GTEST_SKIP() << "LibreOffice is not installed";
+        }
+    }
+
+    /// Converts a file of the folder and returns the content of the new one.
+    std::string Converted(const std::string& file, const std::string& filter,
+                          const std::string& result) {
+        const QString folder = QString::fromStdString(m_folder.Path().string());
+        QProcess process;
+        process.setWorkingDirectory(folder);
+        process.start(m_program, {QStringLiteral("-env:UserInstallation=file://") + folder +
+                                      QStringLiteral("/profile"),
+                                  QStringLiteral("--headless"), QStringLiteral("--convert-to"),
+                                  QString::fromStdString(filter), QStringLiteral("--outdir"),
+                                  QStringLiteral("out"), QString::fromStdString(file)});
+        EXPECT_TRUE(process.waitForFinished(100000) && process.exitCode() == 0);
+        return ReadFile(m_folder / "out" / result);
+    }
+
+    TempFolder m_folder;
+    QString m_program;
+};
+
+} // namespace
+
+TEST_F(RtfWordProcessorTest, ReadsWhatItWrites) {
+    WriteFile(m_folder / "page.html",
+              "<html><head><meta charset='utf-8'></head><body>"
+              "<p align='center'><b>Bold</b> <i>slanted</i> <u>under</u></p>"
+              "<p><font face='Arial' size='5' color='#ff0000'>red</font> caf\u00e9 "
+              "\u0416\u0142 \u65e5 \U0001F9F5 \u201cq\u201d {b} \\c<br>line</p>"
+              "<ul><li>item one</li><li>item two</li></ul><ol><li>first</li></ol>"
+              "<table><tr><td>cell one</td><td>cell two</td></tr></table>"
+              "<p align='right'>end</p></body></html>");
+    const std::string rtf = Converted("page.html", "rtf:Rich Text Format", "page.rtf");
+    ASSERT_TRUE(RTFFuncs::IsRichText(rtf));
+    const auto document = ReadRtf(rtf);
+    const std::string text = TextOf(*document);
+    for (const char* part : {"Bold slanted under",
+                             "red caf\u00e9 \u0416\u0142 \u65e5 \U0001F9F5 "
+                             "\u201cq\u201d {b} \\c/line",
+                             "\nitem one\nitem two\nfirst\n", "cell one\tcell two", "end"}) {
+        EXPECT_NE(text.find(part), std::string::npos) << part << " in\n" << text;
+    }
+    const std::string all = Described(*document);
+    for (const char* part :
+         {"align 4", " bold - on -: Bold", " italic - on -: slanted", " underline - on -: under",
+          "Arial 18 #ff0000 on -: red", "list -1 level 1 item 1", "list -1 level 1 item 2",
+          "list -4 level 1 item 1", "align 2"}) {
+        EXPECT_NE(all.find(part), std::string::npos) << part << " in\n" << all << rtf;
+    }
+}
+
+TEST_F(RtfWordProcessorTest, WritesWhatItReads) {
+    QTextDocument document;
+    QTextCursor cursor(&document);
+    QTextCharFormat format;
+    format.setFontFamilies({QStringLiteral("Arial")});
+    format.setFontPointSize(18);
+    format.setForeground(QColor(255, 0, 0));
+    format.setFontWeight(QFont::Bold);
+    cursor.insertText(QString::fromUtf8("Red caf\u00e9 \u0416\u0142 \u65e5 \U0001F9F5"), format);
+    QTextBlockFormat right;
+    right.setAlignment(Qt::AlignRight);
+    cursor.insertBlock(right, QTextCharFormat());
+    cursor.insertText(QString::fromUtf8("{b} \\c \u201cq\u201d\u2028line\ttab"));
+    cursor.insertBlock(QTextBlockFormat());
+    cursor.insertList(QTextListFormat::ListDisc);
+    cursor.insertText(QStringLiteral("item one"));
+    cursor.insertBlock();
+    cursor.insertText(QStringLiteral("item two"));
+    cursor.insertBlock(QTextBlockFormat());
+    cursor.insertText(QStringLiteral("end"));
+    WriteFile(m_folder / "ours.rtf", RTFFuncs::SaveRichText(document));
+
+    const std::string text = Converted("ours.rtf", "txt:Text (encoded):UTF8", "ours.txt");
+    for (const char* part :
+         {"Red caf\u00e9 \u0416\u0142 \u65e5 \U0001F9F5\n", "{b} \\c \u201cq\u201d\nline\ttab\n",
+          "item one\n", "item two\n", "end"}) {
+        EXPECT_NE(text.find(part), std::string::npos) << part << " in\n" << text;
+    }
+    // What it makes of the looks comes back in its own RTF.
+    const std::string back = Converted("ours.rtf", "rtf:Rich Text Format", "ours.rtf");
+    const std::string all = Described(*ReadRtf(back));
+    for (const char* part : {"Arial 18 bold #ff0000 on -: Red caf\u00e9", "align 2", "list -1"}) {
+        EXPECT_NE(all.find(part), std::string::npos) << part << " in\n" << all << back;
+    }
+}
+
+} // namespace zol::test
