@@ -273,6 +273,7 @@ void test_ZoomControl::theWindowShowsTheZoom() {
 void test_ZoomControl::customAloneEnablesItsField() {
     frmZoom window(100);
     window.show();
+    window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window));
     auto* custom = window.findChild<QLineEdit*>(QStringLiteral("txtCustomZoom"));
     auto* option = window.findChild<QRadioButton*>(QStringLiteral("optZoom6"));
@@ -292,6 +293,7 @@ void test_ZoomControl::customAloneEnablesItsField() {
 void test_ZoomControl::theWindowTellsTheChoice() {
     frmZoom window(100);
     window.show();
+    window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window));
     QTest::mouseClick(window.findChild<QPushButton*>(QStringLiteral("cmdCancel")), Qt::LeftButton);
     QCOMPARE(window.result(), int(QDialog::Rejected));
