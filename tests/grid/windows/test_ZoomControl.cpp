@@ -299,6 +299,7 @@ void test_ZoomControl::theWindowTellsTheChoice() {
     QCOMPARE(window.result(), int(QDialog::Rejected));
     frmZoom again(40);
     again.show();
+    again.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&again));
     auto* custom = again.findChild<QLineEdit*>(QStringLiteral("txtCustomZoom"));
     QTest::keyClicks(custom, QStringLiteral("45"));
