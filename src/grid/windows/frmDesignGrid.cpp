@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMimeData>
-#include <QTimer>
 #include <QToolBar>
 #include <QUrl>
 
@@ -112,10 +111,8 @@ void frmDesignGrid::dragEnterEvent(QDragEnterEvent* event) {
 }
 
 void frmDesignGrid::dropEvent(QDropEvent* event) {
-    const std::string name = event->mimeData()->urls().first().toLocalFile().toStdString();
     AcceptCopy(*event);
-    // The program that the file came from waits until this returns, and a question may follow.
-    QTimer::singleShot(0, this, [this, name] { m_files->OpenDropped(name); });
+    Q_EMIT FileDropped(event->mimeData()->urls().first().toLocalFile());
 }
 
 void frmDesignGrid::SetBusy(bool busy) {

@@ -35,7 +35,7 @@ class ViewCommands;
 
 /// The main window: it owns the parts that the user sees and the groups of commands, and ties them
 /// together. What a command does is the group's, what the pointer does is the draw modes'.
-class frmDesignGrid : public QMainWindow, private FileCommandsView, private AutoSaveView {
+class frmDesignGrid final : public QMainWindow, private FileCommandsView, private AutoSaveView {
     Q_OBJECT
 
 public:
@@ -53,6 +53,10 @@ public:
 
     [[nodiscard]] GridArea& Area() { return *m_area; }
     [[nodiscard]] DrawModes& Modes() { return *m_modes; }
+
+Q_SIGNALS:
+    /// From a file manager; one local file.
+    void FileDropped(const QString& name);
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -87,6 +87,11 @@ void frmDesignGrid::SetUpFiles() {
         [this] { m_workshop.AutoSave.ClearAutoSave(); }});
     m_fileMenu =
         std::make_unique<FileMenu>(*m_commands, *m_menus, *m_files, m_workshop.RecentFiles);
+    // The program that the file came from waits until the drop returns, and a question may follow.
+    connect(
+        this, &frmDesignGrid::FileDropped, this,
+        [this](const QString& name) { m_files->OpenDropped(name.toStdString()); },
+        Qt::QueuedConnection);
     m_workshop.AutoSave.SetView(this);
     m_autoSaveTimer = new QTimer(this);
     m_autoSaveTimer->setObjectName(QStringLiteral("timAutoSave"));
