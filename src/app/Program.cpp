@@ -25,21 +25,21 @@ std::filesystem::path FindAppPath(const Arguments& arguments) {
                             AppPath::UserDataFolder());
 }
 
-ProgramContext MakeContext(const Arguments& arguments, UserDoors doors) {
+ProgramContext MakeContext(const Arguments& arguments, const UserDoors& doors) {
     ProgramContext context;
     context.AppPath = FindAppPath(arguments);
     context.Messages = &doors.Messages;
     return context;
 }
 
-INIFuncs MakeStore(const Arguments& arguments, UserDoors doors) {
+INIFuncs MakeStore(const Arguments& arguments, const UserDoors& doors) {
     return arguments.Settings.empty() ? INIFuncs(&doors.Messages)
                                       : INIFuncs(arguments.Settings, &doors.Messages);
 }
 
 } // namespace
 
-Program::Program(const Arguments& arguments, UserDoors doors)
+Program::Program(const Arguments& arguments, const UserDoors& doors)
     : m_doors(doors),
       m_context(MakeContext(arguments, doors)),
       m_store(MakeStore(arguments, doors)),

@@ -25,7 +25,7 @@ struct UserDoors {
 class Program {
 public:
     /// Finds the program's folder. Options are not read yet.
-    Program(const Arguments& arguments, UserDoors doors);
+    Program(const Arguments& arguments, const UserDoors& doors);
 
     void LoadOptions();
     void LoadRecentFiles() { m_recentFiles.LoadMRU(); }
@@ -39,7 +39,7 @@ public:
     [[nodiscard]] INIFuncs& Store() { return m_store; }
     [[nodiscard]] const Options& Settings() const { return m_options; }
     [[nodiscard]] Pattern& CurrentPattern() { return m_pattern; }
-    [[nodiscard]] UserDoors Doors() const { return m_doors; }
+    [[nodiscard]] const UserDoors& Doors() const { return m_doors; }
 
 private:
     UserDoors m_doors;

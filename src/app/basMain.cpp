@@ -15,7 +15,7 @@
 
 namespace zol {
 
-basMain::basMain(const Arguments& arguments, UserDoors doors)
+basMain::basMain(const Arguments& arguments, const UserDoors& doors)
     : m_commandLine(arguments.CommandLine),
       m_program(arguments, doors) {}
 

@@ -17,7 +17,7 @@ class frmDesignGrid;
 /// The start of the program in its order, and its end.
 class basMain {
 public:
-    basMain(const Arguments& arguments, UserDoors doors);
+    basMain(const Arguments& arguments, const UserDoors& doors);
     ~basMain();
     basMain(const basMain&) = delete;
     basMain& operator=(const basMain&) = delete;
