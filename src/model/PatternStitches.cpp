@@ -219,7 +219,7 @@ struct KnotMap {
     std::array<bool, std::size_t{Side} * Side> Has{};
 
     [[nodiscard]] static constexpr std::size_t At(int i, int j) {
-        return static_cast<std::size_t>(j * Side + i);
+        return static_cast<std::size_t>(j) * Side + static_cast<std::size_t>(i);
     }
     /// Squares count from 0, from the upper left of the nine.
     [[nodiscard]] bool TouchSquare(int dx, int dy) const {
