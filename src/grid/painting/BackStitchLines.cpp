@@ -38,7 +38,7 @@ public:
           m_squareTwips(squareTwips),
           m_origin(origin),
           m_twipsPerPixel(twipsPerPixel) {
-        m_pixels.reserve(static_cast<std::size_t>(last - first + 1));
+        m_pixels.reserve(static_cast<std::size_t>(last - first) + 1);
         for (int index = first; index <= last; ++index) {
             m_pixels.push_back(Find(index));
         }
