@@ -73,10 +73,12 @@ endfunction()
 # enough: what sanitizers find they find without it.
 find_program(KORVANTA_XVFB_RUN xvfb-run)
 
-# zol_add_window_test(NAME SOURCES ... LINKS ...): one Qt Test program of windows, driven by mouse
-# and keys without a display. Its cases run in one process, as starting one costs more than a case.
+# zol_add_window_test(NAME [ON_X11] SOURCES ... LINKS ...): one Qt Test program of windows, driven by
+# mouse and keys without a display. Its cases run in one process, as starting one costs more than a
+# case. ON_X11 is for those of the whole program: a widget by itself is no active window where no
+# window manager makes it one, and there its pixels lie with the display server.
 function(zol_add_window_test name)
-    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    cmake_parse_arguments(ARG "ON_X11" "" "SOURCES;LINKS" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
     target_link_libraries(${name} PRIVATE zol_common ${ARG_LINKS} Qt6::Test)
@@ -85,7 +87,7 @@ function(zol_add_window_test name)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8" TIMEOUT 240)
-    if(KORVANTA_XVFB_RUN AND NOT KORVANTA_SANITIZE)
+    if(ARG_ON_X11 AND KORVANTA_XVFB_RUN AND NOT KORVANTA_SANITIZE)
         add_test(NAME ${name}_on_x11 COMMAND "${KORVANTA_XVFB_RUN}" -a
             -s "-screen 0 1600x1200x24" $<TARGET_FILE:${name}>)
         # One display server at a time: they choose their numbers by looking for a free one.
