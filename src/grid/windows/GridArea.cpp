@@ -53,7 +53,7 @@ private:
 GridArea::GridArea(GridPainter& painter, QWidget* parent) : QWidget(parent), m_zoom(*this, this) {
     MakeParts(painter);
     ConnectParts();
-    new GridNavigator(*this);
+    m_navigator = std::make_unique<GridNavigator>(*this);
 }
 
 GridArea::~GridArea() = default;

@@ -5,6 +5,8 @@
 
 #include <QWidget>
 
+#include <memory>
+
 #include "grid/windows/GridCanvas.h"
 #include "grid/windows/GridRulers.h"
 #include "grid/windows/ZoomControl.h"
@@ -12,6 +14,8 @@
 class QScrollBar;
 
 namespace zol {
+
+class GridNavigator;
 
 /// The middle of the main window: the cloth in its holder, rulers and scroll bars, on a desk. It
 /// arranges them, scrolls by whole squares and zooms. What the pointer does on the cloth passes
@@ -104,6 +108,8 @@ private:
     GridRuler* m_bigRulerAcross = nullptr;
     GridRuler* m_bigRulerDown = nullptr;
     ZoomControl m_zoom;
+    /// Goes before the area does: it watches events, and closing a window sends some.
+    std::unique_ptr<GridNavigator> m_navigator;
     SquarePos m_first{1, 1};
     bool m_scrollBusy = false;
     bool m_rulersVisible = true;

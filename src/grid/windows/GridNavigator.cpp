@@ -26,7 +26,7 @@ constexpr double LinePixels = 16;
 
 } // namespace
 
-GridNavigator::GridNavigator(GridArea& area) : QObject(&area), m_area(area) {
+GridNavigator::GridNavigator(GridArea& area) : m_area(area) {
     area.installEventFilter(this);
     area.Canvas().installEventFilter(this);
     area.grabGesture(Qt::PinchGesture);

@@ -56,6 +56,10 @@ frmDesignGrid::frmDesignGrid(Workshop workshop) : m_workshop(workshop) {
 }
 
 frmDesignGrid::~frmDesignGrid() {
+    // Parts that go last still say where pointer and focus went; nobody is left to hear it.
+    m_area->disconnect(this);
+    m_strip->disconnect(this);
+    m_status->disconnect(this);
     m_workshop.Steps.SetView(nullptr);
     m_workshop.AutoSave.SetView(nullptr);
     if (m_workshop.Context.Progress == m_status) {
