@@ -6,7 +6,6 @@
 #include <QCursor>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPaintEngine>
 #include <QPaintEvent>
 #include <QPainter>
 
@@ -66,31 +65,6 @@ std::vector<QRect> FewRectsOf(const QRegion& region) {
         rects.push_back(part.Rect);
     }
     return rects;
-}
-
-/// The very pixels of the window that a single rectangle of the widget lies in, so that a large one
-/// need not be painted elsewhere and copied; a null image where they cannot be had. The painter has
-/// been taken over by DevicePixels.
-QImage PixelsBehind(const QPainter& painter, const DevicePixels& device, const QRegion& exposed) {
-    const auto* window = dynamic_cast<const QImage*>(painter.paintEngine()->paintDevice());
-    // At a broken ratio the rectangle's edges reach out of what the system lets be painted.
-    if (window == nullptr || exposed.rectCount() != 1 ||
-        device.Ratio() != std::floor(device.Ratio()) ||
-        (window->format() != QImage::Format_RGB32 &&
-         window->format() != QImage::Format_ARGB32_Premultiplied)) {
-        return {};
-    }
-    const QTransform& place = painter.deviceTransform();
-    const QRect pixels =
-        exposed.boundingRect().translated(QPointF(place.dx(), place.dy()).toPoint());
-    const QRegion allowed = painter.paintEngine()->systemClip();
-    if (painter.hasClipping() || !window->rect().contains(pixels) || place.m11() != 1 ||
-        place.m22() != 1 || (!allowed.isEmpty() && !(QRegion(pixels) - allowed).isEmpty())) {
-        return {};
-    }
-    auto* first = const_cast<uchar*>(window->constScanLine(pixels.top())) +
-                  static_cast<std::ptrdiff_t>(pixels.left()) * 4;
-    return {first, pixels.width(), pixels.height(), window->bytesPerLine(), QImage::Format_RGB32};
 }
 
 } // namespace
@@ -242,15 +216,11 @@ void GridCanvas::PaintExposed(const QRegion& region) {
     for (const QRect& rect : region) {
         exposed += device.Covering(rect);
     }
-    if (QImage window = PixelsBehind(painter, device, exposed); !window.isNull()) {
-        PaintPixels(window, exposed.boundingRect());
-    } else {
-        if (exposed.rectCount() > 1) {
-            painter.setClipRegion(exposed);
-        }
-        for (const QRect& part : FewRectsOf(exposed)) {
-            PaintPart(painter, part);
-        }
+    if (exposed.rectCount() > 1) {
+        painter.setClipRegion(exposed);
+    }
+    for (const QRect& part : FewRectsOf(exposed)) {
+        PaintPart(painter, part);
     }
     if (m_pattern == nullptr || m_overlay == Overlay{}) {
         return;
@@ -268,11 +238,6 @@ void GridCanvas::PaintPart(QPainter& painter, const QRect& pixels) {
     m_part.resize(std::max(count, m_part.size()));
     QImage image(reinterpret_cast<uchar*>(m_part.data()), pixels.width(), pixels.height(),
                  static_cast<qsizetype>(pixels.width()) * 4, QImage::Format_RGB32);
-    PaintPixels(image, pixels);
-    painter.drawImage(pixels.topLeft(), image);
-}
-
-void GridCanvas::PaintPixels(QImage& image, const QRect& pixels) {
     const bool whole =
         m_pattern != nullptr && QRect(QPoint(0, 0), m_geometry.GridSize()).contains(pixels);
     if (!whole) {
@@ -281,6 +246,7 @@ void GridCanvas::PaintPixels(QImage& image, const QRect& pixels) {
     if (m_pattern != nullptr) {
         m_painter.PaintImage(image, pixels.topLeft(), View(), m_geometry.Everything());
     }
+    painter.drawImage(pixels.topLeft(), image);
 }
 
 PointerEvent GridCanvas::EventOf(const QMouseEvent& event, PointerButton button) const {

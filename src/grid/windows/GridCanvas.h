@@ -79,7 +79,6 @@ protected:
 private:
     void PaintExposed(const QRegion& region);
     void PaintPart(QPainter& painter, const QRect& pixels);
-    void PaintPixels(QImage& image, const QRect& pixels);
     void UpdatePixels(const QRegion& pixels);
     [[nodiscard]] class OverlayPainter OverlayOf(const Overlay& overlay) const;
     [[nodiscard]] PointerEvent EventOf(const QMouseEvent& event, PointerButton button) const;
