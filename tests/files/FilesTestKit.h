@@ -5,7 +5,6 @@
 
 #include <gmock/gmock.h>
 
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -17,6 +16,7 @@
 #include "grid/tools/Undo.h"
 #include "model/Pattern.h"
 #include "model/SafeFile.h"
+#include "support/RecordingDoors.h"
 #include "support/ScriptedUser.h"
 #include "support/TempFolder.h"
 
@@ -47,22 +47,6 @@ public:
     NewPattern offered;
     std::optional<NewPattern> wanted;
     bool textMode = false;
-};
-
-/// Settings in memory.
-class MapSettings : public SettingsDoor {
-public:
-    std::string ReadSetting(const std::string& section, const std::string& name,
-                            const std::string& defaultValue) const override {
-        const auto found = values.find({section, name});
-        return found == values.end() ? defaultValue : found->second;
-    }
-    void WriteSetting(const std::string& section, const std::string& name,
-                      const std::string& value) override {
-        values[{section, name}] = value;
-    }
-
-    std::map<std::pair<std::string, std::string>, std::string> values;
 };
 
 /// File commands over a scripted user, with a 5 by 4 pattern without a file on the grid.

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <utility>
@@ -61,6 +62,22 @@ public:
 
     std::optional<std::string> answer;
     int asked = 0;
+};
+
+/// Settings in memory.
+class MapSettings : public SettingsDoor {
+public:
+    std::string ReadSetting(const std::string& section, const std::string& name,
+                            const std::string& defaultValue) const override {
+        const auto found = values.find({section, name});
+        return found == values.end() ? defaultValue : found->second;
+    }
+    void WriteSetting(const std::string& section, const std::string& name,
+                      const std::string& value) override {
+        values[{section, name}] = value;
+    }
+
+    std::map<std::pair<std::string, std::string>, std::string> values;
 };
 
 } // namespace zol::test
