@@ -109,4 +109,14 @@ void FillScene(Pattern& pattern) {
     SceneMaker(pattern).Fill();
 }
 
+Pattern& SharedScene() {
+    static ProgramContext context;
+    static Pattern* scene = [] {
+        static Pattern pattern(context);
+        FillScene(pattern);
+        return &pattern;
+    }();
+    return *scene;
+}
+
 } // namespace zol

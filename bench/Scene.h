@@ -12,4 +12,7 @@ namespace zol {
 /// have nothing in common: no run of a file and no tile of a picture comes cheap.
 void FillScene(Pattern& pattern);
 
+/// The scene, filled once for all of a program.
+[[nodiscard]] Pattern& SharedScene();
+
 } // namespace zol

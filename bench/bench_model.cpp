@@ -15,6 +15,7 @@
 #include <numeric>
 #include <stdexcept>
 
+#include "Folder.h"
 #include "Ratio.h"
 #include "Scene.h"
 
@@ -37,28 +38,6 @@ Pattern& Scene() {
     }();
     return *scene;
 }
-
-/// A folder of this run, gone at its end.
-class Folder {
-public:
-    Folder() {
-        std::string name = (fs::temp_directory_path() / "bench_model.XXXXXX").string();
-        if (::mkdtemp(name.data()) == nullptr) {
-            throw std::runtime_error("no temporary folder");
-        }
-        m_path = name;
-    }
-    ~Folder() {
-        std::error_code ignored;
-        fs::remove_all(m_path, ignored);
-    }
-    Folder(const Folder&) = delete;
-    Folder& operator=(const Folder&) = delete;
-    [[nodiscard]] fs::path operator/(const char* name) const { return m_path / name; }
-
-private:
-    fs::path m_path;
-};
 
 const fs::path& SceneFile() {
     static const Folder folder;

@@ -23,16 +23,6 @@ namespace {
 constexpr int Width = 1920;
 constexpr int Height = 1080;
 
-zol::Pattern& Scene() {
-    static zol::ProgramContext context;
-    static zol::Pattern* scene = [] {
-        static zol::Pattern pattern(context);
-        zol::FillScene(pattern);
-        return &pattern;
-    }();
-    return *scene;
-}
-
 /// What lines a pattern is given.
 enum LineSort : std::uint8_t {
     Outlines = 0, ///< from corner to corner, one to five squares: half along a row, a column or a
@@ -73,7 +63,7 @@ zol::BackStitchLine AnyLine(std::mt19937& random, LineSort sort, int columns, in
 /// The scene with so many lines instead of its own, in all six styles, all of them within the first
 /// `columns` and `rows`.
 zol::Pattern& SceneWithLines(int count, int columns, int rows, LineSort sort = AnyLines) {
-    zol::Pattern& pattern = Scene();
+    zol::Pattern& pattern = zol::SharedScene();
     while (pattern.GetBackStitchCount() > 0) {
         pattern.RemoveBackStitchLine(pattern.GetBackStitchCount());
     }
@@ -107,7 +97,7 @@ double GoalOf(int style, int pixels) {
 /// Style, pixels a square.
 void PaintView(benchmark::State& state) {
     const int pixels = static_cast<int>(state.range(1));
-    const zol::GridView view = ViewOf(Scene(), static_cast<int>(state.range(0)), pixels);
+    const zol::GridView view = ViewOf(zol::SharedScene(), static_cast<int>(state.range(0)), pixels);
     zol::GridPainter painter;
     QImage image(Width, Height, QImage::Format_RGB32);
     const QPoint position(37, 53);

@@ -7,13 +7,10 @@
 
 #include <benchmark/benchmark.h>
 
-#include <stdlib.h>
-
 #include <filesystem>
 #include <memory>
-#include <stdexcept>
-#include <string>
 
+#include "Folder.h"
 #include "Ratio.h"
 #include "Scene.h"
 #include "files/PatternDesign.h"
@@ -24,28 +21,6 @@ namespace zol {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// A folder of this run, gone at its end.
-class Folder {
-public:
-    Folder() {
-        std::string name = (fs::temp_directory_path() / "bench_undo.XXXXXX").string();
-        if (::mkdtemp(name.data()) == nullptr) {
-            throw std::runtime_error("no temporary folder");
-        }
-        m_path = name;
-    }
-    ~Folder() {
-        std::error_code ignored;
-        fs::remove_all(m_path, ignored);
-    }
-    Folder(const Folder&) = delete;
-    Folder& operator=(const Folder&) = delete;
-    [[nodiscard]] fs::path operator/(const char* name) const { return m_path / name; }
-
-private:
-    fs::path m_path;
-};
 
 void MeasureSnapshot(benchmark::State& state, Timing timing) {
     ProgramContext context;

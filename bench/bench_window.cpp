@@ -21,16 +21,6 @@ namespace {
 constexpr int Width = 1920;
 constexpr int Height = 1080;
 
-zol::Pattern& Scene() {
-    static zol::ProgramContext context;
-    static zol::Pattern* scene = [] {
-        static zol::Pattern pattern(context);
-        zol::FillScene(pattern);
-        return &pattern;
-    }();
-    return *scene;
-}
-
 void Fill(QImage& image, QRgb colour) {
     for (int y = 0; y < image.height(); ++y) {
         std::fill_n(reinterpret_cast<QRgb*>(image.scanLine(y)), image.width(), colour);
@@ -42,7 +32,7 @@ class Window {
 public:
     explicit Window(int squarePixels) : m_area(m_painter) {
         m_area.resize(Width + 40, Height + 40);
-        m_area.SetPattern(&Scene());
+        m_area.SetPattern(&zol::SharedScene());
         // 100 percent of a cloth of 14 are 96 / 14 pixels.
         m_area.Zoom().ChangeZoom((squarePixels * 1400 + 48) / 96);
         m_area.show();
@@ -133,7 +123,7 @@ void StrokeMove(benchmark::State& state) {
         for (int i = 0; i < 20; ++i) {
             for (const int column : {45 + i, 125 - i}) {
                 const int row = 60 + i;
-                Scene().SetStitch(column, row, zol::StitchWhole, floss, 5);
+                zol::SharedScene().SetStitch(column, row, zol::StitchWhole, floss, 5);
                 window.Area().RedrawSquares({column, row, column, row});
             }
         }

@@ -87,9 +87,9 @@ void basMain::RunPatternViewer() {
 }
 
 void basMain::OpenWhatWasAskedFor() {
-    m_loaded = m_window->OfferRecovery();
-    if (!m_loaded && !m_commandLine.empty()) {
-        m_loaded = m_window->OpenCommandLine(m_commandLine);
+    // Work that would be lost goes before a file that can be opened at any time.
+    if (!m_window->OfferRecovery() && !m_commandLine.empty()) {
+        m_window->OpenCommandLine(m_commandLine);
     }
 }
 

@@ -43,7 +43,6 @@ private:
     Program m_program;
     std::unique_ptr<QSplashScreen> m_splash;
     std::unique_ptr<frmDesignGrid> m_window;
-    bool m_loaded = false; ///< a file or a recovered pattern stands open
     int m_exitCode = 0;
 };
 
