@@ -3,8 +3,9 @@
 #
 # Reads the levels table, then the sources. A row is
 #   | `target` | `model/Pattern*` `model/Notes.*` | `below` `further_below` | Qt Core, Qt Gui |
-# The first row with a pattern for a file says its target. A target may include itself and what its
-# third column names; the fourth names the libraries it may know besides the C++ library.
+# A star stops at a folder. The first row with a pattern for a file says its target. A target may
+# include itself and what its third column names; the fourth names the libraries it may know besides
+# the C++ library.
 
 function fail(text) {
     printf "%s:%d: %s\n", FILENAME, FNR, text
@@ -22,7 +23,7 @@ function ticked(cell, out,    n, parts, count, i) {
 function pattern_of(shell,    re) {
     re = shell
     gsub(/\./, "\\.", re)
-    gsub(/\*/, ".*", re)
+    gsub(/\*/, "[^/]*", re)
     return "^" re "$"
 }
 
