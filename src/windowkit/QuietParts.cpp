@@ -150,4 +150,10 @@ void DrawFieldFrame(const QStyleOption& option, QPainter& painter) {
                     : Ground(option, enabled ? FieldShare : LineShare));
 }
 
+void DrawFocus(const QStyleOption& option, QPainter& painter) {
+    if (option.state.testFlag(QStyle::State_KeyboardFocusChange)) {
+        DrawPlate(painter, option.rect, Qt::transparent, Theme::Accent(option.palette));
+    }
+}
+
 } // namespace zol::QuietParts

@@ -28,5 +28,7 @@ void DrawCheckBox(const QStyleOption& option, QPainter& painter);
 void DrawRadioButton(const QStyleOption& option, QPainter& painter);
 /// Round a field to type in; in the accent while it has the keyboard.
 void DrawFieldFrame(const QStyleOption& option, QPainter& painter);
+/// Round what the keyboard acts on, for whoever works with keys; a mouse needs no ring.
+void DrawFocus(const QStyleOption& option, QPainter& painter);
 
 } // namespace zol::QuietParts

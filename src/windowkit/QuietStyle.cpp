@@ -63,6 +63,9 @@ void QuietStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     case PE_FrameLineEdit:
         DrawFieldFrame(*option, *painter);
         return;
+    case PE_FrameFocusRect:
+        DrawFocus(*option, *painter);
+        return;
     case PE_PanelMenuBar:
         return;
     default:

@@ -14,6 +14,7 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <array>
 #include <initializer_list>
 #include <set>
 
@@ -93,6 +94,28 @@ private Q_SLOTS:
         const std::set<QRgb> off = ColorsOf(Seen(button));
         QCOMPARE(off.count(accent.rgb()), 0U);
         QVERIFY(off.size() > 1);
+    }
+
+    void ATabbedToToolButtonIsRinged_data() { AddRowPerLook(); }
+    void ATabbedToToolButtonIsRinged() {
+        TakeLook();
+        QWidget window;
+        std::array<QToolButton*, 2> buttons{new QToolButton(&window), new QToolButton(&window)};
+        for (std::size_t i = 0; i < buttons.size(); ++i) {
+            buttons[i]->setAutoRaise(true);
+            buttons[i]->setFocusPolicy(Qt::StrongFocus);
+            buttons[i]->setGeometry(40 * static_cast<int>(i), 0, 32, 32);
+        }
+        window.show();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        buttons[0]->setFocus(Qt::MouseFocusReason);
+        const QColor accent = Theme::Accent(window.palette());
+        QCOMPARE(CountColor(Seen(*buttons[0]), accent), 0);
+        QTest::keyClick(buttons[0], Qt::Key_Tab);
+        QVERIFY(buttons[1]->hasFocus());
+        QVERIFY(CountColor(Seen(*buttons[1]), accent) > 60);
+        QCOMPARE(CountColor(Seen(*buttons[0]), accent), 0);
     }
 
     void AMenuItemThatIsOnIsFramedInTheAccent_data() { AddRowPerLook(); }
