@@ -88,13 +88,33 @@ fs::path ResolveLink(const fs::path& path) {
     return error ? path : resolved;
 }
 
+/// Gives the old file the backup's name. Where a link leads onto another file system the backup,
+/// which lies beside the link, takes a copy, and the old name stays until the new file takes it.
+std::error_code KeepAs(const fs::path& path, const fs::path& backup) {
+    std::error_code error;
+    fs::rename(path, backup, error);
+    if (error != std::errc::cross_device_link) {
+        return error;
+    }
+    const fs::path copy = SafeFile::NewNameBeside(backup);
+    fs::copy_file(path, copy, error);
+    if (!error) {
+        fs::rename(copy, backup, error);
+    }
+    if (error) {
+        std::error_code ignored;
+        fs::remove(copy, ignored);
+    }
+    return error;
+}
+
 /// Renames with the old file kept under the backup's name; puts the old name back on a failure.
 int RenameOver(Lasting lasting, const fs::path& fresh, const fs::path& path,
                const fs::path& backup) {
     std::error_code error;
     const bool keepOld = !backup.empty() && fs::exists(path, error);
     if (keepOld) {
-        fs::rename(path, backup, error);
+        error = KeepAs(path, backup);
         if (error) {
             return RemoveAndTell(fresh, error.value());
         }
@@ -102,8 +122,8 @@ int RenameOver(Lasting lasting, const fs::path& fresh, const fs::path& path,
     fs::rename(fresh, path, error);
     if (error) {
         const int number = RemoveAndTell(fresh, error.value());
-        if (keepOld) {
-            std::error_code ignored;
+        std::error_code ignored;
+        if (keepOld && !fs::exists(path, ignored)) {
             fs::rename(backup, path, ignored);
         }
         return number;

@@ -70,6 +70,26 @@ TEST(SafeFile, KeepsTheModeOfTheOldFileAndFollowsALink) {
     EXPECT_EQ(info.st_mode & 0777U, 0640U);
 }
 
+TEST(SafeFile, BackupBesideALinkToAnotherFileSystemIsACopy) {
+    const fs::path memory = "/dev/shm";
+    const TempFolder folder;
+    struct stat here {};
+    struct stat there {};
+    if (::stat(memory.c_str(), &there) != 0 || ::access(memory.c_str(), W_OK) != 0 ||
+        ::stat(folder.Path().c_str(), &here) != 0 || here.st_dev == there.st_dev) {
+        GTEST_SKIP() << "there is no second file system";
+    }
+    const TempFolder far(memory);
+    WriteFile(far / "a.pat", "old");
+    fs::create_symlink(far / "a.pat", folder / "link.pat");
+    EXPECT_EQ(SafeFile::Replace(folder / "link.pat", Bytes("new"), folder / "link.bpt"), ErrNone);
+    EXPECT_EQ(ReadFile(far / "a.pat"), "new");
+    EXPECT_EQ(ReadFile(folder / "link.bpt"), "old");
+    EXPECT_TRUE(fs::is_symlink(folder / "link.pat"));
+    EXPECT_EQ(FilesIn(folder.Path()), 2U);
+    EXPECT_EQ(FilesIn(far.Path()), 1U);
+}
+
 TEST(SafeFile, FolderThatIsAFileIsRefused) {
     const TempFolder folder;
     WriteFile(folder / "file", "x");

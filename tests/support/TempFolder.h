@@ -17,10 +17,10 @@ namespace zol::test {
 /// A folder of its own for one test; gone with it.
 class TempFolder {
 public:
-    TempFolder() {
+    explicit TempFolder(
+        const std::filesystem::path& within = std::filesystem::temp_directory_path()) {
         std::random_device source;
-        m_path = std::filesystem::temp_directory_path() /
-                 ("korvanta-test-" + std::to_string(source()) + std::to_string(source()));
+        m_path = within / ("korvanta-test-" + std::to_string(source()) + std::to_string(source()));
         std::filesystem::create_directories(m_path);
     }
     ~TempFolder() {
