@@ -11,7 +11,7 @@
 
 #include <algorithm>
 
-#include "grid/windows/FlossText.h"
+#include "flosses/windows/FlossText.h"
 #include "windowkit/Theme.h"
 
 namespace zol {

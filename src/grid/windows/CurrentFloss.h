@@ -6,7 +6,7 @@
 #include <QAbstractButton>
 #include <QElapsedTimer>
 
-#include "grid/windows/SwatchPainter.h"
+#include "flosses/windows/SwatchPainter.h"
 #include "model/Pattern.h"
 
 namespace zol {

@@ -13,7 +13,7 @@
 
 #include <algorithm>
 
-#include "grid/windows/FlossText.h"
+#include "flosses/windows/FlossText.h"
 
 namespace zol {
 

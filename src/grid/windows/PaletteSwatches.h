@@ -7,8 +7,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include "flosses/windows/SwatchPainter.h"
 #include "grid/windows/SwatchLayout.h"
-#include "grid/windows/SwatchPainter.h"
 #include "model/Pattern.h"
 
 namespace zol {

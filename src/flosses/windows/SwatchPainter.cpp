@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Korvanta contributors
 // SPDX-License-Identifier: MIT
 
-#include "grid/windows/SwatchPainter.h"
+#include "flosses/windows/SwatchPainter.h"
 
 #include <QPainter>
 #include <QPainterPath>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Korvanta contributors
 // SPDX-License-Identifier: MIT
 
-#include "grid/windows/FlossText.h"
+#include "flosses/windows/FlossText.h"
 
 #include <QLocale>
 
