@@ -216,27 +216,43 @@ void GridCanvas::PaintExposed(const QRegion& region) {
     for (const QRect& rect : region) {
         exposed += device.Covering(rect);
     }
-    if (exposed.rectCount() > 1) {
-        painter.setClipRegion(exposed);
-    }
+    const OverlayPainter overlay = OverlayOf(m_pattern != nullptr ? m_overlay : Overlay{});
+    const QRegion covered = overlay.Covered();
     for (const QRect& part : FewRectsOf(exposed)) {
-        PaintPart(painter, part);
-    }
-    if (m_pattern == nullptr || m_overlay == Overlay{}) {
-        return;
-    }
-    const OverlayPainter overlay = OverlayOf(m_overlay);
-    if (overlay.Covered().intersects(exposed)) {
-        painter.setClipRegion(exposed);
-        overlay.Paint(painter);
+        for (const QRect& band : BandsOf(part)) {
+            QImage image = PaintBand(band);
+            if (covered.intersects(band)) {
+                QPainter over(&image);
+                over.translate(-band.topLeft());
+                over.setClipRect(band);
+                overlay.Paint(over);
+            }
+            ShowBand(painter, band, image, exposed);
+        }
     }
 }
 
-void GridCanvas::PaintPart(QPainter& painter, const QRect& pixels) {
+std::vector<QRect> GridCanvas::BandsOf(const QRect& part) const {
+    const int rows = std::max(8, BandBytes / (part.width() * static_cast<int>(sizeof(QRgb))));
+    std::vector<QRect> bands;
+    for (int top = part.top(); top <= part.bottom();) {
+        int end = std::min(top + rows, part.bottom() + 1);
+        if (end <= part.bottom() && m_pattern != nullptr) {
+            // No row of squares is painted twice, if it has room.
+            const int edge = m_geometry.TopOf(m_geometry.RowAt(end));
+            end = edge > top ? edge : end;
+        }
+        bands.emplace_back(part.left(), top, part.width(), end - top);
+        top = end;
+    }
+    return bands;
+}
+
+QImage GridCanvas::PaintBand(const QRect& pixels) {
     const auto count =
         static_cast<std::size_t>(pixels.width()) * static_cast<std::size_t>(pixels.height());
-    m_part.resize(std::max(count, m_part.size()));
-    QImage image(reinterpret_cast<uchar*>(m_part.data()), pixels.width(), pixels.height(),
+    m_band.resize(std::max(count, m_band.size()));
+    QImage image(reinterpret_cast<uchar*>(m_band.data()), pixels.width(), pixels.height(),
                  static_cast<qsizetype>(pixels.width()) * 4, QImage::Format_RGB32);
     const bool whole =
         m_pattern != nullptr && QRect(QPoint(0, 0), m_geometry.GridSize()).contains(pixels);
@@ -246,7 +262,19 @@ void GridCanvas::PaintPart(QPainter& painter, const QRect& pixels) {
     if (m_pattern != nullptr) {
         m_painter.PaintImage(image, pixels.topLeft(), View(), m_geometry.Everything());
     }
-    painter.drawImage(pixels.topLeft(), image);
+    return image;
+}
+
+void GridCanvas::ShowBand(QPainter& painter, const QRect& band, const QImage& image,
+                          const QRegion& exposed) {
+    // A rectangle that lies wholly in what is exposed is copied as it is; one that the system had
+    // to cut would go to the screen in little pieces, handed from thread to thread.
+    for (const QRect& rect : exposed) {
+        const QRect shown = rect & band;
+        if (!shown.isEmpty()) {
+            painter.drawImage(shown.topLeft(), image, shown.translated(-band.topLeft()));
+        }
+    }
 }
 
 PointerEvent GridCanvas::EventOf(const QMouseEvent& event, PointerButton button) const {

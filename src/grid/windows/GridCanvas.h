@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QImage>
 #include <QRegion>
 #include <QWidget>
 
@@ -77,8 +78,17 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
+    /// Bytes of the pixels that a band holds.
+    static constexpr int BandBytes = 512 * 1024;
+
     void PaintExposed(const QRegion& region);
-    void PaintPart(QPainter& painter, const QRect& pixels);
+    /// A rectangle of device pixels from top to bottom in pieces that stay in the cache until they
+    /// are on the screen.
+    [[nodiscard]] std::vector<QRect> BandsOf(const QRect& part) const;
+    /// The design alone. The image is good until the next one.
+    [[nodiscard]] QImage PaintBand(const QRect& pixels);
+    static void ShowBand(QPainter& painter, const QRect& band, const QImage& image,
+                         const QRegion& exposed);
     void UpdatePixels(const QRegion& pixels);
     [[nodiscard]] class OverlayPainter OverlayOf(const Overlay& overlay) const;
     [[nodiscard]] PointerEvent EventOf(const QMouseEvent& event, PointerButton button) const;
@@ -94,7 +104,7 @@ private:
     PointerButton m_held = PointerButton::None;
     GridCursor m_cursor = GridCursor::Default;
     std::optional<Qt::CursorShape> m_hand;
-    std::vector<std::uint32_t> m_part; ///< pixels on their way to the screen
+    std::vector<std::uint32_t> m_band; ///< pixels on their way to the screen
 };
 
 } // namespace zol
