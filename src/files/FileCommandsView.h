@@ -6,20 +6,12 @@
 #include <optional>
 #include <string>
 
+#include "model/PatternInfo.h"
+
 namespace zol {
 
 /// What the user wants of a new pattern.
-struct NewPattern {
-    int Width = 100; ///< squares
-    int Height = 100;
-    int ClothCountX = 14;
-    int ClothCountY = 14;
-    std::string Title;
-    std::string Author;
-    std::string Copyright;
-    std::string Fabric;
-    std::string Instructions; ///< RTF if it begins with "{\\rtf", else plain text
-};
+using NewPattern = PatternInfo;
 
 /// What the file commands ask of the window. The window finds what stands open in the
 /// DesignHolder.

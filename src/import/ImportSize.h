@@ -6,11 +6,13 @@
 #include <optional>
 #include <string>
 
+#include "model/LengthUnits.h"
+
 namespace zol {
 
 /// Units of length that sizes are typed in; the value is how many make an inch.
 inline constexpr double CmPerUnitInches = 1;
-inline constexpr double CmPerUnitCentimetres = 2.54;
+inline constexpr double CmPerUnitCentimetres = CentimetresPerInch;
 
 /// A size in stitches.
 struct StitchSize {

@@ -4,6 +4,7 @@
 #include "print/FlossUsage.h"
 
 #include "flosses/Palette.h"
+#include "model/LengthUnits.h"
 #include "model/Rounding.h"
 #include "settings/Options.h"
 
@@ -15,7 +16,6 @@ namespace {
 enum CountKind { CountOfStitches = 0, CountOfBoth = 2, ThreadOfLines = 3, ThreadOfStitches = 4 };
 
 FlossUsageRow RowOf(const Pattern& pattern, int entry, bool inches) {
-    constexpr double CentimetresPerInch = 2.54;
     constexpr double SkeinLength = Options::SkeinStrands * Options::SkeinInches * SkeinShare;
     const Palette& palette = pattern.GetPalette();
     const double backThread = pattern.GetColorCount(ThreadOfLines, entry);

@@ -3,15 +3,10 @@
 
 #include "print/PrintRequest.h"
 
+#include "model/LengthUnits.h"
 #include "model/Rounding.h"
 
 namespace zol {
-
-namespace {
-
-constexpr double CentimetresPerInch = 2.54;
-
-} // namespace
 
 PrintRequestFault CheckPrintRequest(const PrintRequest& request) {
     if (request.GSPI == 0) {

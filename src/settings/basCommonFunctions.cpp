@@ -5,6 +5,8 @@
 
 #include <QLocale>
 
+#include "model/Rounding.h"
+
 namespace zol::basCommonFunctions {
 
 namespace {
@@ -67,6 +69,18 @@ int FilterNumericKey(const FieldState& field, int key, int maxBefore, int maxAft
 
 int FilterNumericKey(const FieldState& field, int key, int maxBefore, int maxAfter) {
     return FilterNumericKey(field, key, maxBefore, maxAfter, DecimalSeparator());
+}
+
+double FieldValue(const QString& text) {
+    QString number = text;
+    number.replace(DecimalSeparator(), QLatin1Char('.'));
+    return LeadingNumber(number.toStdString());
+}
+
+QString FieldText(const std::string& number) {
+    QString text = QString::fromStdString(number);
+    text.replace(QLatin1Char('.'), DecimalSeparator());
+    return text;
 }
 
 QString KeepNumericChars(const QString& text) {

@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <string>
+
 namespace zol::basCommonFunctions {
 
 /// A text field as a key filter sees it.
@@ -28,6 +30,12 @@ inline constexpr int NoLimit = 65535;
 
 /// The decimal separator of the locale, found in 2.5 as the locale writes it.
 [[nodiscard]] QChar DecimalSeparator();
+
+/// The number that a field's text begins with, written with the locale's separator or a point; 0 if
+/// there is none.
+[[nodiscard]] double FieldValue(const QString& text);
+/// A number with a point as its separator, as a field shows it: with the locale's.
+[[nodiscard]] QString FieldText(const std::string& number);
 
 /// The digits and full stops of a text, in order.
 [[nodiscard]] QString KeepNumericChars(const QString& text);

@@ -21,6 +21,11 @@ NumericFilter::NumericFilter(QLineEdit* field, int maxBefore, int maxAfter)
     }
 }
 
+void NumericFilter::SetLimits(int maxBefore, int maxAfter) {
+    m_maxBefore = maxBefore;
+    m_maxAfter = maxAfter;
+}
+
 bool NumericFilter::eventFilter(QObject* watched, QEvent* event) {
     if (watched != m_field && watched != m_field->focusProxy()) {
         return false;

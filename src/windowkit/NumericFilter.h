@@ -21,6 +21,9 @@ public:
     /// separator; basCommonFunctions::NoLimit for any number.
     NumericFilter(QLineEdit* field, int maxBefore, int maxAfter);
 
+    /// Other limits for the keys to come; what stands in the field stays.
+    void SetLimits(int maxBefore, int maxAfter);
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -3,6 +3,7 @@
 
 #include "windowkit/QuietStyle.h"
 
+#include <QMainWindow>
 #include <QPainter>
 #include <QStyleOption>
 #include <QWidget>
@@ -76,6 +77,12 @@ void QuietStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
 
 void QuietStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                              const QWidget* widget) const {
+    // Inside a dialog a bar lies on the ground of its page, which may be another.
+    const bool isInside = widget != nullptr && !widget->isWindow() &&
+                          qobject_cast<const QMainWindow*>(widget->window()) == nullptr;
+    if (element == CE_ToolBar && isInside) {
+        return;
+    }
     if (element == CE_ToolBar || element == CE_MenuBarEmptyArea) {
         painter->fillRect(option->rect, option->palette.color(QPalette::Window));
         return;

@@ -8,6 +8,7 @@
 
 #include "grid/windows/PaletteStrip.h"
 #include "gui/RunningProgram.h"
+#include "support/DialogDriver.h"
 
 namespace zol::test {
 
@@ -172,8 +173,16 @@ void FilesInWindowTest::NewAsksAndForgetsTheFile() {
     m_program->Click("New");
     QCOMPARE(m_program->User.asked.back().text, "Save " + Robin() + " ?");
     QVERIFY(m_program->Window().windowTitle().endsWith(QLatin1String("robin.pat")));
-    m_program->User.answers = {MessageAnswer::No};
+    m_program->User.answers = {MessageAnswer::No, MessageAnswer::No};
+    {
+        DialogDriver cancelled({[](QDialog& dialog) { dialog.reject(); }});
+        m_program->Click("New");
+        QVERIFY(cancelled.AllDone());
+    }
+    QVERIFY(m_program->Window().windowTitle().endsWith(QLatin1String("robin.pat")));
+    DialogDriver confirmed({[](QDialog& dialog) { dialog.accept(); }});
     m_program->Click("New");
+    QVERIFY(confirmed.AllDone());
     QCOMPARE(m_program->Window().windowTitle(), QStringLiteral("Korvanta - Unsaved Pattern"));
     QCOMPARE(m_program->Design().GetPatternWidth(), 100);
     QVERIFY(!m_program->Command("mnuEditUndo").isEnabled());

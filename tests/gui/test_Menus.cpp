@@ -8,6 +8,7 @@
 
 #include "grid/windows/MainCommands.h"
 #include "gui/RunningProgram.h"
+#include "support/DialogDriver.h"
 
 namespace zol::test {
 
@@ -272,7 +273,9 @@ void MenusTest::NewEnablesWhatAFontHadTakenAway() {
          {"mnuFileSave", "mnuFileSaveAs", "mnuPaintMode", "mnuEraseMode", "mnuViewGridLines"}) {
         program.Command(name).setEnabled(false);
     }
+    DialogDriver confirmed({[](QDialog& dialog) { dialog.accept(); }});
     program.Choose("mnuFileNew");
+    QVERIFY(confirmed.AllDone());
     for (const char* menu : {"mnuOptions", "mnuTools", "mnuLibs"}) {
         QVERIFY2(program.Find<QMenu>(menu)->menuAction()->isEnabled(), menu);
     }

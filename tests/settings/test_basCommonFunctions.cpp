@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 Korvanta contributors
 // SPDX-License-Identifier: MIT
 
+#include <QLocale>
+
 #include <gtest/gtest.h>
 
 #include "settings/basCommonFunctions.h"
@@ -75,6 +77,20 @@ TEST(FilterNumericKey, NoLimitMeansNone) {
 TEST(FilterNumericKey, FollowsTheLocalesSeparator) {
     EXPECT_EQ(FilterNumericKey({QStringLiteral("1"), 1, 0}, ',', 3, 3, QChar(u',')), ',');
     EXPECT_EQ(FilterNumericKey({QStringLiteral("1"), 1, 0}, '.', 3, 3, QChar(u',')), 0);
+}
+
+TEST(FieldValue, TakesTheLocalesSeparatorAndThePoint) {
+    EXPECT_EQ(FieldValue(QStringLiteral("7.143")), 7.143);
+    EXPECT_EQ(FieldValue(QStringLiteral(" 12 inches")), 12);
+    EXPECT_EQ(FieldValue(QStringLiteral("abc")), 0);
+    EXPECT_EQ(FieldValue(QStringLiteral("-5")), 0);
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German));
+    EXPECT_EQ(FieldValue(QStringLiteral("7,143")), 7.143);
+    EXPECT_EQ(FieldValue(QStringLiteral("7.143")), 7.143);
+    EXPECT_EQ(FieldText("7.143"), QStringLiteral("7,143"));
+    QLocale::setDefault(before);
+    EXPECT_EQ(FieldText("7.143"), QStringLiteral("7.143"));
 }
 
 TEST(KeepNumericChars, KeepsDigitsAndFullStopsInOrder) {

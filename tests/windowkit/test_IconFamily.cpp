@@ -22,7 +22,8 @@ namespace {
 
 QStringList Wanted() {
     return QStringLiteral(
-               "about add-rows cancel center-both center-horizontal center-vertical clear-palette "
+               "about add-rows align-center align-left align-right cancel center-both "
+               "center-horizontal center-vertical clear-palette "
                "color-key color-picker copy-to custom-stitches default-palette delete-rows "
                "display-black-symbols display-blocks-symbols display-color-squares "
                "display-color-stitches display-color-symbols display-virtual-stitches draw-editbox "
@@ -42,7 +43,8 @@ QStringList Wanted() {
                "status-bar stitch-bth stitch-custom stitch-fknot stitch-ll3q stitch-llq "
                "stitch-lr3q "
                "stitch-lrq stitch-s3q stitch-sq stitch-tbh stitch-ul3q stitch-ulq stitch-ur3q "
-               "stitch-urq stitch-whole stitched-fonts tips toolbar view-pattern warning zoom "
+               "stitch-urq stitch-whole stitched-fonts text-bold text-bullets text-color "
+               "text-italic text-underline tips toolbar view-pattern warning zoom "
                "zoom-in "
                "zoom-out zoom-previous zoom-setting zoom-tool")
         .split(QLatin1Char(' '));

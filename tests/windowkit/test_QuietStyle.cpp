@@ -96,6 +96,18 @@ private Q_SLOTS:
         QVERIFY(off.size() > 1);
     }
 
+    void ABarInsideADialogShowsTheGroundOfItsPage() {
+        qputenv("KORVANTA_THEME", "light");
+        Theme::Apply(*qApp);
+        QWidget page;
+        page.setPalette(QPalette(Qt::green));
+        auto* bar = new QToolBar(&page);
+        bar->setPalette(Theme::Palette(Theme::Look::Light));
+        bar->resize(60, 30);
+        const QColor ground = page.palette().color(QPalette::Window);
+        QCOMPARE(Seen(page, QRect(50, 20, 1, 1)).pixelColor(0, 0), ground);
+    }
+
     void ATabbedToToolButtonIsRinged_data() { AddRowPerLook(); }
     void ATabbedToToolButtonIsRinged() {
         TakeLook();

@@ -115,4 +115,20 @@ PALETTE = {
     ],
 }
 
-ICONS = {**FILES, **LIBRARY, **PALETTE}
+def lines(*rows):
+    """Lines of text by left and right end."""
+    return stroke("".join(f"M{left} {y}H{end}" for y, (left, end) in zip((0.5, 4, 7.5, 11), rows)))
+
+
+TEXT_LOOKS = {
+    "text-bold": [stroke("M2 0H5.5A2.7 2.7 0 0 1 5.5 5.2H2ZM2 5.2H6.2A2.9 2.9 0 0 1 6.2 11H2Z", TEXT, 1.5)],
+    "text-italic": [stroke("M4 0H9M2 11H7M6.5 0L4.5 11")],
+    "text-underline": [stroke("M2 0V4A3.5 3.5 0 0 0 9 4V0"), stroke("M1 11H10", ACCENT)],
+    "text-color": [stroke("M1.5 7.5L5.5 -0.5L9.5 7.5M3 5H8"), block(0, 9.5, 11, 2, ACCENT)],
+    "text-bullets": [disc(1, 1.5, 1.1, ACCENT), disc(1, 8.5, 1.1, ACCENT), stroke("M4 1.5H11M4 5H8M4 8.5H11")],
+    "align-left": [lines((0, 11), (0, 6), (0, 11), (0, 4))],
+    "align-center": [lines((0, 11), (3, 8), (0, 11), (4, 7))],
+    "align-right": [lines((0, 11), (5, 11), (0, 11), (7, 11))],
+}
+
+ICONS = {**FILES, **LIBRARY, **PALETTE, **TEXT_LOOKS}

@@ -22,6 +22,7 @@
 #include "grid/windows/MainMenus.h"
 #include "grid/windows/MainToolBars.h"
 #include "grid/windows/PaletteStrip.h"
+#include "grid/windows/PropertiesCommands.h"
 #include "grid/windows/StatusLine.h"
 #include "grid/windows/ViewCommands.h"
 #include "grid/windows/WindowPlace.h"
@@ -148,7 +149,7 @@ void frmDesignGrid::ShowSummary(const std::string& text) {
 }
 
 std::optional<NewPattern> frmDesignGrid::AskNewPattern(const NewPattern& defaults) {
-    return defaults;
+    return m_properties->AskNewPattern(defaults);
 }
 
 bool frmDesignGrid::IsInLongMode() const {

@@ -30,6 +30,7 @@ class MainCommands;
 class MainMenus;
 class MainToolBars;
 class PaletteStrip;
+class PropertiesCommands;
 class StatusLine;
 class ViewCommands;
 
@@ -113,6 +114,7 @@ private:
     std::unique_ptr<FileMenu> m_fileMenu;
     std::unique_ptr<ViewCommands> m_view;
     std::unique_ptr<DesignCommands> m_design;
+    std::unique_ptr<PropertiesCommands> m_properties;
 };
 
 } // namespace zol

@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "files/FileCommands.h"
+#include "grid/FileCommandTexts.h"
 #include "grid/tools/BackstitchTool.h"
 #include "grid/tools/DrawModes.h"
 #include "grid/windows/DesignCommands.h"
@@ -22,6 +23,7 @@
 #include "grid/windows/MainMenus.h"
 #include "grid/windows/MainToolBars.h"
 #include "grid/windows/PaletteStrip.h"
+#include "grid/windows/PropertiesCommands.h"
 #include "grid/windows/StatusLine.h"
 #include "grid/windows/ViewCommands.h"
 #include "grid/windows/ZoomControl.h"
@@ -114,6 +116,14 @@ void frmDesignGrid::SetUpCommands() {
                                       FollowTool();
                                       m_design->RefreshEnabling();
                                   }});
+    m_properties = std::make_unique<PropertiesCommands>(
+        *m_commands, m_workshop, *this,
+        PropertiesCommands::Followers{[this] { EndTool(); },
+                                      [this] {
+                                          FollowDesign();
+                                          ShowSummary(
+                                              FileCommandTexts::Summary(m_workshop.Open.Design()));
+                                      }});
     m_commands->Connect("mnuFileExit", this, [this] { close(); });
     SetUpZoomCommands();
 }
