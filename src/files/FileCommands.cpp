@@ -242,6 +242,7 @@ bool FileCommands::CheckSave(bool leavingTextMode) {
         }
         m_desk.View.LeaveTextMode();
     }
+    m_desk.View.SettleFloating();
     const OpenDesign& design = m_desk.Open.Get();
     if (!design.GetPattern().IsChanged()) {
         return true;
@@ -272,6 +273,7 @@ bool FileCommands::MaySave() {
                              MessageIcon::Exclamation, "Saving your pattern");
         return false;
     }
+    m_desk.View.SettleFloating();
     const Pattern& pattern = m_desk.Open.Design();
     if (pattern.GetPatternWidth() < 1 || pattern.GetPatternHeight() < 1) {
         m_desk.Messages.TellMore("A pattern without squares cannot be saved.",

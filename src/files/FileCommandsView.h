@@ -21,6 +21,9 @@ public:
 
     /// The wait cursor on or off; calls come in pairs and may nest.
     virtual void SetBusy(bool busy) = 0;
+    /// What floats over the grid lands in the design: what is asked about and saved is what the
+    /// user sees.
+    virtual void SettleFloating() {}
     /// Before another design comes onto the grid: strokes, selections and floating blocks are let
     /// go, not written back.
     virtual void ResetTools() = 0;

@@ -4,6 +4,8 @@
 #include "grid/basEditBox.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <string>
 
 namespace zol::basEditBox {
 
@@ -38,9 +40,43 @@ void CopyLines(const Pattern& source, const SquareRect& rect, Pattern& target,
     }
 }
 
+/// Tells of squares taken, once for each tenth of them.
+class Tenths {
+public:
+    Tenths(ProgressDoor* progress, const std::string& text, int total)
+        : m_progress(progress),
+          m_total(total) {
+        if (m_progress != nullptr) {
+            m_progress->StartStatus(text, total);
+        }
+    }
+    ~Tenths() {
+        if (m_progress != nullptr) {
+            m_progress->StopStatus();
+        }
+    }
+    Tenths(const Tenths&) = delete;
+    Tenths& operator=(const Tenths&) = delete;
+
+    void Took(int squares) {
+        m_done += squares;
+        if (m_progress != nullptr && std::int64_t{m_done} * 10 >= std::int64_t{m_total} * m_next) {
+            m_next = static_cast<int>(std::int64_t{m_done} * 10 / m_total) + 1;
+            m_progress->UpdateStatus(m_done);
+        }
+    }
+
+private:
+    ProgressDoor* m_progress;
+    int m_total;
+    int m_done = 0;
+    int m_next = 1; ///< the tenth that is told of next
+};
+
 } // namespace
 
-Pattern PickUpSelection(const Pattern& source, const SquareRect& rect, std::optional<int> recolor) {
+Pattern PickUpSelection(const Pattern& source, const SquareRect& rect, std::optional<int> recolor,
+                        ProgressDoor* progress) {
     Pattern content(source.Context());
     content.Initialize(rect.Right - rect.Left + 1, rect.Bottom - rect.Top + 1,
                        source.GetPatternClothCountX(), source.GetPatternClothCountY());
@@ -51,10 +87,13 @@ Pattern PickUpSelection(const Pattern& source, const SquareRect& rect, std::opti
         }
     }
     source.GetPalette().CreateCopy(content.GetPalette());
+    const int height = rect.Bottom - rect.Top + 1;
+    Tenths tenths(progress, "Selecting Area", (rect.Right - rect.Left + 1) * height);
     for (int x = rect.Left; x <= rect.Right; ++x) {
         for (int y = rect.Top; y <= rect.Bottom; ++y) {
             CopySquare(source, x, y, content, x - rect.Left + 1, y - rect.Top + 1, recolor);
         }
+        tenths.Took(height);
     }
     CopyLines(source, rect, content, recolor);
     return content;

@@ -33,9 +33,10 @@ private:
 namespace basEditBox {
 
 /// The rectangle's stitches and the lines that lie in it as a pattern of its own, at the source's
-/// cloth counts. With `recolor` everything takes that floss.
+/// cloth counts. With `recolor` everything takes that floss. `progress` hears of every tenth.
 [[nodiscard]] Pattern PickUpSelection(const Pattern& source, const SquareRect& rect,
-                                      std::optional<int> recolor = std::nullopt);
+                                      std::optional<int> recolor = std::nullopt,
+                                      ProgressDoor* progress = nullptr);
 
 /// Removes every stitch of the rectangle and each line that lies in it.
 void EraseArea(Pattern& pattern, const SquareRect& rect);

@@ -16,6 +16,7 @@
 
 #include "grid/painting/BackStitchLines.h"
 #include "grid/painting/GridPainter.h"
+#include "grid/tools/FloatingPicture.h"
 #include "grid/tools/OverlayPainter.h"
 #include "gui/Mouse.h"
 #include "gui/RunningProgram.h"
@@ -172,7 +173,11 @@ private:
         style.LineWidth = GetBackStitchPenWidth(view);
         QPainter over(&image);
         over.translate(-origin);
-        OverlayPainter(canvas.GetOverlay(), Area().Geometry(), style).Paint(over);
+        const OverlayPainter overlay(canvas.GetOverlay(), Area().Geometry(), style);
+        FloatingPicture floating;
+        overlay.PaintContent(over, floating, canvas.GetPaintOptions(),
+                             rect.translated(-CanvasCorner()));
+        overlay.Paint(over);
         return image;
     }
 };

@@ -7,6 +7,8 @@
 
 #include "grid/tools/BackstitchTool.h"
 #include "grid/tools/ColorPickerTool.h"
+#include "grid/tools/EditBox.h"
+#include "grid/tools/EditBoxTool.h"
 #include "grid/tools/EraseTool.h"
 #include "grid/tools/PaintTool.h"
 #include "grid/tools/StitchTool.h"
@@ -32,6 +34,8 @@ DrawModes::DrawModes(ToolDesk desk, DrawModeListener& listener)
       m_listener(listener),
       m_stitches(std::make_unique<StitchTool>(desk)),
       m_lines(std::make_unique<BackstitchTool>(desk)),
+      m_box(std::make_unique<EditBox>(desk)),
+      m_boxTool(std::make_unique<EditBoxTool>(desk, *m_box)),
       m_zoom(std::make_unique<ZoomTool>(desk)),
       m_paint(std::make_unique<PaintTool>(desk,
                                           [this] {
@@ -54,6 +58,8 @@ Tool* DrawModes::ToolOf(DrawMode mode) const {
         return m_stitches.get();
     case DrawLines:
         return m_lines.get();
+    case DrawEditBox:
+        return m_boxTool.get();
     case DrawZoom:
         return m_zoom.get();
     case DrawPaintOnce:
@@ -73,6 +79,7 @@ void DrawModes::SetDrawMode(DrawMode mode) {
         return;
     }
     Current().Cancel();
+    m_box->DropEditBox(false);
     m_mode = mode;
     if (IsBaseMode(mode)) {
         m_baseMode = mode;
@@ -225,6 +232,14 @@ void DrawModes::Escape() {
     }
 }
 
+void DrawModes::Nudge(int columns, int rows) {
+    Current().Nudge(columns, rows);
+}
+
+void DrawModes::Confirm() {
+    Current().Confirm();
+}
+
 void DrawModes::ShowStatus(int column, int row) {
     const Pattern& design = m_desk.Design();
     const int floss = design.GetStitchPaletteIndex(column, row);
@@ -235,6 +250,7 @@ void DrawModes::ShowStatus(int column, int row) {
 
 Overlay DrawModes::GetOverlay() const {
     Overlay overlay = Current().GetOverlay();
+    m_box->ShowIn(overlay);
     if (m_desk.Mirror.IsMirrorActive()) {
         overlay.Mirror =
             OverlayAxis{m_desk.Mirror.GetMirrorAxis(), m_desk.Mirror.GetMirrorCentre()};

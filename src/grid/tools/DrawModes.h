@@ -12,6 +12,7 @@
 namespace zol {
 
 class BackstitchTool;
+class EditBox;
 class EraseTool;
 class PaintTool;
 
@@ -37,8 +38,8 @@ public:
     DrawModes(const DrawModes&) = delete;
     DrawModes& operator=(const DrawModes&) = delete;
 
-    /// Ends any open tool first. Mode 9 is refused while painting: there erase is a flag of the
-    /// paint tool. Modes whose tool is not there yet (3 and 5) are refused too.
+    /// Ends any open tool and drops the edit box first. Mode 9 is refused while painting: there
+    /// erase is a flag of the paint tool. Mode 5, whose tool is not there yet, is refused too.
     void SetDrawMode(DrawMode mode);
     [[nodiscard]] DrawMode GetDrawMode() const { return m_mode; }
     /// Back to the last mode other than the zoom tool.
@@ -71,11 +72,18 @@ public:
     void Release(const PointerEvent& event);
     /// Escape: ends what the tool has under way, or a mode other than stitches and lines.
     void Escape();
+    /// An arrow key: moves what the tool holds by a square.
+    void Nudge(int columns, int rows);
+    /// Enter: what the tool holds is done with.
+    void Confirm();
 
     [[nodiscard]] Overlay GetOverlay() const;
     [[nodiscard]] GridCursor Cursor() const;
     /// The tool of mode 2, for the commands of its menu.
     [[nodiscard]] BackstitchTool& Lines() { return *m_lines; }
+    /// Of mode 3, and of what else lets a block float.
+    [[nodiscard]] EditBox& Box() { return *m_box; }
+    [[nodiscard]] const EditBox& Box() const { return *m_box; }
 
 private:
     /// Null for a mode without a tool.
@@ -102,6 +110,8 @@ private:
     bool m_mirrorHolds = false; ///< the right button is down and was the mirror's
     std::unique_ptr<Tool> m_stitches;
     std::unique_ptr<BackstitchTool> m_lines;
+    std::unique_ptr<EditBox> m_box;
+    std::unique_ptr<Tool> m_boxTool;
     std::unique_ptr<Tool> m_zoom;
     std::unique_ptr<PaintTool> m_paint;
     std::unique_ptr<Tool> m_picker;

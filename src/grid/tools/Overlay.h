@@ -3,8 +3,10 @@
 
 #pragma once
 
+#include <memory>
 #include <optional>
 
+#include "model/Pattern.h"
 #include "model/ZOLTypes.h"
 
 namespace zol {
@@ -25,11 +27,22 @@ struct OverlayAxis {
     friend bool operator==(const OverlayAxis&, const OverlayAxis&) = default;
 };
 
+/// A block that floats over the design. Two are the same if they show the same object: what it
+/// holds is exchanged, never changed, while it floats.
+struct OverlayContent {
+    std::shared_ptr<const Pattern> Block;
+    SquarePos At;          ///< square of the design that the block's square (1, 1) lies on
+    bool IsMoving = false; ///< the pointer holds it
+
+    friend bool operator==(const OverlayContent&, const OverlayContent&) = default;
+};
+
 /// What lies over the design on the screen and is no part of it. Tools keep it as plain state; it
 /// is painted last, over whatever lies beneath.
 struct Overlay {
     std::optional<OverlayLine> RubberBand; ///< a line whose second end follows the pointer
     std::optional<OverlayLine> Handles;    ///< the two ends of the selected line
+    std::optional<OverlayContent> Content; ///< lies below all else of the overlay
     std::optional<SquareRect> Frame;       ///< a selection
     std::optional<OverlayAxis> Mirror;
 

@@ -14,6 +14,7 @@
 
 #include "grid/painting/Capsule.h"
 #include "grid/painting/PixelMasks.h"
+#include "grid/tools/FloatingPicture.h"
 
 namespace zol {
 
@@ -177,6 +178,9 @@ void PaintBand(QPainter& painter, const QLineF& band, const Layout& layout,
 QRegion OverlayPainter::Covered() const {
     const Layout layout(m_geometry, m_style.LineWidth);
     QRegion region;
+    if (m_overlay.Content) {
+        region += FloatingPicture::Covered(*m_overlay.Content, m_geometry);
+    }
     if (m_overlay.Mirror) {
         const QRect axis = layout.AxisOf(*m_overlay.Mirror);
         region += axis.isEmpty() ? axis : Widened(axis, layout.Casing());
@@ -200,6 +204,13 @@ QRegion OverlayPainter::Covered() const {
         }
     }
     return region;
+}
+
+void OverlayPainter::PaintContent(QPainter& painter, FloatingPicture& picture,
+                                  const PaintOptions& options, const QRect& wanted) const {
+    if (m_overlay.Content) {
+        picture.Paint(painter, *m_overlay.Content, m_geometry, options, wanted);
+    }
 }
 
 void OverlayPainter::Paint(QPainter& painter) const {

@@ -15,6 +15,12 @@ public:
     void StartSelection(int column, int row);
     /// Draws the box from the anchor to a square. Nothing while no box is being drawn out.
     void TrackSelection(int column, int row);
+    /// The box is there at once, or somewhere else: nothing is drawn out.
+    void SetBox(const SquareRect& box) {
+        m_active = true;
+        m_selecting = false;
+        m_box = box;
+    }
     /// The box stays as it is.
     void EndSelection() { m_selecting = false; }
     void Clear() { *this = SelectionFrame(); }

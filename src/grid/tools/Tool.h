@@ -36,6 +36,10 @@ public:
     /// Ends what is under way and takes its overlay away. Called whenever the draw mode changes
     /// and when the user presses Escape. False if there was nothing to end.
     virtual bool Cancel() { return false; }
+    /// An arrow key: one of the two is 1 or -1. False if there is nothing that it moves.
+    virtual bool Nudge(int /*columns*/, int /*rows*/) { return false; }
+    /// The Enter key: what floats is done with. False if there was nothing.
+    virtual bool Confirm() { return false; }
 
     [[nodiscard]] virtual Overlay GetOverlay() const { return {}; }
     [[nodiscard]] virtual GridCursor Cursor() const { return GridCursor::Default; }

@@ -37,6 +37,8 @@ public:
     virtual void OverlayChanged() = 0;
     /// Stitches, flosses or the size have changed everywhere.
     virtual void DesignChanged() = 0;
+    /// Flosses have joined the palette; no stitch has changed by that.
+    virtual void FlossesChanged() = 0;
 
     virtual void SetGridCursor(GridCursor kind) = 0;
     /// The hourglass, for work that holds the window; calls nest.
@@ -49,6 +51,10 @@ public:
 
     /// Shows these squares as large as the window allows.
     virtual void ZoomToFrame(const SquareRect& frame) = 0;
+    /// The squares that show, also in part.
+    [[nodiscard]] virtual SquareRect VisibleRange() const = 0;
+    /// Scrolls by one square, across and down, towards squares that do not show. Nothing if all do.
+    virtual void ScrollTowards(const SquareRect& rect) = 0;
     /// Opens the menu of a backstitch line at the pointer and waits until it closes. `lineStyle`
     /// is the selected line's, -1 without one.
     virtual void OpenLineMenu(int lineStyle) = 0;

@@ -52,6 +52,7 @@ void Undo::BeginUndo(UndoKind kind, const std::string& label) {
     Pattern& design = m_open.Design();
     m_available = false;
     m_stepOpen = true;
+    ++m_stepNumber;
     m_label = label;
     m_kind = kind;
     m_strokeRect = {std::max(design.GetPatternWidth(), 1), std::max(design.GetPatternHeight(), 1),
@@ -71,6 +72,16 @@ void Undo::BeginUndo(UndoKind kind, const std::string& label) {
                             PathText(m_snapshotFile) + ": " + reason + ". The step goes on.");
         }
     }
+}
+
+void Undo::ContinueUndo(const std::string& label) {
+    if (!m_available) {
+        return;
+    }
+    m_available = false;
+    m_stepOpen = true;
+    m_label = label;
+    m_recording = m_kind == UndoKind::Squares || m_kind == UndoKind::CustomStitch;
 }
 
 void Undo::EndUndo() {

@@ -57,8 +57,13 @@ public:
     /// A snapshot that cannot be written is told at the message door; the command goes on, and
     /// its step will not be offered.
     void BeginUndo(UndoKind kind, const std::string& label);
+    /// The last finished step goes on under another name: undoing it takes both back. Without a
+    /// finished step nothing happens. To be closed by EndUndo.
+    void ContinueUndo(const std::string& label);
     /// Without an open step nothing happens.
     void EndUndo();
+    /// Another number for each BeginUndo.
+    [[nodiscard]] int StepNumber() const { return m_stepNumber; }
     /// Takes the last finished step back. Nothing happens without one.
     void PerformUndo();
     void ClearUndo();
@@ -113,6 +118,7 @@ private:
     std::filesystem::path m_snapshotFile;
     UndoView* m_view = nullptr;
     bool m_stepOpen = false;
+    int m_stepNumber = 0;
     bool m_available = false;
     bool m_recording = false;
     bool m_hasSnapshot = false; ///< of this step
@@ -136,12 +142,18 @@ public:
             m_steps->EndUndo();
         }
     }
+    [[nodiscard]] static UndoStep Continue(Undo& steps, const std::string& label) {
+        steps.ContinueUndo(label);
+        return UndoStep(steps);
+    }
     UndoStep(UndoStep&& other) noexcept : m_steps(std::exchange(other.m_steps, nullptr)) {}
     UndoStep(const UndoStep&) = delete;
     UndoStep& operator=(const UndoStep&) = delete;
     UndoStep& operator=(UndoStep&&) = delete;
 
 private:
+    explicit UndoStep(Undo& steps) : m_steps(&steps) {}
+
     Undo* m_steps;
 };
 

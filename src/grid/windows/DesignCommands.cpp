@@ -46,12 +46,7 @@ void DesignCommands::ConnectCommands() {
 }
 
 void DesignCommands::EnableForNewDesign() {
-    for (const char* menu : {"mnuEditFlip", "mnuEditRotate"}) {
-        m_menus.At(menu).setEnabled(false);
-    }
-    m_commands.SetEnabled({"mnuEditCut", "mnuEditCopy", "mnuEditPaste", "mnuEditErase",
-                           "mnuEditCopyTo", "mnuLibAddEditBox"},
-                          false);
+    m_commands.SetEnabled({"mnuLibAddEditBox"}, false);
     for (const char* menu : {"mnuOptions", "mnuTools", "mnuLibs"}) {
         m_menus.At(menu).setEnabled(true);
     }

@@ -90,6 +90,8 @@ void GridArea::ConnectParts() {
     connect(m_canvas, &GridCanvas::Released, this, &GridArea::Released);
     connect(m_canvas, &GridCanvas::PointerLeft, this, &GridArea::PointerLeft);
     connect(m_canvas, &GridCanvas::EscapePressed, this, &GridArea::EscapePressed);
+    connect(m_canvas, &GridCanvas::ArrowPressed, this, &GridArea::ArrowPressed);
+    connect(m_canvas, &GridCanvas::EnterPressed, this, &GridArea::EnterPressed);
     connect(&m_zoom, &ZoomControl::ZoomChanged, this, &GridArea::ZoomChanged);
     connect(m_across, &QScrollBar::valueChanged, this,
             [this](int column) { ScrollGrid(column, m_first.Y, false); });
@@ -229,6 +231,16 @@ void GridArea::ScrollGrid(int column, int row, bool force) {
     if (moved) {
         Q_EMIT Scrolled();
     }
+}
+
+void GridArea::ScrollTowards(const SquareRect& rect) {
+    const SquareRect shown = GetVisibleRange();
+    // One that reaches out on both sides stays.
+    const auto step = [](int first, int last, int from, int to) {
+        return (last > to ? 1 : 0) - (first < from ? 1 : 0);
+    };
+    ScrollGrid(m_first.X + step(rect.Left, rect.Right, shown.Left, shown.Right),
+               m_first.Y + step(rect.Top, rect.Bottom, shown.Top, shown.Bottom), false);
 }
 
 SquareRect GridArea::GetVisibleRange() const {

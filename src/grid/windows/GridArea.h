@@ -54,6 +54,8 @@ public:
     void ScrollGrid(int column, int row, bool force);
     [[nodiscard]] int FirstColumn() const { return m_first.X; }
     [[nodiscard]] int FirstRow() const { return m_first.Y; }
+    /// One square further, across and down, towards squares that do not show whole.
+    void ScrollTowards(const SquareRect& rect);
     /// The squares that show, also in part; empty without a pattern.
     [[nodiscard]] SquareRect GetVisibleRange() const;
     /// The largest percent at which the squares fit the room; not brought into 1 to 1000.
@@ -70,6 +72,8 @@ Q_SIGNALS:
     void Released(const zol::PointerEvent& event);
     void PointerLeft();
     void EscapePressed();
+    void ArrowPressed(int columns, int rows);
+    void EnterPressed();
     void ZoomChanged(int percent);
     /// The square at the upper left corner has changed.
     void Scrolled();

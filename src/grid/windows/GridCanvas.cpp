@@ -84,12 +84,14 @@ GridCanvas::GridCanvas(GridPainter& painter, QWidget* parent)
 void GridCanvas::SetPattern(const Pattern* pattern) {
     m_pattern = pattern;
     m_dirty = {1, 1, 0, 0};
+    m_behind.Forget();
     update();
 }
 
 void GridCanvas::SetPaintOptions(const PaintOptions& options) {
     if (m_options != options) {
         m_options = options;
+        m_behind.Forget();
         update();
     }
 }
@@ -100,6 +102,7 @@ void GridCanvas::ArrangeAt(int zoom) {
         m_pattern != nullptr ? GridGeometry(*m_pattern, zoom, ratio) : GridGeometry();
     if (geometry != m_geometry) {
         m_geometry = geometry;
+        m_behind.Forget();
         update();
     }
     const QSize pixels = m_pattern != nullptr ? m_geometry.GridSize() : QSize(0, 0);
@@ -135,8 +138,10 @@ void GridCanvas::RedrawSquares(const SquareRect& rect) {
     const int pen = GetBackStitchPenWidth(View()) + 1;
     const int across = static_cast<int>(std::ceil(scale.SquareTwipsX / scale.TwipsPerPixelX / 2));
     const int down = static_cast<int>(std::ceil(scale.SquareTwipsY / scale.TwipsPerPixelY / 2));
-    UpdatePixels(
-        m_geometry.PixelsOf(cut).adjusted(-across - pen, -down - pen, across + pen, down + pen));
+    const QRect pixels =
+        m_geometry.PixelsOf(cut).adjusted(-across - pen, -down - pen, across + pen, down + pen);
+    m_behind.Forget(pixels);
+    UpdatePixels(pixels);
 }
 
 void GridCanvas::HoldGridPaint(bool hold) {
@@ -155,6 +160,10 @@ void GridCanvas::SetOverlay(const Overlay& overlay) {
     UpdatePixels(OverlayOf(m_overlay).Covered());
     m_overlay = overlay;
     UpdatePixels(OverlayOf(m_overlay).Covered());
+    if (!m_overlay.Content) {
+        m_behind.Forget();
+        m_floating.Clear();
+    }
 }
 
 OverlayPainter GridCanvas::OverlayOf(const Overlay& overlay) const {
@@ -218,13 +227,15 @@ void GridCanvas::PaintExposed(const QRegion& region) {
     }
     const OverlayPainter overlay = OverlayOf(m_pattern != nullptr ? m_overlay : Overlay{});
     const QRegion covered = overlay.Covered();
+    const QRect shown = device.Covering(visibleRegion().boundingRect());
     for (const QRect& part : FewRectsOf(exposed)) {
         for (const QRect& band : BandsOf(part)) {
-            QImage image = PaintBand(band);
+            QImage image = PaintBand(band, shown);
             if (covered.intersects(band)) {
                 QPainter over(&image);
                 over.translate(-band.topLeft());
                 over.setClipRect(band);
+                overlay.PaintContent(over, m_floating, m_options, band);
                 overlay.Paint(over);
             }
             ShowBand(painter, band, image, exposed);
@@ -248,21 +259,31 @@ std::vector<QRect> GridCanvas::BandsOf(const QRect& part) const {
     return bands;
 }
 
-QImage GridCanvas::PaintBand(const QRect& pixels) {
+QImage GridCanvas::PaintBand(const QRect& pixels, const QRect& shown) {
     const auto count =
         static_cast<std::size_t>(pixels.width()) * static_cast<std::size_t>(pixels.height());
     m_band.resize(std::max(count, m_band.size()));
     QImage image(reinterpret_cast<uchar*>(m_band.data()), pixels.width(), pixels.height(),
                  static_cast<qsizetype>(pixels.width()) * 4, QImage::Format_RGB32);
+    if (m_pattern != nullptr && m_overlay.Content) {
+        m_behind.CopyTo(image, pixels.topLeft(), shown,
+                        [this](QImage& part, QPoint corner) { PaintCloth(part, corner); });
+    } else {
+        PaintCloth(image, pixels.topLeft());
+    }
+    return image;
+}
+
+void GridCanvas::PaintCloth(QImage& image, QPoint corner) {
     const bool whole =
-        m_pattern != nullptr && QRect(QPoint(0, 0), m_geometry.GridSize()).contains(pixels);
+        m_pattern != nullptr &&
+        QRect(QPoint(0, 0), m_geometry.GridSize()).contains(QRect(corner, image.size()));
     if (!whole) {
         image.fill(ToRgb(m_options.ClothColor));
     }
     if (m_pattern != nullptr) {
-        m_painter.PaintImage(image, pixels.topLeft(), View(), m_geometry.Everything());
+        m_painter.PaintImage(image, corner, View(), m_geometry.Everything());
     }
-    return image;
 }
 
 void GridCanvas::ShowBand(QPainter& painter, const QRect& band, const QImage& image,
@@ -326,11 +347,29 @@ void GridCanvas::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void GridCanvas::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape) {
+    switch (event->key()) {
+    case Qt::Key_Escape:
         Q_EMIT EscapePressed();
-        return;
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        Q_EMIT EnterPressed();
+        break;
+    case Qt::Key_Left:
+        Q_EMIT ArrowPressed(-1, 0);
+        break;
+    case Qt::Key_Right:
+        Q_EMIT ArrowPressed(1, 0);
+        break;
+    case Qt::Key_Up:
+        Q_EMIT ArrowPressed(0, -1);
+        break;
+    case Qt::Key_Down:
+        Q_EMIT ArrowPressed(0, 1);
+        break;
+    default:
+        QWidget::keyPressEvent(event);
     }
-    QWidget::keyPressEvent(event);
 }
 
 void GridCanvas::leaveEvent(QEvent* event) {

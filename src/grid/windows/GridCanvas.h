@@ -13,7 +13,9 @@
 
 #include "grid/GridGeometry.h"
 #include "grid/painting/GridView.h"
+#include "grid/tools/FloatingPicture.h"
 #include "grid/tools/Tool.h"
+#include "grid/windows/ClothBehind.h"
 
 namespace zol {
 
@@ -67,6 +69,9 @@ Q_SIGNALS:
     /// The pointer has left the cloth.
     void PointerLeft();
     void EscapePressed();
+    /// Which way: one of the two is 1 or -1.
+    void ArrowPressed(int columns, int rows);
+    void EnterPressed();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -85,8 +90,10 @@ private:
     /// A rectangle of device pixels from top to bottom in pieces that stay in the cache until they
     /// are on the screen.
     [[nodiscard]] std::vector<QRect> BandsOf(const QRect& part) const;
-    /// The design alone. The image is good until the next one.
-    [[nodiscard]] QImage PaintBand(const QRect& pixels);
+    /// The design alone; `shown` is all of it that shows. The image is good until the next one.
+    [[nodiscard]] QImage PaintBand(const QRect& pixels, const QRect& shown);
+    /// The design into all of an image; its upper left pixel is `corner` of the grid.
+    void PaintCloth(QImage& image, QPoint corner);
     static void ShowBand(QPainter& painter, const QRect& band, const QImage& image,
                          const QRegion& exposed);
     void UpdatePixels(const QRegion& pixels);
@@ -105,6 +112,8 @@ private:
     GridCursor m_cursor = GridCursor::Default;
     std::optional<Qt::CursorShape> m_hand;
     std::vector<std::uint32_t> m_band; ///< pixels on their way to the screen
+    ClothBehind m_behind;              ///< holds something while a block floats, as the next does
+    FloatingPicture m_floating;
 };
 
 } // namespace zol

@@ -59,6 +59,14 @@ void GridToolView::ZoomToFrame(const SquareRect& frame) {
     m_area.ZoomToFrame(frame);
 }
 
+SquareRect GridToolView::VisibleRange() const {
+    return m_area.GetVisibleRange();
+}
+
+void GridToolView::ScrollTowards(const SquareRect& rect) {
+    m_area.ScrollTowards(rect);
+}
+
 void ShowBusy(bool busy) {
     if (busy) {
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);

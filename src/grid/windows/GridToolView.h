@@ -22,6 +22,7 @@ public:
         std::function<void()> DesignChanged;
         std::function<void(int lineStyle)> OpenLineMenu;
         std::function<void()> DropFloating;
+        std::function<void()> FlossesChanged;
     };
 
     GridToolView(GridArea& area, StatusLine& status, Followers followers);
@@ -30,11 +31,14 @@ public:
     void RedrawSquares(const SquareRect& rect) override;
     void OverlayChanged() override { m_followers.OverlayChanged(); }
     void DesignChanged() override { m_followers.DesignChanged(); }
+    void FlossesChanged() override { m_followers.FlossesChanged(); }
     void SetGridCursor(GridCursor kind) override;
     void SetBusy(bool busy) override;
     void ShowPlace(const std::string& text) override;
     void ShowFloss(const std::string& text) override;
     void ZoomToFrame(const SquareRect& frame) override;
+    [[nodiscard]] SquareRect VisibleRange() const override;
+    void ScrollTowards(const SquareRect& rect) override;
     void OpenLineMenu(int lineStyle) override { m_followers.OpenLineMenu(lineStyle); }
     void DropFloating() override { m_followers.DropFloating(); }
 

@@ -48,7 +48,7 @@ constexpr MainCommand Table[] = {
     {"mnuLoadPalette", "&Load Palette...", "Take the flosses from a file", "", "load-palette", false, true},
     {"mnuDrawModeStitches", "&Stitches", "Draw stitches", "F2", "draw-stitches", true, true},
     {"mnuDrawModeLines", "Backstitch &Lines", "Draw and change backstitch lines", "F3", "draw-lines", true, true},
-    {"mnuDrawModeEditBox", "&Edit Box", "Select squares to move, copy and turn", "F4", "draw-editbox", true, false},
+    {"mnuDrawModeEditBox", "&Edit Box", "Select squares to move, copy and turn", "F4", "draw-editbox", true, true},
     {"mnuStitchWhole", "&Whole Stitch", "Draw whole cross stitches", "Ctrl+1", "stitch-whole", true, true},
     {"mnuStitchHalfT2B", "Half Stitch, &Top to Bottom", "Draw half stitches from the upper left to the lower right", "Ctrl+2", "stitch-tbh", true, true},
     {"mnuStitchHalfB2T", "Half Stitch, &Bottom to Top", "Draw half stitches from the lower left to the upper right", "Ctrl+3", "stitch-bth", true, true},

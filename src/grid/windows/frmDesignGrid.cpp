@@ -13,8 +13,10 @@
 #include "files/FileCommands.h"
 #include "grid/GridOptions.h"
 #include "grid/tools/DrawModes.h"
+#include "grid/tools/EditBox.h"
 #include "grid/windows/DesignCommands.h"
 #include "grid/windows/DrawingCommands.h"
+#include "grid/windows/EditCommands.h"
 #include "grid/windows/FileMenu.h"
 #include "grid/windows/GridArea.h"
 #include "grid/windows/GridToolView.h"
@@ -23,6 +25,7 @@
 #include "grid/windows/MainToolBars.h"
 #include "grid/windows/PaletteStrip.h"
 #include "grid/windows/PropertiesCommands.h"
+#include "grid/windows/SizingCommands.h"
 #include "grid/windows/StatusLine.h"
 #include "grid/windows/ViewCommands.h"
 #include "grid/windows/WindowPlace.h"
@@ -124,7 +127,12 @@ void frmDesignGrid::SetBusy(bool busy) {
     ShowBusy(busy);
 }
 
+void frmDesignGrid::SettleFloating() {
+    m_modes->Box().DropEditBox(false);
+}
+
 void frmDesignGrid::ResetTools() {
+    m_modes->Box().DropEditBox(true);
     m_modes->SetDrawMode(DrawStitches);
     m_area->SetOverlay(m_modes->GetOverlay());
 }
@@ -137,6 +145,7 @@ void frmDesignGrid::ShowDesign() {
     FollowCurrentColor();
     FollowTool();
     m_design->EnableForNewDesign();
+    m_edit->UpdateEditMenus();
 }
 
 void frmDesignGrid::SetWindowTitle(const std::string& name) {
@@ -153,8 +162,9 @@ std::optional<NewPattern> frmDesignGrid::AskNewPattern(const NewPattern& default
 }
 
 bool frmDesignGrid::IsInLongMode() const {
-    // Half a stroke is no work to come back to.
-    return QGuiApplication::mouseButtons() != Qt::NoButton || BusyScope::IsAnyAlive();
+    // Half a stroke is no work to come back to, and a design without its floating block neither.
+    return QGuiApplication::mouseButtons() != Qt::NoButton || BusyScope::IsAnyAlive() ||
+           m_modes->Box().HasPattern();
 }
 
 void frmDesignGrid::FollowOptions() {
@@ -179,6 +189,7 @@ void frmDesignGrid::FollowDesign() {
     m_area->DesignChanged();
     m_strip->Refresh();
     m_modes->PaletteChanged();
+    m_modes->Box().RefreshSelection();
     FollowTool();
     m_design->RefreshEnabling();
 }

@@ -21,6 +21,7 @@ namespace zol {
 class DesignCommands;
 class DrawingCommands;
 class DrawModes;
+class EditCommands;
 class FileCommands;
 class FileMenu;
 class frmPopups;
@@ -31,6 +32,7 @@ class MainMenus;
 class MainToolBars;
 class PaletteStrip;
 class PropertiesCommands;
+class SizingCommands;
 class StatusLine;
 class ViewCommands;
 
@@ -68,6 +70,7 @@ private:
     // FileCommandsView and AutoSaveView
     void SetBusy(bool busy) override;
     void ResetTools() override;
+    void SettleFloating() override;
     void ShowDesign() override;
     void SetWindowTitle(const std::string& name) override;
     void ShowSummary(const std::string& text) override;
@@ -115,6 +118,8 @@ private:
     std::unique_ptr<ViewCommands> m_view;
     std::unique_ptr<DesignCommands> m_design;
     std::unique_ptr<PropertiesCommands> m_properties;
+    std::unique_ptr<EditCommands> m_edit;
+    std::unique_ptr<SizingCommands> m_sizing;
 };
 
 } // namespace zol

@@ -14,8 +14,10 @@
 #include "grid/FileCommandTexts.h"
 #include "grid/tools/BackstitchTool.h"
 #include "grid/tools/DrawModes.h"
+#include "grid/tools/EditBox.h"
 #include "grid/windows/DesignCommands.h"
 #include "grid/windows/DrawingCommands.h"
+#include "grid/windows/EditCommands.h"
 #include "grid/windows/FileMenu.h"
 #include "grid/windows/GridArea.h"
 #include "grid/windows/GridToolView.h"
@@ -24,6 +26,7 @@
 #include "grid/windows/MainToolBars.h"
 #include "grid/windows/PaletteStrip.h"
 #include "grid/windows/PropertiesCommands.h"
+#include "grid/windows/SizingCommands.h"
 #include "grid/windows/StatusLine.h"
 #include "grid/windows/ViewCommands.h"
 #include "grid/windows/ZoomControl.h"
@@ -56,9 +59,17 @@ void frmDesignGrid::SetUpParts() {
 void frmDesignGrid::SetUpTools() {
     m_toolView = std::make_unique<GridToolView>(
         *m_area, *m_status,
-        GridToolView::Followers{
-            [this] { m_area->SetOverlay(m_modes->GetOverlay()); }, [this] { FollowDesign(); },
-            [this](int lineStyle) { m_popups->OpenLineMenu(lineStyle); }, [this] { EndTool(); }});
+        GridToolView::Followers{[this] { m_area->SetOverlay(m_modes->GetOverlay()); },
+                                [this] { FollowDesign(); },
+                                [this](int lineStyle) { m_popups->OpenLineMenu(lineStyle); },
+                                [this] {
+                                    m_modes->Box().DropEditBox(true);
+                                    EndTool();
+                                },
+                                [this] {
+                                    m_strip->Refresh();
+                                    m_modes->PaletteChanged();
+                                }});
     m_workshop.Steps.SetView(m_toolView.get());
     m_drawing = std::make_unique<DrawingCommands>(
         *m_commands, DrawingCommands::Followers{
@@ -113,6 +124,7 @@ void frmDesignGrid::SetUpCommands() {
         DesignCommands::Followers{[this] { EndTool(); }, [this] { FollowDesign(); },
                                   [this] {
                                       m_area->ArrangeGrid();
+                                      m_modes->Box().RefreshSelection();
                                       FollowTool();
                                       m_design->RefreshEnabling();
                                   }});
@@ -124,6 +136,14 @@ void frmDesignGrid::SetUpCommands() {
                                           ShowSummary(
                                               FileCommandTexts::Summary(m_workshop.Open.Design()));
                                       }});
+    m_edit = std::make_unique<EditCommands>(
+        *m_commands, *m_menus, *m_modes,
+        EditCommands::Desk{m_workshop.Open, m_workshop.Messages, m_workshop.Files, *m_status},
+        [this] { m_design->RefreshEnabling(); });
+    m_sizing = std::make_unique<SizingCommands>(
+        *m_commands, *this,
+        frmAddRows::Desk{m_workshop.Open, m_workshop.Steps, m_workshop.Messages, m_workshop.Store},
+        SizingCommands::Followers{[this] { EndTool(); }, [this] { FollowDesign(); }});
     m_commands->Connect("mnuFileExit", this, [this] { close(); });
     SetUpZoomCommands();
 }
@@ -175,6 +195,11 @@ void frmDesignGrid::ConnectGrid() {
             [this](const PointerEvent& event) { m_modes->Release(event); });
     connect(m_area, &GridArea::PointerLeft, this, [this] { m_toolView->PointerLeft(); });
     connect(m_area, &GridArea::EscapePressed, this, [this] { m_modes->Escape(); });
+    connect(m_area, &GridArea::ArrowPressed, this, [this](int columns, int rows) {
+        m_modes->Nudge(columns, rows);
+        m_design->RefreshEnabling();
+    });
+    connect(m_area, &GridArea::EnterPressed, this, [this] { m_modes->Confirm(); });
 }
 
 void frmDesignGrid::ConnectPalette() {

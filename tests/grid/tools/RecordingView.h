@@ -42,6 +42,7 @@ public:
         m_geometry = GridGeometry(m_pattern, Zoom, 1);
         m_screen = QImage();
     }
+    void FlossesChanged() override { ++flossChanges; }
     void SetGridCursor(GridCursor kind) override { cursors.push_back(kind); }
     void SetBusy(bool busy) override {
         busyDepth += busy ? 1 : -1;
@@ -50,6 +51,8 @@ public:
     void ShowPlace(const std::string& text) override { places.push_back(text); }
     void ShowFloss(const std::string& text) override { flosses.push_back(text); }
     void ZoomToFrame(const SquareRect& frame) override { zooms.push_back(frame); }
+    [[nodiscard]] SquareRect VisibleRange() const override { return visible; }
+    void ScrollTowards(const SquareRect& rect) override { scrolledTo.push_back(rect); }
     void OpenLineMenu(int lineStyle) override {
         lineMenus.push_back(lineStyle);
         if (whileMenuIsOpen) {
@@ -101,6 +104,9 @@ public:
     std::vector<SquareRect> redraws;
     int overlayChanges = 0;
     int designChanges = 0;
+    int flossChanges = 0;
+    SquareRect visible{1, 1, 24, 24};
+    std::vector<SquareRect> scrolledTo;
     std::vector<GridCursor> cursors;
     int busyDepth = 0;
     int timesBusy = 0;

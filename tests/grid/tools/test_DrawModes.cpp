@@ -17,9 +17,13 @@ TEST_F(DrawModesTest, StartsWithStitches) {
 
 TEST_F(DrawModesTest, EachModeHasItsPointer) {
     const std::vector<std::pair<DrawMode, GridCursor>> table{
-        {DrawErase, GridCursor::Erase},     {DrawLines, GridCursor::Default},
-        {DrawZoom, GridCursor::Cross},      {DrawPaintOnce, GridCursor::Paint},
-        {DrawPaint, GridCursor::Paint},     {DrawColorPicker, GridCursor::ColorPicker},
+        {DrawErase, GridCursor::Erase},
+        {DrawLines, GridCursor::Default},
+        {DrawZoom, GridCursor::Cross},
+        {DrawPaintOnce, GridCursor::Paint},
+        {DrawEditBox, GridCursor::Cross},
+        {DrawPaint, GridCursor::Paint},
+        {DrawColorPicker, GridCursor::ColorPicker},
         {DrawStitches, GridCursor::Default}};
     for (const auto& [mode, cursor] : table) {
         view.cursors.clear();
@@ -33,8 +37,8 @@ TEST_F(DrawModesTest, EachModeHasItsPointer) {
 
 TEST_F(DrawModesTest, ModesWithoutAToolAreRefused) {
     modes.SetDrawMode(DrawLines);
-    for (const DrawMode mode : {DrawEditBox, DrawText, static_cast<DrawMode>(0),
-                                static_cast<DrawMode>(10), static_cast<DrawMode>(255)}) {
+    for (const DrawMode mode : {DrawText, static_cast<DrawMode>(0), static_cast<DrawMode>(10),
+                                static_cast<DrawMode>(255)}) {
         modes.SetDrawMode(mode);
         EXPECT_EQ(modes.GetDrawMode(), DrawLines);
     }

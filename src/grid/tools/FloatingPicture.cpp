@@ -1,0 +1,145 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#include "grid/tools/FloatingPicture.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+
+#include "grid/painting/GridPainter.h"
+#include "grid/painting/PaintColors.h"
+
+namespace zol {
+
+namespace {
+
+/// A block of that many pixels is made whole, so that no move has to make more of it.
+constexpr qint64 WholeUpTo = 12'000'000;
+/// Of a larger one that much more than what shows.
+constexpr int Beyond = 512;
+/// Far enough from any cloth, in each of red, green and blue, to tell thread from cloth.
+constexpr Colour Apart = 0x808080;
+constexpr int ApartSteps = 0x80;
+
+QRect BlockPixels(const OverlayContent& content, const GridGeometry& geometry) {
+    const SquarePos at = content.At;
+    return geometry.PixelsOf({at.X, at.Y, at.X + content.Block->GetPatternWidth() - 1,
+                              at.Y + content.Block->GetPatternHeight() - 1});
+}
+
+QRect OnGrid(const GridGeometry& geometry) {
+    return {QPoint(0, 0), geometry.GridSize()};
+}
+
+bool IsWhole(double pixels) {
+    return std::abs(pixels - std::round(pixels)) < 1e-9;
+}
+
+/// Whether every square has the same size, so that a picture fits wherever it is moved.
+bool HasEvenSquares(const GridScale& scale) {
+    return IsWhole(scale.SquareTwipsX / scale.TwipsPerPixelX) &&
+           IsWhole(scale.SquareTwipsY / scale.TwipsPerPixelY);
+}
+
+/// What covers one pixel, from how it looks on the cloth and on a ground that lies `ApartSteps`
+/// away from it: the more it differs, the more of the ground shows.
+QRgb WithoutGround(QRgb onCloth, QRgb onOther, QRgb cloth) {
+    if (onCloth == onOther) {
+        return onCloth | 0xFF000000U;
+    }
+    const int seen = std::max({std::abs(qRed(onCloth) - qRed(onOther)),
+                               std::abs(qGreen(onCloth) - qGreen(onOther)),
+                               std::abs(qBlue(onCloth) - qBlue(onOther))});
+    const int alpha = 255 - std::min(255, seen * 255 / ApartSteps);
+    const auto part = [alpha](int mixed, int ground) {
+        return std::clamp(mixed - ground * (255 - alpha) / 255, 0, alpha);
+    };
+    return qRgba(part(qRed(onCloth), qRed(cloth)), part(qGreen(onCloth), qGreen(cloth)),
+                 part(qBlue(onCloth), qBlue(cloth)), alpha);
+}
+
+} // namespace
+
+FloatingPicture::FloatingPicture() = default;
+FloatingPicture::~FloatingPicture() = default;
+
+QRect FloatingPicture::Covered(const OverlayContent& content, const GridGeometry& geometry) {
+    return BlockPixels(content, geometry) & OnGrid(geometry);
+}
+
+void FloatingPicture::Clear() {
+    m_painter.reset();
+    m_subject = {};
+    m_part = {};
+    m_image = {};
+}
+
+bool FloatingPicture::Serves(const OverlayContent& content, const GridGeometry& geometry,
+                             const PaintOptions& options) const {
+    const bool sameLook = m_subject.Block == content.Block && m_subject.Scale == geometry.Scale() &&
+                          m_subject.Options == options;
+    // Broken squares are rounded where they lie; under way a pixel more or less is not seen.
+    return sameLook &&
+           (m_subject.At == content.At || content.IsMoving || HasEvenSquares(geometry.Scale()));
+}
+
+void FloatingPicture::Paint(QPainter& painter, const OverlayContent& content,
+                            const GridGeometry& geometry, const PaintOptions& options,
+                            const QRect& wanted) {
+    const QRect block = BlockPixels(content, geometry);
+    const QRect visible = block & OnGrid(geometry) & wanted;
+    if (visible.isEmpty()) {
+        return;
+    }
+    if (!Serves(content, geometry, options)) {
+        m_subject = {content.Block, content.At, geometry.Scale(), options};
+        m_corner = block.topLeft();
+        m_part = {};
+    }
+    const QRect whole(QPoint(0, 0), block.size());
+    const QRect needed = visible.translated(-block.topLeft());
+    if (!m_part.contains(needed)) {
+        const bool fits = qint64{whole.width()} * whole.height() <= WholeUpTo;
+        BuildEditBoxPicture(fits ? whole
+                                 : needed.adjusted(-Beyond, -Beyond, Beyond, Beyond) & whole);
+    }
+    painter.drawImage(visible.topLeft(), m_image, needed.translated(-m_part.topLeft()));
+}
+
+void FloatingPicture::BuildEditBoxPicture(const QRect& part) {
+    if (!m_painter) {
+        m_painter = std::make_unique<GridPainter>();
+    }
+    GridView view;
+    view.Source = m_subject.Block.get();
+    view.Scale = m_subject.Scale;
+    view.Options = m_subject.Options;
+    view.Options.GridLines = false;
+    view.OriginX = (m_subject.At.X - 1) * view.Scale.SquareTwipsX;
+    view.OriginY = (m_subject.At.Y - 1) * view.Scale.SquareTwipsY;
+    const auto paintOn = [&](Colour ground) {
+        QImage image(part.size(), QImage::Format_RGB32);
+        view.Options.ClothColor = ground;
+        image.fill(ToRgb(ground));
+        m_painter->PaintImage(image, m_corner + part.topLeft(), view, view.Everything());
+        return image;
+    };
+    const Colour cloth = m_subject.Options.ClothColor;
+    const QImage onCloth = paintOn(cloth);
+    const QImage onOther = paintOn(cloth ^ Apart);
+    m_image = QImage(part.size(), QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < part.height(); ++y) {
+        const auto* first = reinterpret_cast<const QRgb*>(onCloth.constScanLine(y));
+        const auto* second = reinterpret_cast<const QRgb*>(onOther.constScanLine(y));
+        auto* made = reinterpret_cast<QRgb*>(m_image.scanLine(y));
+        for (int x = 0; x < part.width(); ++x) {
+            made[x] = WithoutGround(first[x], second[x], ToRgb(cloth));
+        }
+    }
+    m_part = part;
+}
+
+} // namespace zol
