@@ -104,6 +104,8 @@ void PatternInfoTest::TabsBringUpThePages() {
     QVERIFY(dialog.Find<QWidget>("picInfo1").isVisible());
     QTest::keyClick(&dialog, Qt::Key_P, Qt::AltModifier);
     QVERIFY(dialog.Find<QWidget>("picInfo0").isVisible());
+    QTest::keyClick(&dialog, Qt::Key_I, Qt::AltModifier);
+    QVERIFY(dialog.Find<QWidget>("picInfo1").isVisible());
 }
 
 void PatternInfoTest::FieldsBecomeThePattern() {

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "print/RTFFuncs.h"
 #include "print/rtf/RtfScene.h"
 #include "support/TempFolder.h"
@@ -112,6 +114,55 @@ TEST_F(RtfWordProcessorTest, WritesWhatItReads) {
     for (const char* part : {"Arial 18 bold #ff0000 on -: Red caf\u00e9", "align 2", "list -1"}) {
         EXPECT_NE(all.find(part), std::string::npos) << part << " in\n" << all << back;
     }
+}
+
+TEST_F(RtfWordProcessorTest, KeepsEveryLookOfTheEditor) {
+    QTextDocument document;
+    QTextCursor cursor(&document);
+    const auto put = [&cursor](const char* text, const QTextCharFormat& format) {
+        cursor.insertText(QString::fromUtf8(text), format);
+        cursor.insertText(QStringLiteral(" "), QTextCharFormat());
+    };
+    QTextCharFormat format;
+    format.setFontWeight(QFont::Bold);
+    put("strong", format);
+    format = QTextCharFormat();
+    format.setFontItalic(true);
+    put("slanted", format);
+    format = QTextCharFormat();
+    format.setFontUnderline(true);
+    put("ruled", format);
+    format = QTextCharFormat();
+    format.setFontFamilies({QStringLiteral("Liberation Serif")});
+    format.setFontPointSize(14.5);
+    format.setForeground(QColor(29, 78, 216));
+    put("blue", format);
+    format.setForeground(QBrush()); // a colour that was taken away
+    put("plain", format);
+    for (const auto& [alignment, text] :
+         {std::pair{Qt::AlignHCenter, "middle"}, std::pair{Qt::AlignRight, "far"},
+          std::pair{Qt::AlignLeft, "near\ttab \u0416"}}) {
+        QTextBlockFormat block;
+        block.setAlignment(alignment);
+        cursor.insertBlock(block, QTextCharFormat());
+        cursor.insertText(QString::fromUtf8(text));
+    }
+    cursor.insertBlock(QTextBlockFormat());
+    cursor.createList(QTextListFormat::ListDisc);
+    cursor.insertText(QStringLiteral("item"));
+    WriteFile(m_folder / "editor.rtf", RTFFuncs::SaveRichText(document));
+
+    const std::string back = Converted("editor.rtf", "rtf:Rich Text Format", "editor.rtf");
+    const auto read = ReadRtf(back);
+    const std::string all = Described(*read);
+    for (const char* part :
+         {" bold - on -: strong", " italic - on -: slanted", " underline - on -: ruled",
+          "Liberation Serif 14.5 #1d4ed8 on -: blue", "Liberation Serif 14.5 - on -: plain",
+          "align 4", "align 2", "list -1 level 1 item 1"}) {
+        EXPECT_NE(all.find(part), std::string::npos) << part << " in\n" << all << back;
+    }
+    EXPECT_NE(TextOf(*read).find("middle\nfar\nnear\ttab \u0416\nitem"), std::string::npos)
+        << TextOf(*read);
 }
 
 } // namespace zol::test
