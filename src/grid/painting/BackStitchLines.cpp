@@ -29,28 +29,36 @@ bool MissesAcross(int a, int thirdA, int b, int thirdB, int low, int high) {
     return false;
 }
 
-/// Pixels of the ends that lines have in a stretch of columns (or rows), worked out once for all of
-/// the lines of a paint.
+/// Pixels of the ends that lines have in a stretch of columns (or rows), each worked out once for
+/// all of the lines of a paint, when the first of them asks.
 class EndPixels {
 public:
     EndPixels(int first, int last, double squareTwips, double origin, double twipsPerPixel)
         : m_first(first),
           m_squareTwips(squareTwips),
           m_origin(origin),
-          m_twipsPerPixel(twipsPerPixel) {
-        m_pixels.reserve(static_cast<std::size_t>(last - first) + 1);
-        for (int index = first; index <= last; ++index) {
-            m_pixels.push_back(Find(index));
-        }
-    }
+          m_twipsPerPixel(twipsPerPixel),
+          m_pixels(static_cast<std::size_t>(last - first) + 1) {}
     /// `third`: 0 to 2, the square's near edge, middle and far edge.
-    [[nodiscard]] int At(int index, int third) const {
+    [[nodiscard]] int At(int index, int third) {
         const auto at = static_cast<std::size_t>(index - m_first);
-        const std::size_t which = static_cast<std::size_t>(third);
-        return index >= m_first && at < m_pixels.size() ? m_pixels[at][which] : Find(index)[which];
+        const auto which = static_cast<std::size_t>(third);
+        if (index < m_first || at >= m_pixels.size()) {
+            return Find(index)[which];
+        }
+        Ends& ends = m_pixels[at];
+        if (!ends.Known) {
+            ends = {true, Find(index)};
+        }
+        return ends.Pixels[which];
     }
 
 private:
+    struct Ends {
+        bool Known = false;
+        std::array<int, 3> Pixels{};
+    };
+
     [[nodiscard]] std::array<int, 3> Find(int index) const {
         const SquareEdges edges =
             GridViewport::EdgesOf(index, m_squareTwips, m_origin, m_twipsPerPixel);
@@ -63,7 +71,7 @@ private:
     double m_squareTwips;
     double m_origin;
     double m_twipsPerPixel;
-    std::vector<std::array<int, 3>> m_pixels;
+    std::vector<Ends> m_pixels;
 };
 
 class LinesPainter {
@@ -122,7 +130,7 @@ private:
         return {ToNearestPixel(point.X, m_view.Scale.TwipsPerPixelX),
                 ToNearestPixel(point.Y, m_view.Scale.TwipsPerPixelY)};
     }
-    [[nodiscard]] QPoint PixelsOf(int column, int row, int region) const {
+    [[nodiscard]] QPoint PixelsOf(int column, int row, int region) {
         return {m_x.At(column, PositionColumn(region)), m_y.At(row, PositionRow(region))};
     }
 

@@ -20,7 +20,15 @@ constexpr std::int64_t LargestArea = std::int64_t{1} << 18U;
 constexpr std::int64_t LongestSide = 30'000;
 
 /// Solid stretches shorter than this go along with their neighbours' cover.
-constexpr int LeastSolid = 4;
+constexpr int LeastSolid = 16;
+
+/// Pixels at an edge that are blended together.
+constexpr int EdgePixels = 4;
+
+/// So many pixels rounded up to whole groups.
+int InGroups(int pixels) {
+    return (pixels + EdgePixels - 1) / EdgePixels * EdgePixels;
+}
 
 /// The inks that a line is laid out in, to be told apart.
 constexpr Colour UnderInk = 0;
@@ -91,39 +99,66 @@ private:
     std::array<std::vector<std::uint8_t>, 2> m_cover;
 };
 
-/// Adds the spans of a scan line.
-void AddSpans(SpanMask& mask, const std::uint8_t* row, int width, int beginX) {
-    // The end of the solid pixels from x on; x itself where they are too few to count.
-    const auto solidUpTo = [&](int x) {
+/// Cuts a scan line into spans.
+class SpanCutter {
+public:
+    SpanCutter(SpanMask& mask, const std::uint8_t* row, int width, int beginX)
+        : m_mask(mask),
+          m_row(row),
+          m_width(width),
+          m_beginX(beginX) {}
+
+    void Cut() {
+        for (int x = 0; x < m_width;) {
+            x = m_row[x] == 0 ? x + 1 : Add(x);
+        }
+    }
+
+private:
+    /// The end of the solid pixels from x on; x itself where they are too few to count.
+    [[nodiscard]] int SolidUpTo(int x) const {
         int end = x;
-        while (end < width && row[end] == 255) {
+        while (end < m_width && m_row[end] == 255) {
             ++end;
         }
         return end - x >= LeastSolid ? end : x;
-    };
-    const auto edgeUpTo = [&](int x) {
-        while (x < width && row[x] != 0 && solidUpTo(x) == x) {
+    }
+    [[nodiscard]] int EdgeUpTo(int x) const {
+        while (x < m_width && m_row[x] != 0 && SolidUpTo(x) == x) {
             ++x;
         }
         return x;
-    };
-    for (int x = 0; x < width;) {
-        if (row[x] == 0) {
-            ++x;
-            continue;
-        }
-        const int solid = edgeUpTo(x);
-        const int trail = solid < width && row[solid] != 0 ? solidUpTo(solid) : solid;
-        const int end = trail > solid ? edgeUpTo(trail) : solid;
-        mask.Spans.push_back(
-            {static_cast<std::int16_t>(x - beginX), static_cast<std::uint16_t>(solid - x),
-             static_cast<std::uint16_t>(trail - solid), static_cast<std::uint16_t>(end - trail),
-             static_cast<std::uint32_t>(mask.Cover.size())});
-        mask.Cover.insert(mask.Cover.end(), row + x, row + solid);
-        mask.Cover.insert(mask.Cover.end(), row + trail, row + end);
-        x = end;
     }
-}
+    /// Adds the span that begins at x. Where its next one begins to be looked for.
+    int Add(int x) {
+        const int edge = EdgeUpTo(x);
+        const int solidEnd = edge < m_width && m_row[edge] != 0 ? SolidUpTo(edge) : edge;
+        const int end = solidEnd > edge ? EdgeUpTo(solidEnd) : edge;
+        // Edges are filled up from the solid pixels between them, or from what is bare.
+        const int lead = InGroups(edge - x);
+        const int trail = solidEnd > edge ? InGroups(end - solidEnd) : 0;
+        const int solid = solidEnd > edge ? end - trail - x - lead : 0;
+        m_mask.Left = std::min(m_mask.Left, x - m_beginX);
+        m_mask.Right = std::max(m_mask.Right, x - m_beginX + lead + solid + trail);
+        m_mask.Spans.push_back({static_cast<std::int16_t>(x - m_beginX),
+                                static_cast<std::uint16_t>(lead), static_cast<std::uint16_t>(solid),
+                                static_cast<std::uint16_t>(trail),
+                                static_cast<std::uint32_t>(m_mask.Cover.size())});
+        AddCover(x, x + lead);
+        AddCover(x + lead + solid, x + lead + solid + trail);
+        return std::max(end, x + lead);
+    }
+    void AddCover(int from, int to) {
+        for (int x = from; x < to; ++x) {
+            m_mask.Cover.push_back(x < m_width ? m_row[x] : std::uint8_t{0});
+        }
+    }
+
+    SpanMask& m_mask;
+    const std::uint8_t* m_row;
+    int m_width;
+    int m_beginX;
+};
 
 SpanMask CoverCanvas::Spans(Colour ink, QPoint begin) const {
     SpanMask mask;
@@ -142,7 +177,7 @@ SpanMask CoverCanvas::Spans(Colour ink, QPoint begin) const {
             mask.Top = y - begin.y();
         }
         mask.Rows.push_back(static_cast<std::uint32_t>(mask.Spans.size()));
-        AddSpans(mask, cover.data() + at, m_width, begin.x());
+        SpanCutter(mask, cover.data() + at, m_width, begin.x()).Cut();
     }
     while (!mask.Rows.empty() && mask.Rows.back() == mask.Spans.size()) {
         mask.Rows.pop_back();

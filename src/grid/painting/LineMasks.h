@@ -18,7 +18,8 @@ namespace zol {
 /// How much of each pixel something long and thin covers: spans along scan lines, which leave out
 /// what is bare. Places count from the pixel where the line begins.
 struct SpanMask {
-    /// Pixels side by side: some at an edge, some covered wholly, some at the other edge.
+    /// Pixels side by side: some at an edge, some covered wholly, some at the other edge. Edges are
+    /// multiples of four pixels, which are blended together, so bare ones may be among them.
     struct Span {
         std::int16_t X = 0;
         std::uint16_t Lead = 0;
@@ -27,6 +28,8 @@ struct SpanMask {
         std::uint32_t Cover = 0; ///< where the cover of Lead and Trail begins
     };
     int Top = 0;                     ///< of the first scan line
+    int Left = 0;                    ///< of the first pixel of all spans
+    int Right = 0;                   ///< one past the last
     std::vector<std::uint32_t> Rows; ///< the first span of each scan line, and one past the last
     std::vector<Span> Spans;
     std::vector<std::uint8_t> Cover;
