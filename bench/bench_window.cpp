@@ -15,6 +15,7 @@
 #include "Scene.h"
 #include "grid/painting/GridPainter.h"
 #include "grid/windows/GridArea.h"
+#include "windowkit/Theme.h"
 
 namespace {
 
@@ -74,9 +75,12 @@ void RepaintWindow(benchmark::State& state) {
     Window window(pixels);
     Floor floor;
     zol::Ratio(state, pixels < 5 ? 25 : 12).Measure(floor, [&] {
+        // What lies on the area without covering it is painted with it.
         window.Area().update();
         for (QWidget* part : window.Area().findChildren<QWidget*>()) {
-            part->update();
+            if (part->testAttribute(Qt::WA_OpaquePaintEvent)) {
+                part->update();
+            }
         }
         Window::Paint();
     });
@@ -148,6 +152,7 @@ BENCHMARK(StrokeMove)->Apply(zol::AsRatio);
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
+    zol::Theme::Apply(app); // the program's own scroll bars
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

@@ -84,7 +84,7 @@ protected:
 
 private:
     /// Bytes of the pixels that a band holds.
-    static constexpr int BandBytes = 512 * 1024;
+    static constexpr int BandBytes = 1024 * 1024;
 
     void PaintExposed(const QRegion& region);
     /// A rectangle of device pixels from top to bottom in pieces that stay in the cache until they
