@@ -63,4 +63,17 @@ std::vector<std::string> SplitMapFlosses(const std::string& option) {
     return names;
 }
 
+std::string JoinMapFlosses(const std::vector<std::string>& fileNames) {
+    std::string option;
+    for (const std::string& name : fileNames) {
+        option += (option.empty() ? "" : "|") + name;
+    }
+    return option;
+}
+
+bool IsMappedFloss(const std::string& option, const std::string& fileName) {
+    const auto closed = [](const std::string& text) { return "|" + LowerCase(text) + "|"; };
+    return closed(option).find(closed(fileName)) != std::string::npos;
+}
+
 } // namespace zol

@@ -29,5 +29,8 @@ struct CatalogueName {
 
 /// The catalogue file names of the option "MapFlosses", which "|" separates.
 [[nodiscard]] std::vector<std::string> SplitMapFlosses(const std::string& option);
+[[nodiscard]] std::string JoinMapFlosses(const std::vector<std::string>& fileNames);
+/// Whether the option names that file.
+[[nodiscard]] bool IsMappedFloss(const std::string& option, const std::string& fileName);
 
 } // namespace zol

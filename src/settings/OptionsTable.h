@@ -20,6 +20,7 @@ struct OptionRow {
     const char* Name;
     const char* Default; ///< null: what the record holds already
     Member Target;
+    bool Edited = true; ///< by the options dialog, which alone writes it back
 };
 
 /// All rows of a section in the order in which they are read.

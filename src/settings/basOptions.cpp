@@ -51,6 +51,27 @@ void Assign(Options& options, const OptionRow& row, const std::string& text) {
     std::visit(Setter{options, text}, row.Target);
 }
 
+/// As the store has it.
+std::string TextOf(const Options& options, const OptionRow& row) {
+    struct Getter {
+        const Options& source;
+
+        std::string operator()(std::string Options::*member) const { return source.*member; }
+        std::string operator()(int Options::*member) const {
+            return std::to_string(source.*member);
+        }
+        std::string operator()(double Options::*member) const {
+            constexpr std::size_t room = 32;
+            char text[room];
+            return {text, std::to_chars(text, text + room, source.*member).ptr};
+        }
+        std::string operator()(bool Options::*member) const {
+            return source.*member ? "TRUE" : "FALSE";
+        }
+    };
+    return std::visit(Getter{options}, row.Target);
+}
+
 std::string PresentText(const Options& options, const OptionRow& row) {
     const auto* text = std::get_if<std::string Options::*>(&row.Target);
     return text != nullptr ? options.**text : std::string();
@@ -70,11 +91,13 @@ std::string CatalogueFileName(const std::string& value) {
     return slash == std::string::npos ? value : LowerCase(value.substr(slash + 1));
 }
 
+constexpr const char* printerSection = "Printer Opts";
+constexpr const char* stitchStyle = "StitchesDisplayAs";
+constexpr const char* lineStyle = "LinesDisplayAs";
+
 void ReadPrintStyles(const SettingsDoor& store, Options& options) {
-    options.StitchSymbol =
-        ParseNumber(store.ReadSetting("Printer Opts", "StitchesDisplayAs", ""), 0);
-    options.BackStitchSymbol =
-        ParseNumber(store.ReadSetting("Printer Opts", "LinesDisplayAs", ""), 0);
+    options.StitchSymbol = ParseNumber(store.ReadSetting(printerSection, stitchStyle, ""), 0);
+    options.BackStitchSymbol = ParseNumber(store.ReadSetting(printerSection, lineStyle, ""), 0);
     if (options.StitchSymbol == 0) {
         options.StitchSymbol = ParseNumber(store.ReadSetting("Options", "StitchSymbol", "2"), 2);
     }
@@ -117,6 +140,19 @@ bool IsBritish(const std::string& spelling) {
     return locale.language() == QLocale::English && locale.territory() != QLocale::UnitedStates;
 }
 
+/// Every write goes to the disk at once, so what stands there already is left alone.
+void WriteIfOther(SettingsDoor& store, const char* section, const char* name,
+                  const std::string& value) {
+    if (store.ReadSetting(section, name, value + "?") != value) {
+        store.WriteSetting(section, name, value);
+    }
+}
+
+void LoadCatalogue(const Options& options, ProgramContext& context) {
+    context.CurrentCatalogue = std::make_shared<AvailColors>(context);
+    context.CurrentCatalogue->Initialize(PathOf(options.DefaultFlossFile));
+}
+
 } // namespace
 
 Options BuiltInOptions(const ProgramContext& context) {
@@ -143,8 +179,7 @@ Options LoadOptions(const SettingsDoor& store, ProgramContext& context) {
     options.DefaultFlossFile =
         CatalogueFileName(store.ReadSetting("Options", "DefaultFlossFile", "dmc.col"));
     context.BritishSpelling = IsBritish(store.ReadSetting("Options", "Spelling", ""));
-    context.CurrentCatalogue = std::make_shared<AvailColors>(context);
-    context.CurrentCatalogue->Initialize(PathOf(options.DefaultFlossFile));
+    LoadCatalogue(options, context);
 
     for (const char* section : {"Design Grid Opts", "Printer Opts", "Pattern Default Properties",
                                 "Settings", "Options", "PatternViewer"}) {
@@ -162,6 +197,25 @@ Options LoadOptions(const SettingsDoor& store, ProgramContext& context) {
     MakeFolder(options.StitchedFontPath);
     ApplyOptions(options, context);
     return options;
+}
+
+void SaveOptions(const Options& options, SettingsDoor& store) {
+    for (const char* section :
+         {"Options", "Design Grid Opts", printerSection, "Pattern Default Properties"}) {
+        for (const OptionRow& row : OptionRows(section)) {
+            if (row.Edited) {
+                WriteIfOther(store, row.Section, row.Name, TextOf(options, row));
+            }
+        }
+    }
+    WriteIfOther(store, printerSection, stitchStyle, std::to_string(options.StitchSymbol));
+    WriteIfOther(store, printerSection, lineStyle, std::to_string(options.BackStitchSymbol));
+}
+
+void FollowChoices(const SettingsDoor& store, Options& options, ProgramContext& context) {
+    ReadColors(store, options);
+    LoadCatalogue(options, context);
+    ApplyOptions(options, context);
 }
 
 void ApplyOptions(const Options& options, ProgramContext& context) {

@@ -18,6 +18,13 @@ namespace zol::basOptions {
 /// custom stitches and stitched fonts come into being where they can.
 [[nodiscard]] Options LoadOptions(const SettingsDoor& store, ProgramContext& context);
 
+/// Writes the options that the options dialog edits, and no others, as defaults of later runs.
+void SaveOptions(const Options& options, SettingsDoor& store);
+
+/// What choices in the record lead to: colours by their indexes, the floss file's catalogue, the
+/// context.
+void FollowChoices(const SettingsDoor& store, Options& options, ProgramContext& context);
+
 /// Gives the context what patterns and palettes need of the options.
 void ApplyOptions(const Options& options, ProgramContext& context);
 

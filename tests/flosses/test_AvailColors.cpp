@@ -352,5 +352,15 @@ TEST(MapFlosses, NamesAreSeparatedByBars) {
     EXPECT_TRUE(SplitMapFlosses("").empty());
 }
 
+TEST(MapFlosses, NamesAreFoundWholeAndJoined) {
+    EXPECT_TRUE(IsMappedFloss("anchor.col|jpc.col", "jpc.col"));
+    EXPECT_TRUE(IsMappedFloss("JPC.COL", "jpc.col"));
+    EXPECT_FALSE(IsMappedFloss("anchor.col|my jpc.col", "jpc.col"));
+    EXPECT_FALSE(IsMappedFloss("", "jpc.col"));
+    EXPECT_EQ(JoinMapFlosses({}), "");
+    EXPECT_EQ(JoinMapFlosses({"a.col"}), "a.col");
+    EXPECT_EQ(JoinMapFlosses({"a.col", "b.col"}), "a.col|b.col");
+}
+
 } // namespace
 } // namespace zol

@@ -71,7 +71,10 @@ QIcon SwatchIcon(Colour color) {
     painter.setPen(QPen(QColor(128, 128, 128), 4));
     painter.drawRect(patch.rect().adjusted(2, 2, -2, -2));
     painter.end();
-    return {patch};
+    QIcon icon(patch);
+    // A selected line shows the colour as it is, not mixed with that of the selection.
+    icon.addPixmap(patch, QIcon::Selected);
+    return icon;
 }
 
 // --- Brightness ---------------------------------------------------------------------------------

@@ -9,6 +9,7 @@
 #include "flosses/windows/ColorSample.h"
 #include "flosses/windows/ui_frmClothColors.h"
 #include "windowkit/DialogSize.h"
+#include "windowkit/Spelling.h"
 
 namespace zol {
 
@@ -22,23 +23,18 @@ frmClothColors::frmClothColors(int list, SettingsDoor& store, bool british, QWid
     m_ui->buttonBox->button(QDialogButtonBox::Close)->setObjectName(QStringLiteral("cmdClose"));
     setWindowTitle(QString::fromStdString(ColorLists::CaptionOf(list, british)));
     if (british) {
-        SpellBritish();
+        SpellBritish(*this);
     }
     ShowColorsList();
     connect(m_ui->picList, &QListWidget::currentRowChanged, this, &frmClothColors::ShowSelected);
     connect(m_ui->txtDescription, &QLineEdit::textEdited, this, &frmClothColors::ChangeText);
     connect(m_ui->cmdReMix, &QPushButton::clicked, this, &frmClothColors::ReMix);
     m_ui->picList->setCurrentRow(0);
+    resize(sizeHint());
     RememberSize(*this, store);
 }
 
 frmClothColors::~frmClothColors() = default;
-
-void frmClothColors::SpellBritish() {
-    m_ui->lblList->setText(QStringLiteral("&Colours:"));
-    m_ui->lblSelected->setText(QStringLiteral("Colour:"));
-    m_ui->cmdReMix->setText(QStringLiteral("Change Co&lour"));
-}
 
 void frmClothColors::ShowColorsList() {
     m_ui->picList->clear();

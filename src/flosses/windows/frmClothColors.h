@@ -29,7 +29,6 @@ public:
     void done(int result) override;
 
 private:
-    void SpellBritish();
     void ShowColorsList();
     void ShowSelected();
     void ChangeText(const QString& text);

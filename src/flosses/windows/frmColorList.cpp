@@ -29,6 +29,7 @@ frmColorList::frmColorList(SettingsDoor& store, MessageDoor& messages, QWidget* 
     connect(m_ui->cmdDelete, &QPushButton::clicked, this, &frmColorList::Delete);
     connect(m_ui->picList, &QListWidget::itemDoubleClicked, this, &frmColorList::Change);
     ShowList(0);
+    resize(sizeHint());
     RememberSize(*this, store);
 }
 

@@ -51,6 +51,7 @@ frmColors::frmColors(const QString& title, Colour start, const ColorMixerDesk& d
     ShowChannels(start);
     ShowColor(nullptr);
     ConnectParts();
+    resize(sizeHint());
     if (desk.Store != nullptr) {
         RememberSize(*this, *desk.Store);
     }

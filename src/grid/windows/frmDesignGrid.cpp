@@ -23,6 +23,8 @@
 #include "grid/windows/MainCommands.h"
 #include "grid/windows/MainMenus.h"
 #include "grid/windows/MainToolBars.h"
+#include "grid/windows/OptionsCommand.h"
+#include "grid/windows/PaletteFileCommands.h"
 #include "grid/windows/PaletteStrip.h"
 #include "grid/windows/PropertiesCommands.h"
 #include "grid/windows/SizingCommands.h"

@@ -30,6 +30,8 @@ class GridToolView;
 class MainCommands;
 class MainMenus;
 class MainToolBars;
+class OptionsCommand;
+class PaletteFileCommands;
 class PaletteStrip;
 class PropertiesCommands;
 class SizingCommands;
@@ -82,6 +84,7 @@ private:
     void SetUpFiles();
     void SetUpCommands();
     void SetUpZoomCommands();
+    void SetUpOptions();
     void ConnectGrid();
     void ConnectPalette();
     void OrderTabs();
@@ -120,6 +123,8 @@ private:
     std::unique_ptr<PropertiesCommands> m_properties;
     std::unique_ptr<EditCommands> m_edit;
     std::unique_ptr<SizingCommands> m_sizing;
+    std::unique_ptr<OptionsCommand> m_options;
+    std::unique_ptr<PaletteFileCommands> m_paletteFiles;
 };
 
 } // namespace zol

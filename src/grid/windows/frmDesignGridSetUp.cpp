@@ -24,6 +24,8 @@
 #include "grid/windows/MainCommands.h"
 #include "grid/windows/MainMenus.h"
 #include "grid/windows/MainToolBars.h"
+#include "grid/windows/OptionsCommand.h"
+#include "grid/windows/PaletteFileCommands.h"
 #include "grid/windows/PaletteStrip.h"
 #include "grid/windows/PropertiesCommands.h"
 #include "grid/windows/SizingCommands.h"
@@ -146,6 +148,27 @@ void frmDesignGrid::SetUpCommands() {
         SizingCommands::Followers{[this] { EndTool(); }, [this] { FollowDesign(); }});
     m_commands->Connect("mnuFileExit", this, [this] { close(); });
     SetUpZoomCommands();
+    SetUpOptions();
+}
+
+void frmDesignGrid::SetUpOptions() {
+    m_options = std::make_unique<OptionsCommand>(
+        *m_commands,
+        OptionsDesk{m_workshop.Settings, m_workshop.Store, m_workshop.Context,
+                    [this] {
+                        FollowOptions();
+                        m_view->ShowOptions();
+                        m_area->ArrangeGrid();
+                    },
+                    [this](bool hold) { m_area->HoldGridPaint(hold); }},
+        *this);
+    m_paletteFiles = std::make_unique<PaletteFileCommands>(
+        *m_commands,
+        PaletteFilesDesk{m_workshop.Open, m_workshop.Context, m_workshop.Settings,
+                         m_workshop.Messages, m_workshop.Files, m_workshop.Steps},
+        PaletteFileCommands::Followers{
+            [this] { EndTool(); }, [this] { FollowDesign(); },
+            [this](const std::string& text) { m_toolView->ShowSummary(text); }});
 }
 
 void frmDesignGrid::SetUpZoomCommands() {
