@@ -171,12 +171,12 @@ private:
         OverlayStyle style;
         style.Accent = Theme::Accent(canvas.palette());
         style.LineWidth = GetBackStitchPenWidth(view);
+        if (const auto& content = canvas.GetOverlay().Content) {
+            FloatingPicture().Paint(image, origin, *content, Area().Geometry(), view.Options);
+        }
         QPainter over(&image);
         over.translate(-origin);
         const OverlayPainter overlay(canvas.GetOverlay(), Area().Geometry(), style);
-        FloatingPicture floating;
-        overlay.PaintContent(over, floating, canvas.GetPaintOptions(),
-                             rect.translated(-CanvasCorner()));
         overlay.Paint(over);
         return image;
     }

@@ -3,11 +3,8 @@
 
 #include "grid/tools/FloatingPicture.h"
 
-#include <QPainter>
-
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
 
 #include "grid/painting/GridPainter.h"
 #include "grid/painting/PaintColors.h"
@@ -61,6 +58,21 @@ QRgb WithoutGround(QRgb onCloth, QRgb onOther, QRgb cloth) {
                  part(qBlue(onCloth), qBlue(cloth)), alpha);
 }
 
+/// Runs shorter than that cost more than the pixels that they would spare.
+constexpr int ShortRun = 8;
+
+/// A premultiplied pixel over an opaque one.
+inline QRgb Over(QRgb above, QRgb below) {
+    const std::uint32_t rest = 255U - (above >> 24U);
+    const auto part = [rest](std::uint32_t two) {
+        const std::uint32_t t = two * rest;
+        return t + ((t >> 8U) & 0x00FF00FFU) + 0x00800080U;
+    };
+    const std::uint32_t redBlue = (part(below & 0x00FF00FFU) >> 8U) & 0x00FF00FFU;
+    const std::uint32_t green = part((below >> 8U) & 0x00FF00FFU) & 0xFF00FF00U;
+    return above + (redBlue | green);
+}
+
 } // namespace
 
 FloatingPicture::FloatingPicture() = default;
@@ -75,6 +87,8 @@ void FloatingPicture::Clear() {
     m_subject = {};
     m_part = {};
     m_image = {};
+    m_runs = {};
+    m_firstRuns = {};
 }
 
 bool FloatingPicture::Serves(const OverlayContent& content, const GridGeometry& geometry,
@@ -86,14 +100,9 @@ bool FloatingPicture::Serves(const OverlayContent& content, const GridGeometry& 
            (m_subject.At == content.At || content.IsMoving || HasEvenSquares(geometry.Scale()));
 }
 
-void FloatingPicture::Paint(QPainter& painter, const OverlayContent& content,
-                            const GridGeometry& geometry, const PaintOptions& options,
-                            const QRect& wanted) {
+QPoint FloatingPicture::Prepare(const OverlayContent& content, const GridGeometry& geometry,
+                                const PaintOptions& options, const QRect& visible) {
     const QRect block = BlockPixels(content, geometry);
-    const QRect visible = block & OnGrid(geometry) & wanted;
-    if (visible.isEmpty()) {
-        return;
-    }
     if (!Serves(content, geometry, options)) {
         m_subject = {content.Block, content.At, geometry.Scale(), options};
         m_corner = block.topLeft();
@@ -106,7 +115,83 @@ void FloatingPicture::Paint(QPainter& painter, const OverlayContent& content,
         BuildEditBoxPicture(fits ? whole
                                  : needed.adjusted(-Beyond, -Beyond, Beyond, Beyond) & whole);
     }
-    painter.drawImage(visible.topLeft(), m_image, needed.translated(-m_part.topLeft()));
+    return block.topLeft();
+}
+
+void FloatingPicture::Paint(QImage& image, QPoint corner, const OverlayContent& content,
+                            const GridGeometry& geometry, const PaintOptions& options) {
+    PaintOver(image, corner, image, corner, content, geometry, options);
+}
+
+void FloatingPicture::PaintOver(const QImage& cloth, QPoint clothCorner, QImage& image,
+                                QPoint corner, const OverlayContent& content,
+                                const GridGeometry& geometry, const PaintOptions& options) {
+    const QRect all(corner, image.size());
+    const QRect visible = Covered(content, geometry) & all;
+    const QPoint start =
+        visible.isEmpty() ? QPoint() : Prepare(content, geometry, options, visible);
+    const QPoint shift = corner - clothCorner;
+    for (int y = 0; y < image.height(); ++y) {
+        auto* to = reinterpret_cast<QRgb*>(image.scanLine(y));
+        const auto* from =
+            reinterpret_cast<const QRgb*>(cloth.constScanLine(y + shift.y())) + shift.x();
+        const bool isBlock = y + corner.y() >= visible.top() && y + corner.y() <= visible.bottom();
+        const int left = isBlock ? visible.left() - corner.x() : image.width();
+        const int right = isBlock ? left + visible.width() : image.width();
+        if (from != to) {
+            std::copy(from, from + left, to);
+            std::copy(from + right, from + image.width(), to + right);
+        }
+        if (isBlock) {
+            PaintRow(y + corner.y() - start.y() - m_part.top(),
+                     visible.left() - start.x() - m_part.left(), visible.width(), from + left,
+                     to + left);
+        }
+    }
+}
+
+void FloatingPicture::PaintRow(int row, int first, int count, const QRgb* cloth, QRgb* to) const {
+    const auto* picture = reinterpret_cast<const QRgb*>(m_image.constScanLine(row));
+    const Run* run = m_runs.data() + m_firstRuns[static_cast<std::size_t>(row)];
+    int x = first;
+    while (x < first + count) {
+        while (run->End <= x) {
+            ++run;
+        }
+        const int end = std::min(run->End, first + count);
+        const QRgb* below = cloth + (x - first);
+        QRgb* target = to + (x - first);
+        if (run->What == Run::Opaque) {
+            std::copy(picture + x, picture + end, target);
+        } else if (run->What == Run::Mixed) {
+            std::transform(picture + x, picture + end, below, target, Over);
+        } else if (below != target) {
+            std::copy(below, below + (end - x), target);
+        }
+        x = end;
+    }
+}
+
+void FloatingPicture::AddRuns(const QRgb* pixels, int count) {
+    const auto kindOf = [](QRgb pixel) {
+        return pixel == 0 ? Run::Through : pixel >> 24U == 255U ? Run::Opaque : Run::Mixed;
+    };
+    const std::size_t first = m_runs.size();
+    m_firstRuns.push_back(first);
+    for (int x = 0; x < count;) {
+        const Run::Kind kind = kindOf(pixels[x]);
+        int end = x + 1;
+        while (end < count && kindOf(pixels[end]) == kind) {
+            ++end;
+        }
+        const Run::Kind what = end - x < ShortRun ? Run::Mixed : kind;
+        if (m_runs.size() > first && m_runs.back().What == what) {
+            m_runs.back().End = end;
+        } else {
+            m_runs.push_back({end, what});
+        }
+        x = end;
+    }
 }
 
 void FloatingPicture::BuildEditBoxPicture(const QRect& part) {
@@ -131,6 +216,8 @@ void FloatingPicture::BuildEditBoxPicture(const QRect& part) {
     const QImage onCloth = paintOn(cloth);
     const QImage onOther = paintOn(cloth ^ Apart);
     m_image = QImage(part.size(), QImage::Format_ARGB32_Premultiplied);
+    m_runs.clear();
+    m_firstRuns.clear();
     for (int y = 0; y < part.height(); ++y) {
         const auto* first = reinterpret_cast<const QRgb*>(onCloth.constScanLine(y));
         const auto* second = reinterpret_cast<const QRgb*>(onOther.constScanLine(y));
@@ -138,6 +225,7 @@ void FloatingPicture::BuildEditBoxPicture(const QRect& part) {
         for (int x = 0; x < part.width(); ++x) {
             made[x] = WithoutGround(first[x], second[x], ToRgb(cloth));
         }
+        AddRuns(made, part.width());
     }
     m_part = part;
 }

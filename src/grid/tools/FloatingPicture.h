@@ -8,13 +8,14 @@
 #include <QRect>
 #include <QSize>
 
+#include <cstddef>
+#include <cstdint>
 #include <memory>
+#include <vector>
 
 #include "grid/GridGeometry.h"
 #include "grid/painting/PaintOptions.h"
 #include "grid/tools/Overlay.h"
-
-class QPainter;
 
 namespace zol {
 
@@ -32,11 +33,15 @@ public:
 
     /// The pixels that the block may cover, counted from the design's square (1, 1).
     [[nodiscard]] static QRect Covered(const OverlayContent& content, const GridGeometry& geometry);
-    /// Paints the part of the block that lies in `wanted`, pixels counted likewise, and nothing
-    /// outside the grid. One unit of the painter is a pixel, its origin the corner of square (1,
-    /// 1).
-    void Paint(QPainter& painter, const OverlayContent& content, const GridGeometry& geometry,
-               const PaintOptions& options, const QRect& wanted);
+    /// Lays the block over the cloth that an image shows; its upper left pixel is `corner`, counted
+    /// likewise. Nothing outside the grid is touched. The image is of Format_RGB32.
+    void Paint(QImage& image, QPoint corner, const OverlayContent& content,
+               const GridGeometry& geometry, const PaintOptions& options);
+    /// The same from another image, which holds the cloth of all those pixels and whose own upper
+    /// left is `clothCorner`: what the block hides is not even read.
+    void PaintOver(const QImage& cloth, QPoint clothCorner, QImage& image, QPoint corner,
+                   const OverlayContent& content, const GridGeometry& geometry,
+                   const PaintOptions& options);
     /// Gives the memory back.
     void Clear();
 
@@ -49,15 +54,31 @@ private:
         PaintOptions Options;
     };
 
+    /// Pixels of a row that are alike in what they need.
+    struct Run {
+        enum Kind : std::uint8_t { Through, Opaque, Mixed };
+
+        int End; ///< behind the last pixel
+        Kind What;
+    };
+
     [[nodiscard]] bool Serves(const OverlayContent& content, const GridGeometry& geometry,
                               const PaintOptions& options) const;
+    /// Makes sure of the picture's pixels that lie in `visible`; where the block's corner lies now.
+    [[nodiscard]] QPoint Prepare(const OverlayContent& content, const GridGeometry& geometry,
+                                 const PaintOptions& options, const QRect& visible);
     void BuildEditBoxPicture(const QRect& part);
+    void AddRuns(const QRgb* pixels, int count);
+    /// A row of the picture from pixel `first` on, over so many pixels of cloth.
+    void PaintRow(int row, int first, int count, const QRgb* cloth, QRgb* to) const;
 
     std::unique_ptr<GridPainter> m_painter;
     Subject m_subject;
     QPoint m_corner; ///< upper left of the block where it was made for, pixels of the design
     QRect m_part;    ///< of the picture, counted from the block's corner
     QImage m_image;
+    std::vector<Run> m_runs;              ///< row by row
+    std::vector<std::size_t> m_firstRuns; ///< of each row, and behind the last
 };
 
 } // namespace zol

@@ -206,13 +206,6 @@ QRegion OverlayPainter::Covered() const {
     return region;
 }
 
-void OverlayPainter::PaintContent(QPainter& painter, FloatingPicture& picture,
-                                  const PaintOptions& options, const QRect& wanted) const {
-    if (m_overlay.Content) {
-        picture.Paint(painter, *m_overlay.Content, m_geometry, options, wanted);
-    }
-}
-
 void OverlayPainter::Paint(QPainter& painter) const {
     const Layout layout(m_geometry, m_style.LineWidth);
     painter.save();

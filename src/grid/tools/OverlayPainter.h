@@ -7,14 +7,11 @@
 #include <QRegion>
 
 #include "grid/GridGeometry.h"
-#include "grid/painting/PaintOptions.h"
 #include "grid/tools/Overlay.h"
 
 class QPainter;
 
 namespace zol {
-
-class FloatingPicture;
 
 struct OverlayStyle {
     QColor Accent;
@@ -36,12 +33,9 @@ public:
     /// All pixels that Paint may touch, and few others: what has to be painted anew when the
     /// overlay comes or goes.
     [[nodiscard]] QRegion Covered() const;
-    /// The floating block alone, of which nothing outside `wanted` is painted; `options` are those
-    /// of the design below. The painter as for Paint.
-    void PaintContent(QPainter& painter, FloatingPicture& picture, const PaintOptions& options,
-                      const QRect& wanted) const;
-    /// All but the floating block. One unit of the painter must be one pixel of the device, and its
-    /// origin the corner of square (1, 1). The painter's state is as it was afterwards.
+    /// All but the floating block, which FloatingPicture paints before. One unit of the painter
+    /// must be one pixel of the device, and its origin the corner of square (1, 1). The painter's
+    /// state is as it was afterwards.
     void Paint(QPainter& painter) const;
 
 private:

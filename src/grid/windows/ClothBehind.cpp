@@ -8,8 +8,7 @@
 
 namespace zol {
 
-void ClothBehind::CopyTo(QImage& image, QPoint corner, const QRect& shown, const Paint& paint) {
-    const QRect wanted(corner, image.size());
+const QImage& ClothBehind::Picture(const QRect& wanted, const QRect& shown, const Paint& paint) {
     if (!m_area.contains(wanted)) {
         MoveTo(wanted | shown);
     }
@@ -21,27 +20,22 @@ void ClothBehind::CopyTo(QImage& image, QPoint corner, const QRect& shown, const
         paint(part, rect.topLeft());
     }
     m_true += missing;
-    CopyRows(wanted, image, {0, 0});
+    return m_image;
 }
 
 void ClothBehind::MoveTo(const QRect& area) {
     QImage moved(area.size(), QImage::Format_RGB32);
     m_true &= area;
     const QRect kept = m_true.boundingRect();
-    if (!kept.isEmpty()) {
-        CopyRows(kept, moved, kept.topLeft() - area.topLeft());
+    const QPoint from = kept.topLeft() - m_area.topLeft();
+    const QPoint to = kept.topLeft() - area.topLeft();
+    for (int y = 0; y < kept.height(); ++y) {
+        std::memcpy(moved.scanLine(to.y() + y) + qsizetype{to.x()} * 4,
+                    m_image.constScanLine(from.y() + y) + qsizetype{from.x()} * 4,
+                    static_cast<std::size_t>(kept.width()) * 4);
     }
     m_image = moved;
     m_area = area;
-}
-
-void ClothBehind::CopyRows(const QRect& pixels, QImage& to, QPoint at) const {
-    const QPoint from = pixels.topLeft() - m_area.topLeft();
-    const auto bytes = static_cast<std::size_t>(pixels.width()) * 4;
-    for (int y = 0; y < pixels.height(); ++y) {
-        std::memcpy(to.scanLine(at.y() + y) + qsizetype{at.x()} * 4,
-                    m_image.constScanLine(from.y() + y) + qsizetype{from.x()} * 4, bytes);
-    }
 }
 
 } // namespace zol

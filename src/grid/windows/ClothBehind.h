@@ -24,14 +24,15 @@ public:
     void Forget() { *this = ClothBehind(); }
     /// These pixels are not.
     void Forget(const QRect& pixels) { m_true -= pixels; }
-    /// Fills an image of Format_RGB32, whose upper left pixel is `corner`. What is not known of it
-    /// is painted first; `shown` is all that the window shows of the cloth.
-    void CopyTo(QImage& image, QPoint corner, const QRect& shown, const Paint& paint);
+    /// The picture, of which `wanted` is true: what is not known of it is painted first. `shown` is
+    /// all that the window shows of the cloth.
+    [[nodiscard]] const QImage& Picture(const QRect& wanted, const QRect& shown,
+                                        const Paint& paint);
+    /// The pixel that the picture's upper left one shows.
+    [[nodiscard]] QPoint Corner() const { return m_area.topLeft(); }
 
 private:
     void MoveTo(const QRect& area);
-    /// Rows of pixels of this picture, which lie in it, into another image.
-    void CopyRows(const QRect& pixels, QImage& to, QPoint at) const;
 
     QImage m_image;
     QRect m_area;   ///< of the image

@@ -235,7 +235,6 @@ void GridCanvas::PaintExposed(const QRegion& region) {
                 QPainter over(&image);
                 over.translate(-band.topLeft());
                 over.setClipRect(band);
-                overlay.PaintContent(over, m_floating, m_options, band);
                 overlay.Paint(over);
             }
             ShowBand(painter, band, image, exposed);
@@ -266,8 +265,10 @@ QImage GridCanvas::PaintBand(const QRect& pixels, const QRect& shown) {
     QImage image(reinterpret_cast<uchar*>(m_band.data()), pixels.width(), pixels.height(),
                  static_cast<qsizetype>(pixels.width()) * 4, QImage::Format_RGB32);
     if (m_pattern != nullptr && m_overlay.Content) {
-        m_behind.CopyTo(image, pixels.topLeft(), shown,
-                        [this](QImage& part, QPoint corner) { PaintCloth(part, corner); });
+        const QImage& cloth = m_behind.Picture(
+            pixels, shown, [this](QImage& part, QPoint corner) { PaintCloth(part, corner); });
+        m_floating.PaintOver(cloth, m_behind.Corner(), image, pixels.topLeft(), *m_overlay.Content,
+                             m_geometry, m_options);
     } else {
         PaintCloth(image, pixels.topLeft());
     }

@@ -90,7 +90,8 @@ private:
     /// A rectangle of device pixels from top to bottom in pieces that stay in the cache until they
     /// are on the screen.
     [[nodiscard]] std::vector<QRect> BandsOf(const QRect& part) const;
-    /// The design alone; `shown` is all of it that shows. The image is good until the next one.
+    /// The design and what floats over it; `shown` is all of the grid that shows. The image is good
+    /// until the next one.
     [[nodiscard]] QImage PaintBand(const QRect& pixels, const QRect& shown);
     /// The design into all of an image; its upper left pixel is `corner` of the grid.
     void PaintCloth(QImage& image, QPoint corner);

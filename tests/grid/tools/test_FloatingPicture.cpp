@@ -40,8 +40,7 @@ protected:
     [[nodiscard]] QImage WithFloating(const GridGeometry& geometry, SquarePos at,
                                       bool moving = false) {
         QImage image = Painted(geometry);
-        QPainter painter(&image);
-        picture.Paint(painter, {block, at, moving}, geometry, options, image.rect());
+        picture.Paint(image, {}, {block, at, moving}, geometry, options);
         return image;
     }
     /// The largest difference of a channel.
@@ -115,9 +114,10 @@ TEST_F(FloatingPictureTest, NothingIsPaintedOutsideTheGridOrWhatIsWanted) {
               geometry.PixelsOf({1, 3, 1, 6}));
     const QImage before = Painted(geometry);
     QImage image = before;
-    QPainter painter(&image);
     const QRect wanted(geometry.PixelsOf({8, 9, 8, 9}).topLeft(), QSize(4, 6));
-    picture.Paint(painter, {block, {8, 9}}, geometry, options, wanted);
+    QImage part = image.copy(wanted);
+    picture.Paint(part, wanted.topLeft(), {block, {8, 9}}, geometry, options);
+    QPainter(&image).drawImage(wanted.topLeft(), part);
     QRect changed;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
@@ -127,16 +127,27 @@ TEST_F(FloatingPictureTest, NothingIsPaintedOutsideTheGridOrWhatIsWanted) {
     EXPECT_EQ(changed, wanted);
 }
 
+TEST_F(FloatingPictureTest, FromAnotherImageOfTheClothItIsTheSame) {
+    for (int x = 1; x <= Size; ++x) {
+        pattern.SetStitch(x, 10, StitchWhole, 2, 0);
+    }
+    const GridGeometry geometry(pattern, 170, 1);
+    const QImage cloth = Painted(geometry);
+    const QImage expected = WithFloating(geometry, {8, 9});
+    const QRect part = geometry.PixelsOf({6, 7, 14, 14}).adjusted(3, 2, 0, 0);
+    QImage image(part.size(), QImage::Format_RGB32);
+    image.fill(Qt::magenta);
+    picture.PaintOver(cloth, {}, image, part.topLeft(), {block, {8, 9}}, geometry, options);
+    EXPECT_EQ(image, expected.copy(part));
+}
+
 TEST_F(FloatingPictureTest, AnotherZoomOrBlockMakesAnotherPicture) {
     const GridGeometry small(pattern, 125, 1);
     const GridGeometry large(pattern, 250, 1);
     EXPECT_FALSE(WithFloating(small, {8, 9}).isNull());
     FloatingPicture fresh;
     QImage expected = Painted(large);
-    {
-        QPainter painter(&expected);
-        fresh.Paint(painter, {block, {8, 9}}, large, options, expected.rect());
-    }
+    fresh.Paint(expected, {}, {block, {8, 9}}, large, options);
     EXPECT_EQ(WithFloating(large, {8, 9}), expected);
     picture.Clear();
     EXPECT_EQ(WithFloating(large, {8, 9}), expected);
