@@ -32,6 +32,21 @@ QString LongDescription(const Palette& palette, int floss) {
     return QString::fromStdString(palette.GetFlossLongDesc(floss));
 }
 
+int PositionOfNumber(const Palette& palette, const QString& typed) {
+    int begun = 0;
+    for (int position = 1; position <= palette.GetEntriesCount(); ++position) {
+        const QString number =
+            QString::fromStdString(palette.GetManufID(palette.GetSortIndex(position)));
+        if (number.compare(typed, Qt::CaseInsensitive) == 0) {
+            return position;
+        }
+        if (begun == 0 && number.startsWith(typed, Qt::CaseInsensitive)) {
+            begun = position;
+        }
+    }
+    return begun;
+}
+
 QString Tip(Pattern& pattern, int floss) {
     if (floss < 1 || floss > pattern.GetPalette().GetEntriesCount()) {
         return {};

@@ -16,6 +16,9 @@ namespace zol::FlossText {
 [[nodiscard]] QString Name(const Palette& palette, int floss);
 /// GetFlossLongDesc: "310 - black".
 [[nodiscard]] QString LongDescription(const Palette& palette, int floss);
+/// The place in the display order of the floss whose number is what was typed, or begins with it,
+/// whatever the case of its letters; 0 for none.
+[[nodiscard]] int PositionOfNumber(const Palette& palette, const QString& typed);
 /// The long description and, in a line of its own, how much of the design is sewn with it. Counts
 /// the whole pattern, so it is for a tool tip that is about to show.
 [[nodiscard]] QString Tip(Pattern& pattern, int floss);

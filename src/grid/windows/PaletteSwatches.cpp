@@ -287,25 +287,10 @@ void PaletteSwatches::PickAtCursor() {
 void PaletteSwatches::Type(const QString& text) {
     m_typed += text;
     m_typingPause.start();
-    const int position = PositionOfNumber(m_typed);
+    const int position = FlossText::PositionOfNumber(m_pattern->GetPalette(), m_typed);
     if (position > 0) {
         MoveCursor(position);
     }
-}
-
-int PaletteSwatches::PositionOfNumber(const QString& typed) const {
-    int begun = 0;
-    for (int position = 1; position <= m_layout.Count; ++position) {
-        const QString number =
-            QString::fromStdString(m_pattern->GetPalette().GetManufID(FlossAt(position)));
-        if (number.compare(typed, Qt::CaseInsensitive) == 0) {
-            return position;
-        }
-        if (begun == 0 && number.startsWith(typed, Qt::CaseInsensitive)) {
-            begun = position;
-        }
-    }
-    return begun;
 }
 
 void PaletteSwatches::DescribeCursor() {

@@ -67,7 +67,6 @@ private:
     void PickAtCursor();
     /// Looks for the floss whose number begins with what was typed in one go.
     void Type(const QString& text);
-    [[nodiscard]] int PositionOfNumber(const QString& typed) const;
     void DescribeCursor();
 
     SwatchPainter m_swatches;

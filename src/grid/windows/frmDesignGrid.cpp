@@ -24,6 +24,7 @@
 #include "grid/windows/MainMenus.h"
 #include "grid/windows/MainToolBars.h"
 #include "grid/windows/OptionsCommand.h"
+#include "grid/windows/PaletteCommands.h"
 #include "grid/windows/PaletteFileCommands.h"
 #include "grid/windows/PaletteStrip.h"
 #include "grid/windows/PropertiesCommands.h"

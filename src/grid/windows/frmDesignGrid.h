@@ -31,6 +31,7 @@ class MainCommands;
 class MainMenus;
 class MainToolBars;
 class OptionsCommand;
+class PaletteCommands;
 class PaletteFileCommands;
 class PaletteStrip;
 class PropertiesCommands;
@@ -121,6 +122,7 @@ private:
     std::unique_ptr<ViewCommands> m_view;
     std::unique_ptr<DesignCommands> m_design;
     std::unique_ptr<PropertiesCommands> m_properties;
+    std::unique_ptr<PaletteCommands> m_palette;
     std::unique_ptr<EditCommands> m_edit;
     std::unique_ptr<SizingCommands> m_sizing;
     std::unique_ptr<OptionsCommand> m_options;

@@ -25,6 +25,7 @@
 #include "grid/windows/MainMenus.h"
 #include "grid/windows/MainToolBars.h"
 #include "grid/windows/OptionsCommand.h"
+#include "grid/windows/PaletteCommands.h"
 #include "grid/windows/PaletteFileCommands.h"
 #include "grid/windows/PaletteStrip.h"
 #include "grid/windows/PropertiesCommands.h"
@@ -146,6 +147,9 @@ void frmDesignGrid::SetUpCommands() {
         *m_commands, *this,
         frmAddRows::Desk{m_workshop.Open, m_workshop.Steps, m_workshop.Messages, m_workshop.Store},
         SizingCommands::Followers{[this] { EndTool(); }, [this] { FollowDesign(); }});
+    m_palette = std::make_unique<PaletteCommands>(
+        *m_commands, m_workshop, *m_modes, m_choice, *this,
+        PaletteCommands::Followers{[this] { EndTool(); }, [this] { FollowDesign(); }});
     m_commands->Connect("mnuFileExit", this, [this] { close(); });
     SetUpZoomCommands();
     SetUpOptions();

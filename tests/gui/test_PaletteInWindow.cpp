@@ -1,0 +1,184 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+// The palette editor in the whole program: the step that takes it back, what follows a change, the
+// selected area.
+
+#include <QCheckBox>
+#include <QDialog>
+#include <QListWidget>
+
+#include "flosses/windows/PaletteGrid.h"
+#include "grid/tools/EditBox.h"
+#include "grid/windows/PaletteStrip.h"
+#include "gui/DrawnProgram.h"
+
+namespace zol::test {
+
+namespace {
+
+template<typename Widget>
+Widget& Part(QWidget& window, const char* name) {
+    auto* found = window.findChild<Widget*>(QLatin1String(name));
+    if (found == nullptr) {
+        qFatal("there is no %s", name);
+    }
+    return *found;
+}
+void Press(QWidget& window, const char* button) {
+    QTest::mouseClick(&Part<QWidget>(window, button), Qt::LeftButton);
+}
+
+/// Does something to the modal window that opens next.
+void InNextWindow(const char* name, std::function<void(QDialog&)> work) {
+    QTimer::singleShot(0, qApp, [name, work = std::move(work)] {
+        auto* window = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (window == nullptr || window->objectName() != QLatin1String(name)) {
+            qFatal("%s has not opened", name);
+        }
+        work(*window);
+        window->close();
+    });
+}
+
+} // namespace
+
+class PaletteInWindowTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void ReplacingIsOneStep();
+    void NothingChangedIsNoStep();
+    void CurrentFlossFollows();
+    void AddedFlossAsksForItsSymbol();
+    void SelectedAreaAloneIsReplaced();
+    void FloatingBlockIsWrittenBackFirst();
+};
+
+void PaletteInWindowTest::ReplacingIsOneStep() {
+    const ProgramHome home;
+    DrawnProgram program(home);
+    QVERIFY(program.Open());
+    program.DragOver({{2, 2}, {6, 2}});
+    const std::string drawn = BytesOf(program.Parts().Open.Get());
+    program.User.answers = {MessageAnswer::Yes};
+    InNextWindow("frmPalette", [](QDialog& editor) {
+        InNextWindow("frmReplaceColor", [](QDialog& window) {
+            Part<QListWidget>(window, "imgPaletteColors").setCurrentRow(3);
+            Press(window, "cmdOK");
+        });
+        Press(editor, "cmdReplaceColor");
+    });
+    program.Choose("mnuOptionsPalette");
+    QCOMPARE(program.Design().GetPalette().GetEntriesCount(), 15);
+    QCOMPARE(program.Design().GetStitchPaletteIndex(4, 2), 4);
+    QCOMPARE(program.Command("mnuEditUndo").text(), QStringLiteral("Undo Palette Changes"));
+    QTRY_COMPARE(program.WrongPixels(), 0);
+    program.Choose("mnuEditUndo");
+    QVERIFY(BytesOf(program.Parts().Open.Get()) == drawn);
+    QTRY_COMPARE(program.WrongPixels(), 0);
+    program.End();
+}
+
+void PaletteInWindowTest::NothingChangedIsNoStep() {
+    const ProgramHome home;
+    DrawnProgram program(home);
+    QVERIFY(program.Open());
+    program.DragOver({{2, 2}, {6, 2}});
+    InNextWindow("frmPalette", [](QDialog& editor) {
+        QTest::keyClick(&Part<PaletteGrid>(editor, "picPalette"), Qt::Key_End);
+    });
+    program.Choose("mnuOptionsPalette");
+    QCOMPARE(program.Command("mnuEditUndo").text(), QStringLiteral("Undo Stitches"));
+    program.End();
+}
+
+void PaletteInWindowTest::CurrentFlossFollows() {
+    const ProgramHome home;
+    DrawnProgram program(home);
+    QVERIFY(program.Open());
+    program.Window().Modes().SetCurrentColor(5);
+    InNextWindow("frmPalette", [](QDialog& editor) {
+        auto& grid = Part<PaletteGrid>(editor, "picPalette");
+        QTest::mouseClick(&grid, Qt::LeftButton, {}, grid.RectOf(2).center());
+        Press(editor, "cmdRemoveColor");
+    });
+    program.Choose("mnuOptionsPalette");
+    QCOMPARE(program.Window().findChild<PaletteStrip*>()->Current(), 4);
+    program.Choose("mnuEditUndo");
+    QCOMPARE(program.Window().findChild<PaletteStrip*>()->Current(), 5);
+    program.End();
+}
+
+void PaletteInWindowTest::AddedFlossAsksForItsSymbol() {
+    const ProgramHome home;
+    DrawnProgram program(home);
+    QVERIFY(program.Open());
+    InNextWindow("frmPalette", [](QDialog& editor) {
+        InNextWindow("frmSymbols", [](QDialog& window) { Press(window, "cmdOK"); });
+        Press(editor, "cmdAdd");
+    });
+    program.Choose("mnuOptionsPalette");
+    QCOMPARE(program.Design().GetPalette().GetEntriesCount(), 17);
+    QCOMPARE(program.Design().GetPalette().GetFlossSymbol(17), int('!'));
+    QVERIFY(program.Design().IsChanged());
+    // The same window serves every other palette of the program.
+    QVERIFY(program.Parts().Context.Symbols != nullptr);
+    program.End();
+}
+
+void PaletteInWindowTest::SelectedAreaAloneIsReplaced() {
+    const ProgramHome home;
+    DrawnProgram program(home);
+    QVERIFY(program.Open());
+    program.DragOver({{2, 2}, {9, 2}});
+    program.Window().Modes().SetDrawMode(DrawEditBox);
+    program.DragOver({{1, 1}, {4, 4}});
+    QVERIFY(program.Window().Modes().Box().IsActive());
+    program.User.answers = {MessageAnswer::Yes};
+    InNextWindow("frmPalette", [](QDialog& editor) {
+        Part<QCheckBox>(editor, "chkEditBoxOnly").click();
+        InNextWindow("frmReplaceColor", [](QDialog& window) { Press(window, "cmdOK"); });
+        Press(editor, "cmdReplaceColor");
+    });
+    program.Choose("mnuOptionsPalette");
+    QCOMPARE(program.Design().GetStitchPaletteIndex(4, 2), 2);
+    QCOMPARE(program.Design().GetStitchPaletteIndex(5, 2), 1);
+    // The selection stays, with what its squares hold now.
+    const EditBox& box = program.Window().Modes().Box();
+    QCOMPARE(box.GetEditBoxRect(), (SquareRect{1, 1, 4, 4}));
+    QCOMPARE(box.Content()->GetStitchPaletteIndex(4, 2), 2);
+    program.End();
+}
+
+void PaletteInWindowTest::FloatingBlockIsWrittenBackFirst() {
+    const ProgramHome home;
+    DrawnProgram program(home);
+    QVERIFY(program.Open());
+    program.DragOver({{2, 2}, {4, 2}});
+    program.Window().Modes().SetDrawMode(DrawEditBox);
+    program.DragOver({{2, 2}, {4, 2}});
+    QVERIFY(program.Window().Modes().Box().Nudge(0, 5));
+    QVERIFY(program.Window().Modes().Box().HasPattern());
+    QCOMPARE(program.Design().GetStitchCount(3, 7), 0);
+    program.User.answers = {MessageAnswer::Yes};
+    InNextWindow("frmPalette", [](QDialog& editor) {
+        Part<QCheckBox>(editor, "chkEditBoxOnly").click();
+        InNextWindow("frmReplaceColor", [](QDialog& window) { Press(window, "cmdOK"); });
+        Press(editor, "cmdReplaceColor");
+    });
+    program.Choose("mnuOptionsPalette");
+    QCOMPARE(
+        program.User.asked.front().text,
+        std::string("The Floss you are about to change the color of 3 stitches in your current "
+                    "pattern.  \nDo you wish to continue?"));
+    QCOMPARE(program.Design().GetStitchPaletteIndex(3, 7), 2);
+    QCOMPARE(program.Window().Modes().Box().GetEditBoxRect(), (SquareRect{2, 7, 4, 7}));
+    QTRY_COMPARE(program.WrongPixels(), 0);
+    program.End();
+}
+
+} // namespace zol::test
+
+QTEST_MAIN(zol::test::PaletteInWindowTest)
+#include "test_PaletteInWindow.moc"
