@@ -3,7 +3,9 @@
 
 #include "settings/windows/MarginField.h"
 
-#include <QTimer>
+#include <QFocusEvent>
+
+#include <utility>
 
 #include "settings/Margins.h"
 #include "windowkit/NumericFilter.h"
@@ -23,8 +25,16 @@ MarginField::MarginField(QWidget* parent) : QLineEdit(parent) {
 
 void MarginField::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
-    // The click that brings the focus would place the cursor afterwards.
-    QTimer::singleShot(0, this, &QLineEdit::selectAll);
+    selectAll();
+    m_clickedInto = event->reason() == Qt::MouseFocusReason;
+}
+
+void MarginField::mousePressEvent(QMouseEvent* event) {
+    QLineEdit::mousePressEvent(event);
+    // The click that brought the focus has placed the cursor.
+    if (std::exchange(m_clickedInto, false)) {
+        selectAll();
+    }
 }
 
 void MarginField::focusOutEvent(QFocusEvent* event) {
