@@ -78,12 +78,12 @@ bool PaletteEditor::HasRoom() const {
 bool PaletteEditor::IsAdded(int row) const {
     const std::string number = m_available.Rows().GetFlossManuID(row);
     const std::string manufacturer = m_available.Rows().GetShortDesc();
+    const std::string refusal =
+        manufacturer + " " + number + " has already been added to your palette.";
     for (int entry = 1; entry <= Flosses().GetEntriesCount(); ++entry) {
         if (!Flosses().IsBlended(entry) && Flosses().GetManufID(entry) == number &&
             Flosses().GetManufShortDesc(entry) == manufacturer) {
-            m_desk.Messages.Tell(manufacturer + " " + number +
-                                     " has already been added to your palette.",
-                                 MessageIcon::Exclamation, {});
+            m_desk.Messages.Tell(refusal, MessageIcon::Exclamation, {});
             return true;
         }
     }
