@@ -12,9 +12,10 @@
 #include "grid/painting/GridLines.h"
 #include "grid/painting/LineIndex.h"
 #include "grid/painting/LineMasks.h"
-#include "grid/painting/RasterGrid.h"
 #include "grid/painting/SquarePainter.h"
 #include "grid/painting/StyledLine.h"
+#include "grid/painting/TileCache.h"
+#include "grid/painting/ViewPass.h"
 
 namespace zol {
 
@@ -46,7 +47,7 @@ GridPainter::GridPainter()
       m_symbols(std::make_unique<SymbolText>()),
       m_lines(std::make_unique<LineIndex>()),
       m_lineMasks(std::make_unique<LineMasks>()),
-      m_raster(std::make_unique<RasterGrid>(*m_images, *m_symbols)) {}
+      m_tiles(std::make_unique<TileCache>(*m_images, *m_symbols)) {}
 
 GridPainter::~GridPainter() = default;
 
@@ -58,21 +59,13 @@ void GridPainter::PaintGrid(QPainter& painter, const GridView& view, const Squar
 
 void GridPainter::PaintImage(QImage& image, QPoint position, const GridView& view,
                              const SquareRect& rect) {
-    const SquareRect cut = CutToPattern(view, rect);
-    if (cut.IsEmpty() || image.isNull()) {
-        return;
-    }
-    const RasterGrid::Painted painted = m_raster->Paint(image, position, view, cut);
-    if (painted.Area.isEmpty() || view.Source->Lines().empty()) {
-        return;
-    }
-    const QRect& area = painted.Area;
-    const auto stride = image.bytesPerLine() / static_cast<std::ptrdiff_t>(sizeof(QRgb));
-    QRgb* first = reinterpret_cast<QRgb*>(image.scanLine(area.top())) + area.left();
-    PixelCanvas canvas({first, stride, area.width(), area.height()}, position + area.topLeft(),
-                       *m_lineMasks, view.Options.Antialias);
-    zol::DrawBackStitchLines(canvas, view, painted.Squares, *m_lines);
-    canvas.Flush();
+    BeginImages(view, rect, QRect(position, image.size()))->Paint(image, position);
+}
+
+std::unique_ptr<ViewPass> GridPainter::BeginImages(const GridView& view, const SquareRect& rect,
+                                                   const QRect& pixels) {
+    return std::make_unique<ViewPass>(view, CutToPattern(view, rect), pixels, *m_tiles, *m_lines,
+                                      *m_lineMasks);
 }
 
 void GridPainter::DrawGridLines(QPainter& painter, const GridView& view, const SquareRect& rect) {

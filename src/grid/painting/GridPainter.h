@@ -20,7 +20,8 @@ namespace zol {
 
 class LineIndex;
 class LineMasks;
-class RasterGrid;
+class TileCache;
+class ViewPass;
 
 /// Paints patterns: squares in six styles, grid lines, backstitch lines, knots. It has two ways:
 /// shape by shape onto any QPainter (paper, where symbols are text and lines stay lines), and
@@ -42,6 +43,9 @@ public:
     /// pixel of the grid that the image's upper left pixel shows. What lies outside the
     /// rectangle's squares is left alone.
     void PaintImage(QImage& image, QPoint position, const GridView& view, const SquareRect& rect);
+    /// For several images that show pieces of one picture, all of them among these device pixels.
+    [[nodiscard]] std::unique_ptr<ViewPass>
+    BeginImages(const GridView& view, const SquareRect& rect, const QRect& pixels);
 
     void DrawGridLines(QPainter& painter, const GridView& view, const SquareRect& rect);
     /// Stitches, then the knots that touch the squares.
@@ -70,7 +74,7 @@ private:
     std::unique_ptr<SymbolText> m_symbols;
     std::unique_ptr<LineIndex> m_lines;
     std::unique_ptr<LineMasks> m_lineMasks;
-    std::unique_ptr<RasterGrid> m_raster;
+    std::unique_ptr<TileCache> m_tiles;
 };
 
 } // namespace zol

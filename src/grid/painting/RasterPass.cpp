@@ -19,28 +19,28 @@ constexpr std::size_t ColumnsAhead = 12;
 
 } // namespace
 
-RasterPass::RasterPass(QImage& image, QPoint position, const GridView& view, const SquareRect& rect,
+RasterPass::RasterPass(const GridView& view, const SquareRect& rect, const QRect& pixels,
                        TileCache& tiles)
-    : m_position(position),
-      m_view(view),
-      m_rect(rect),
+    : m_view(view),
       m_tiles(tiles),
-      m_buffer{reinterpret_cast<QRgb*>(image.bits()),
-               image.bytesPerLine() / static_cast<std::ptrdiff_t>(sizeof(QRgb)), image.width(),
-               image.height()} {}
+      m_all(ShownIn(rect, pixels)) {
+    if (!m_all.IsEmpty()) {
+        m_x = SquareSpans::Columns(m_view, m_all.Left, m_all.Right);
+        m_y = SquareSpans::Rows(m_view, m_all.Top, m_all.Bottom);
+    }
+}
 
-RasterGrid::Painted RasterPass::Run() {
+RasterPass::Painted RasterPass::Paint(QImage& image, QPoint position) {
+    m_position = position;
+    m_buffer = {reinterpret_cast<QRgb*>(image.bits()),
+                image.bytesPerLine() / static_cast<std::ptrdiff_t>(sizeof(QRgb)), image.width(),
+                image.height()};
     FindArea();
     if (m_area.isEmpty()) {
         return {};
     }
+    BeginTiles();
     FindTiles();
-    m_groundRow = TemplateRow(m_tiles.GroundOf(), true);
-    if (m_view.Options.StitchStyle == ShowColorSquares) {
-        PrepareSolidLine();
-    } else {
-        FindRuns();
-    }
     // Squares lie behind their lines, so lines may be painted row by row with them.
     std::size_t next = 0;
     for (int number = m_rect.Top; number <= m_rect.Bottom + 1; ++number) {
@@ -141,6 +141,7 @@ void RasterPass::PaintRow(std::size_t place) {
 }
 
 void RasterPass::PrepareSolidLine() {
+    m_lineColumns.clear();
     if (m_columns.Shown.empty()) {
         // Nothing but an upright line.
         m_lineLeft = m_area.left();
@@ -227,6 +228,8 @@ void RasterPass::PaintOddSquares(std::size_t firstRow) {
 }
 
 void RasterPass::FindRuns() {
+    m_runs.clear();
+    m_loneColumns.clear();
     const std::vector<Stretch>& shown = m_columns.Shown;
     for (std::size_t i = 0; i < shown.size(); ++i) {
         const Stretch& column = shown[i];

@@ -14,43 +14,32 @@
 
 #include "grid/painting/GridLines.h"
 #include "grid/painting/GridView.h"
-#include "grid/painting/RasterGrid.h"
+#include "grid/painting/RasterAxis.h"
 #include "grid/painting/SquareContent.h"
 #include "grid/painting/TileCache.h"
 #include "grid/painting/TileCopy.h"
 
 namespace zol {
 
-/// One paint of RasterGrid, with everything that is worked out once for it.
+/// Paints ground, grid lines, stitches and knots of a view straight into the pixels of images,
+/// which are pieces of one picture: lines and solid squares a scan line at a time, other squares as
+/// copies of tiles. What the pieces share is worked out once.
 class RasterPass {
 public:
-    RasterPass(QImage& image, QPoint position, const GridView& view, const SquareRect& rect,
-               TileCache& tiles);
+    /// `pixels` are all of the device that pieces will show; `rect` lies in the pattern. Pattern
+    /// and tiles outlive the pass.
+    RasterPass(const GridView& view, const SquareRect& rect, const QRect& pixels, TileCache& tiles);
 
-    RasterGrid::Painted Run();
+    struct Painted {
+        QRect Area;         ///< of the image
+        SquareRect Squares; ///< those of the rectangle that the image shows, and a few around
+    };
+    /// Paints a piece whose upper left pixel is the device's pixel `position`. An empty area if the
+    /// image shows nothing of the rectangle.
+    Painted Paint(QImage& image, QPoint position);
 
 private:
-    /// One column or row of squares that shows; pixels are those of the image.
-    struct Stretch {
-        int Number;
-        int Edge;  ///< where the line before it begins
-        int First; ///< behind the line
-        int Last;
-        std::size_t Size; ///< which of the sizes along its axis
-        bool Cut;         ///< not wholly in the painted area
-    };
-    /// The stretches of an axis and the distinct sizes among them.
-    struct Axis {
-        std::vector<Stretch> Shown;
-        std::vector<int> Sizes;
-        std::vector<int> PlaceOf; ///< by number less the first: place in Shown, -1 if not there
-        int Pitch = 0;            ///< pixels from each edge to the next; 0 if they differ
-
-        void Find(const SquareSpans& spans, int from, int to, int position, int areaFirst,
-                  int areaLast);
-        void FindPitch();
-        [[nodiscard]] const Stretch* At(int number, int from) const;
-    };
+    using Stretch = RasterAxis::Stretch;
 
     /// Columns side by side whose tiles are equally wide and equally far apart.
     struct TileRun {
@@ -68,8 +57,12 @@ private:
     /// reading them row by row would wait for memory at each.
     static constexpr std::size_t BandRows = 16;
 
+    /// The squares of a rectangle that may show something in these pixels.
+    [[nodiscard]] SquareRect ShownIn(const SquareRect& rect, const QRect& pixels) const;
+    void BeginTiles();
     void FindArea();
     void FindTiles();
+    void FindColumns();
     [[nodiscard]] std::vector<QRgb> TemplateRow(QRgb ground, bool normalColumns) const;
     void CopyTemplate(const QRgb* row, int fromPixel, int toPixel);
     void PaintLineAbove(int row);
@@ -85,12 +78,11 @@ private:
     void PaintTile(const Stretch& column, const Stretch& row, const StitchCell& cell);
     void CopyTile(const Stretch& column, const Stretch& row, const QRgb* tile);
     void PaintMixedSquares();
+    void SortMixedSquares();
     void PaintMixedSquare(const Stretch& column, const Stretch& row, const DupStitch* dup);
     void PaintKnots();
-    [[nodiscard]] std::vector<PlacedKnot> FindKnots();
-    /// The columns (or rows) that do not show but touch a stretch of device pixels.
-    [[nodiscard]] static std::vector<int> Around(const Axis& axis, const SquareSpans& spans,
-                                                 int from, int to, int firstPixel, int lastPixel);
+    void FindKnots();
+    [[nodiscard]] bool IsMuchOfAll(std::size_t work, std::size_t table) const;
     void PaintKnot(const PlacedKnot& placed);
 
     [[nodiscard]] QRgb* Pixel(int x, int y) { return m_buffer.Row(y) + x; }
@@ -98,16 +90,30 @@ private:
         return *m_sizes[row.Size * m_columns.Sizes.size() + column.Size];
     }
 
-    QPoint m_position;
-    const GridView& m_view;
-    SquareRect m_rect;
+    const GridView m_view;
     TileCache& m_tiles;
-    PixelBuffer m_buffer;
+    std::uint64_t m_paint = 0; ///< of the tiles, that the next are true for
+    SquareRect m_all;          ///< squares that any piece may show
     std::optional<SquareSpans> m_x;
     std::optional<SquareSpans> m_y;
+    std::vector<const DupStitch*> m_dups; ///< squares with more than one stitch, row by row
+    std::vector<std::size_t> m_dupsOfRow; ///< where each row of m_all begins; empty if not sorted
+    std::optional<std::vector<PlacedKnot>> m_allKnots; ///< in painting order, once looked for
+
+    // The columns, and what is made of them, stay while pieces lie one below the other.
+    struct Across {
+        int Position, Left, Right, First, Last;
+        friend bool operator==(const Across&, const Across&) = default;
+    };
+    std::optional<Across> m_across;
+    RasterAxis m_columns;
+
+    // The piece in work.
+    QPoint m_position;
+    PixelBuffer m_buffer;
+    SquareRect m_rect;
     QRect m_area; ///< what is painted, in the image's pixels
-    Axis m_columns;
-    Axis m_rows;
+    RasterAxis m_rows;
     std::vector<TileCache::Size*> m_sizes;
     std::vector<const QRgb*> m_band; ///< tiles of some rows, row by row as they are painted
     std::vector<TileRun> m_runs;
@@ -123,6 +129,7 @@ private:
     std::size_t m_oddCount = 0;
     std::vector<SquarePos> m_mixed; ///< squares with more than one stitch
     std::vector<SquarePos> m_knotted;
+    std::vector<PlacedKnot> m_knots;
     std::vector<QRgb> m_scratch;
 };
 

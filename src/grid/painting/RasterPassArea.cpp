@@ -27,7 +27,7 @@ std::pair<int, int> ShownOf(int first, int last, int fromPixel, int toPixel, dou
 
 } // namespace
 
-void RasterPass::FindArea() {
+SquareRect RasterPass::ShownIn(const SquareRect& rect, const QRect& pixels) const {
     const GridScale& s = m_view.Scale;
     // Marks and waves reach less than a square to the side of a line, and so do knots. Pens are a
     // pixel wide at least, which at the smallest zooms is many squares.
@@ -35,79 +35,65 @@ void RasterPass::FindArea() {
         std::max(s.SquareTwipsX / s.TwipsPerPixelX, s.SquareTwipsY / s.TwipsPerPixelY) +
         GetBackStitchPenWidth(m_view) + 2;
     const auto [left, right] =
-        ShownOf(m_rect.Left, m_rect.Right, m_position.x(), m_position.x() + m_buffer.Width, reach,
+        ShownOf(rect.Left, rect.Right, pixels.left(), pixels.left() + pixels.width(), reach,
                 s.SquareTwipsX, m_view.OriginX, s.TwipsPerPixelX);
     const auto [top, bottom] =
-        ShownOf(m_rect.Top, m_rect.Bottom, m_position.y(), m_position.y() + m_buffer.Height, reach,
+        ShownOf(rect.Top, rect.Bottom, pixels.top(), pixels.top() + pixels.height(), reach,
                 s.SquareTwipsY, m_view.OriginY, s.TwipsPerPixelY);
-    m_rect = {left, top, right, bottom};
+    return {left, top, right, bottom};
+}
+
+void RasterPass::FindArea() {
+    m_area = QRect();
+    m_rect = m_all.IsEmpty()
+                 ? m_all
+                 : ShownIn(m_all, QRect(m_position, QSize(m_buffer.Width, m_buffer.Height)));
     if (m_rect.IsEmpty()) {
         return;
     }
-    m_x = SquareSpans::Columns(m_view, left, right);
-    m_y = SquareSpans::Rows(m_view, top, bottom);
     // The closing lines are painted too, as far as the image holds them.
-    const QPoint corner(m_x->Edge(left), m_y->Edge(top));
-    const QPoint end(m_x->First(right + 1), m_y->First(bottom + 1));
+    const QPoint corner(m_x->Edge(m_rect.Left), m_y->Edge(m_rect.Top));
+    const QPoint end(m_x->First(m_rect.Right + 1), m_y->First(m_rect.Bottom + 1));
     m_area = QRect(corner - m_position, end - m_position - QPoint(1, 1))
                  .intersected(QRect(0, 0, m_buffer.Width, m_buffer.Height));
 }
 
-void RasterPass::Axis::Find(const SquareSpans& spans, int from, int to, int position, int areaFirst,
-                            int areaLast) {
-    for (int number = from; number <= to; ++number) {
-        const int edge = spans.Edge(number) - position;
-        const int first = spans.First(number) - position;
-        const int last = spans.Last(number) - position;
-        const bool shown = last >= first && last >= areaFirst && first <= areaLast;
-        PlaceOf.push_back(shown ? static_cast<int>(Shown.size()) : -1);
-        if (!shown) {
-            continue;
-        }
-        const int size = last - first + 1;
-        const auto known = std::find(Sizes.begin(), Sizes.end(), size);
-        const auto which = static_cast<std::size_t>(known - Sizes.begin());
-        if (known == Sizes.end()) {
-            Sizes.push_back(size);
-        }
-        Shown.push_back({number, edge, first, last, which, first < areaFirst || last > areaLast});
+void RasterPass::BeginTiles() {
+    // Another paint may have come between two pieces.
+    if (m_paint == 0 || m_paint != m_tiles.Paint()) {
+        m_tiles.Begin(m_view);
+        m_paint = m_tiles.Paint();
+        m_across.reset();
     }
-    FindPitch();
-}
-
-void RasterPass::Axis::FindPitch() {
-    if (Shown.empty()) {
-        return;
-    }
-    Pitch = Shown.front().Last + 1 - Shown.front().Edge;
-    int edge = Shown.front().Edge;
-    for (const Stretch& stretch : Shown) {
-        if (stretch.Edge != edge || stretch.Last + 1 - edge != Pitch) {
-            Pitch = 0;
-            return;
-        }
-        edge += Pitch;
-    }
-}
-
-const RasterPass::Stretch* RasterPass::Axis::At(int number, int from) const {
-    const auto at = static_cast<std::size_t>(number - from);
-    if (number < from || at >= PlaceOf.size() || PlaceOf[at] < 0) {
-        return nullptr;
-    }
-    return &Shown[static_cast<std::size_t>(PlaceOf[at])];
 }
 
 void RasterPass::FindTiles() {
-    m_columns.Find(*m_x, m_rect.Left, m_rect.Right, m_position.x(), m_area.left(), m_area.right());
+    const Across across{m_position.x(), m_rect.Left, m_rect.Right, m_area.left(), m_area.right()};
+    if (m_across != across) {
+        FindColumns();
+        m_across = across;
+    }
     m_rows.Find(*m_y, m_rect.Top, m_rect.Bottom, m_position.y(), m_area.top(), m_area.bottom());
+    m_sizes.clear();
     for (const int height : m_rows.Sizes) {
         for (const int width : m_columns.Sizes) {
             m_sizes.push_back(&m_tiles.SizeOf(width, height));
         }
     }
+}
+
+void RasterPass::FindColumns() {
+    m_columns.Find(*m_x, m_rect.Left, m_rect.Right, m_position.x(), m_area.left(), m_area.right());
+    m_copiers.clear();
     for (const int width : m_columns.Sizes) {
         m_copiers.push_back(TileCopierFor(width));
+    }
+    m_lineRows.clear();
+    m_groundRow = TemplateRow(m_tiles.GroundOf(), true);
+    if (m_view.Options.StitchStyle == ShowColorSquares) {
+        PrepareSolidLine();
+    } else {
+        FindRuns();
     }
 }
 

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <numeric>
 
 #include "grid/painting/PaintColors.h"
 
@@ -29,23 +31,60 @@ void RasterPass::NoteFlags(const Stretch& column, const Stretch& row, const Stit
     }
 }
 
+bool RasterPass::IsMuchOfAll(std::size_t work, std::size_t table) const {
+    const auto rows = static_cast<std::size_t>(m_all.Bottom - m_all.Top) + 1;
+    const auto columns = static_cast<std::size_t>(m_all.Right - m_all.Left) + 1;
+    const std::size_t here = m_rows.Shown.size() * m_columns.Shown.size();
+    // The other pieces will ask for as much.
+    return here > 0 && table <= work * (rows * columns / here);
+}
+
+void RasterPass::SortMixedSquares() {
+    const KeyedTable<DupStitch>& table = m_view.Source->DupStitches();
+    const auto isHere = [this](const DupStitch& dup) {
+        return dup.X >= m_all.Left && dup.X <= m_all.Right && dup.Y >= m_all.Top &&
+               dup.Y <= m_all.Bottom;
+    };
+    const auto rowOf = [this](const DupStitch& dup) {
+        return static_cast<std::size_t>(dup.Y - m_all.Top);
+    };
+    m_dupsOfRow.assign(static_cast<std::size_t>(m_all.Bottom - m_all.Top) + 3, 0);
+    std::vector<const DupStitch*> found;
+    table.ForEach([&](const DupStitch& dup) {
+        if (isHere(dup)) {
+            found.push_back(&dup);
+            ++m_dupsOfRow[rowOf(dup) + 2];
+        }
+    });
+    std::partial_sum(m_dupsOfRow.begin(), m_dupsOfRow.end(), m_dupsOfRow.begin());
+    m_dups.resize(found.size());
+    for (const DupStitch* dup : found) {
+        m_dups[m_dupsOfRow[rowOf(*dup) + 1]++] = dup;
+    }
+}
+
 void RasterPass::PaintMixedSquares() {
     const KeyedTable<DupStitch>& table = m_view.Source->DupStitches();
-    const auto paint = [this](int x, int y, const DupStitch* dup) {
-        const Stretch* column = m_columns.At(x, m_rect.Left);
-        const Stretch* row = m_rows.At(y, m_rect.Top);
-        if (column != nullptr && row != nullptr) {
-            PaintMixedSquare(*column, *row, dup);
-        }
-    };
     // Whichever is less work: walking the table, or looking each square up in it.
-    if (table.Count() <= m_mixed.size() * RecordsPerLookUp) {
-        table.ForEach([&](const DupStitch& dup) { paint(dup.X, dup.Y, &dup); });
-        return;
+    if (m_dupsOfRow.empty() && IsMuchOfAll(m_mixed.size() * RecordsPerLookUp, table.Count())) {
+        SortMixedSquares();
     }
-    for (const SquarePos& square : m_mixed) {
-        paint(square.X, square.Y, table.Find(KeyedTable<DupStitch>::KeyOf(square.Y, square.X)));
+    if (m_dupsOfRow.empty()) {
+        for (const SquarePos& square : m_mixed) {
+            PaintMixedSquare(*m_columns.At(square.X), *m_rows.At(square.Y),
+                             table.Find(KeyedTable<DupStitch>::KeyOf(square.Y, square.X)));
+        }
+    } else if (!m_mixed.empty()) {
+        for (const Stretch& row : m_rows.Shown) {
+            const auto at = static_cast<std::size_t>(row.Number - m_all.Top);
+            for (std::size_t i = m_dupsOfRow[at]; i < m_dupsOfRow[at + 1]; ++i) {
+                if (const Stretch* column = m_columns.At(m_dups[i]->X); column != nullptr) {
+                    PaintMixedSquare(*column, row, m_dups[i]);
+                }
+            }
+        }
     }
+    m_mixed.clear();
 }
 
 void RasterPass::PaintMixedSquare(const Stretch& column, const Stretch& row, const DupStitch* dup) {
@@ -67,7 +106,12 @@ void RasterPass::PaintMixedSquare(const Stretch& column, const Stretch& row, con
     CopyTile(column, row, m_scratch.data());
 }
 
-std::vector<PlacedKnot> RasterPass::FindKnots() {
+void RasterPass::FindKnots() {
+    const Pattern& pattern = *m_view.Source;
+    m_knots.clear();
+    if (pattern.FrenchKnots().Count() == 0) {
+        return;
+    }
     // The pen, and a turned oval where squares are no squares, reach out of the squares that a
     // knot touches: it may show although none of them does.
     const GridScale& s = m_view.Scale;
@@ -75,17 +119,23 @@ std::vector<PlacedKnot> RasterPass::FindKnots() {
     const double down = s.SquareTwipsY / s.TwipsPerPixelY;
     const int reach =
         KnotShapes::PenWidth(m_view) + static_cast<int>(std::abs(across - down) / 2) + 2;
-    const std::vector<int> columns =
-        Around(m_columns, *m_x, m_rect.Left, m_rect.Right, m_position.x() + m_area.left() - reach,
-               m_position.x() + m_area.right() + reach);
-    const std::vector<int> rows =
-        Around(m_rows, *m_y, m_rect.Top, m_rect.Bottom, m_position.y() + m_area.top() - reach,
-               m_position.y() + m_area.bottom() + reach);
+    const std::vector<int> columns = m_columns.Around(*m_x, m_position.x() + m_area.left() - reach,
+                                                      m_position.x() + m_area.right() + reach);
+    const std::vector<int> rows = m_rows.Around(*m_y, m_position.y() + m_area.top() - reach,
+                                                m_position.y() + m_area.bottom() + reach);
     const std::size_t beside =
         columns.size() * (rows.size() + m_rows.Shown.size()) + rows.size() * m_columns.Shown.size();
-    const Pattern& pattern = *m_view.Source;
-    if (pattern.FrenchKnots().Count() <= m_knotted.size() * RecordsPerSquare + beside) {
-        return KnotsOf(pattern, m_rect);
+    if (m_allKnots ||
+        IsMuchOfAll(m_knotted.size() * RecordsPerSquare + beside, pattern.FrenchKnots().Count())) {
+        if (!m_allKnots) {
+            m_allKnots = KnotsOf(pattern, m_all);
+        }
+        std::copy_if(m_allKnots->begin(), m_allKnots->end(), std::back_inserter(m_knots),
+                     [this](const PlacedKnot& knot) {
+                         return knot.Square.Y >= m_rect.Top && knot.Square.Y <= m_rect.Bottom &&
+                                knot.Square.X >= m_rect.Left && knot.Square.X <= m_rect.Right;
+                     });
+        return;
     }
     const auto note = [&](int column, int row) {
         if ((pattern.Cell(column, row).CellFlags & CellHasKnot) != 0) {
@@ -101,25 +151,15 @@ std::vector<PlacedKnot> RasterPass::FindKnots() {
     for (const Stretch& column : m_columns.Shown) {
         std::for_each(rows.begin(), rows.end(), [&](int row) { note(column.Number, row); });
     }
-    return KnotsOf(pattern, m_rect, m_knotted);
-}
-
-std::vector<int> RasterPass::Around(const Axis& axis, const SquareSpans& spans, int from, int to,
-                                    int firstPixel, int lastPixel) {
-    std::vector<int> numbers;
-    for (int number = from; number <= to; ++number) {
-        if (axis.At(number, from) == nullptr && spans.Last(number) >= firstPixel &&
-            spans.Edge(number) <= lastPixel) {
-            numbers.push_back(number);
-        }
-    }
-    return numbers;
+    m_knots = KnotsOf(pattern, m_rect, m_knotted);
 }
 
 void RasterPass::PaintKnots() {
-    for (const PlacedKnot& placed : FindKnots()) {
+    FindKnots();
+    for (const PlacedKnot& placed : m_knots) {
         PaintKnot(placed);
     }
+    m_knotted.clear();
 }
 
 void RasterPass::PaintKnot(const PlacedKnot& placed) {

@@ -42,6 +42,7 @@ TileCache::TileCache(StitchImages& images, SymbolText& symbols)
 }
 
 void TileCache::Begin(const GridView& view) {
+    ++m_paint;
     const Palette& palette = view.Source->GetPalette();
     const PaintOptions& options = view.Options;
     Setting setting{options.StitchStyle,    options.Ground(),      options.Antialias,

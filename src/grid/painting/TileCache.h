@@ -53,6 +53,8 @@ public:
     /// To be called before each paint: takes over palette and options. Sizes and tiles given
     /// before are void.
     void Begin(const GridView& view);
+    /// Which paint is in work, from 1 on.
+    [[nodiscard]] std::uint64_t Paint() const { return m_paint; }
     [[nodiscard]] Size& SizeOf(int width, int height);
 
     /// Rows of Width pixels without gaps.
@@ -110,6 +112,7 @@ private:
     SymbolText& m_symbols;
     MaskStore m_masks;
     Setting m_setting;
+    std::uint64_t m_paint = 0;
     QRgb m_ground = 0;
     std::array<Look, 256> m_looks{};
     int m_entries = 255; ///< of the palette that the looks were taken from

@@ -15,6 +15,7 @@
 #include "grid/painting/BackStitchLines.h"
 #include "grid/painting/GridPainter.h"
 #include "grid/painting/PaintColors.h"
+#include "grid/painting/ViewPass.h"
 #include "grid/tools/OverlayPainter.h"
 #include "grid/windows/GridCursors.h"
 #include "windowkit/DevicePixels.h"
@@ -80,6 +81,8 @@ GridCanvas::GridCanvas(GridPainter& painter, QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     resize(0, 0);
 }
+
+GridCanvas::~GridCanvas() = default;
 
 void GridCanvas::SetPattern(const Pattern* pattern) {
     m_pattern = pattern;
@@ -216,6 +219,7 @@ void GridCanvas::paintEvent(QPaintEvent* event) {
     } catch (const std::exception&) {
         // Memory ran out, say: the window stays as it is and the program goes on.
     }
+    m_pass.reset();
 }
 
 void GridCanvas::PaintExposed(const QRegion& region) {
@@ -227,6 +231,9 @@ void GridCanvas::PaintExposed(const QRegion& region) {
     }
     const OverlayPainter overlay = OverlayOf(m_pattern != nullptr ? m_overlay : Overlay{});
     const QRegion covered = overlay.Covered();
+    if (m_pattern != nullptr) {
+        m_pass = m_painter.BeginImages(View(), m_geometry.Everything(), exposed.boundingRect());
+    }
     const QRect shown = device.Covering(visibleRegion().boundingRect());
     for (const QRect& part : FewRectsOf(exposed)) {
         for (const QRect& band : BandsOf(part)) {
@@ -282,8 +289,8 @@ void GridCanvas::PaintCloth(QImage& image, QPoint corner) {
     if (!whole) {
         image.fill(ToRgb(m_options.ClothColor));
     }
-    if (m_pattern != nullptr) {
-        m_painter.PaintImage(image, corner, View(), m_geometry.Everything());
+    if (m_pass) {
+        m_pass->Paint(image, corner);
     }
 }
 

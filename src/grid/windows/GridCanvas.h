@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -20,6 +21,7 @@
 namespace zol {
 
 class GridPainter;
+class ViewPass;
 
 /// The design as a widget, `picGrid`: as large as the whole grid at the present zoom, and moved
 /// inside its holder to scroll. It keeps no picture of itself; what the system exposes is painted
@@ -30,6 +32,7 @@ class GridCanvas : public QWidget {
 public:
     /// The painter outlives the canvas.
     GridCanvas(GridPainter& painter, QWidget* parent);
+    ~GridCanvas() override;
 
     /// The pattern outlives the canvas or is replaced before it goes; null shows nothing.
     void SetPattern(const Pattern* pattern);
@@ -112,6 +115,7 @@ private:
     PointerButton m_held = PointerButton::None;
     GridCursor m_cursor = GridCursor::Default;
     std::optional<Qt::CursorShape> m_hand;
+    std::unique_ptr<ViewPass> m_pass;  ///< while a paint is in work
     std::vector<std::uint32_t> m_band; ///< pixels on their way to the screen
     ClothBehind m_behind;              ///< holds something while a block floats, as the next does
     FloatingPicture m_floating;

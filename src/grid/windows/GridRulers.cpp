@@ -25,7 +25,7 @@ constexpr double TwipsPerPixel = 15;
 /// "depth" from the outer edge to the grid.
 class GridRuler::Sheet {
 public:
-    Sheet(QPainter& painter, const GridRuler& ruler)
+    Sheet(QPainter& painter, GridRuler& ruler)
         : m_ruler(ruler),
           m_device(painter),
           m_painter(painter),
@@ -33,10 +33,7 @@ public:
           m_depth(static_cast<int>(std::ceil(Thickness * m_device.Ratio()))),
           m_text(ruler.palette().color(QPalette::WindowText)),
           m_ground(ruler.palette().color(QPalette::Window)),
-          m_metrics(ruler.m_digitFont, painter.device()),
-          m_digits(m_metrics.tightBoundingRect(QStringLiteral("0"))) {
-        m_painter.setFont(ruler.m_digitFont);
-    }
+          m_digits(ruler.m_digits) {}
 
     void Paint(const QRect& exposed) {
         const QRect pixels = m_device.Covering(exposed);
@@ -88,8 +85,7 @@ private:
 
     /// Which counts have room: each, every second, fifth, tenth and so on.
     [[nodiscard]] int NumberEvery(int unit) const {
-        const int room = m_across ? m_metrics.horizontalAdvance(QStringLiteral("000")) + m_depth / 3
-                                  : m_metrics.ascent() + m_depth / 3;
+        const int room = (m_across ? m_digits.WidthOfThree() : m_digits.Ascent()) + m_depth / 3;
         int every = 1;
         for (int turn = 0; every * std::max(1, unit) < room; ++turn) {
             every = turn % 3 == 1 ? every * 5 / 2 : every * 2;
@@ -98,18 +94,18 @@ private:
     }
 
     void PaintNumber(int number, int along) {
-        const QString text = QString::number(number);
+        const RulerDigits::Number& text = m_digits.Of(number);
         const int gap = std::max(2, TruncToInt(2 * m_device.Ratio()));
         const int edge = std::max(1, TruncToInt(m_device.Ratio()));
         const QPoint corner =
             m_across ? QPoint(along + gap + edge, edge) : QPoint(edge, along + gap + edge);
-        const QRect box(corner, QSize(m_metrics.horizontalAdvance(text), m_digits.height()));
+        const QRect box(corner, QSize(text.Width, m_digits.Box().height()));
         if ((m_across ? box.right() : box.bottom()) >= ToPixels(m_ruler.m_lengthTwips)) {
             return; // half a number behind the end of the cloth tells nothing
         }
         m_painter.fillRect(box.adjusted(0, 0, edge, edge), m_ground);
         m_painter.setPen(m_text);
-        m_painter.drawText(corner - QPoint(0, m_digits.top()), text);
+        m_painter.drawGlyphRun(corner - QPoint(0, m_digits.Box().top()), text.Glyphs);
     }
 
     /// A small triangle marks the middle of the grid.
@@ -123,15 +119,14 @@ private:
         }
     }
 
-    const GridRuler& m_ruler;
+    GridRuler& m_ruler;
     DevicePixels m_device;
     QPainter& m_painter;
     bool m_across;
     int m_depth;
     QColor m_text;
     QColor m_ground;
-    QFontMetrics m_metrics;
-    QRect m_digits; ///< of a number whose base line begins at (0, 0)
+    RulerDigits& m_digits;
 };
 
 GridRuler::GridRuler(Qt::Orientation orientation, QWidget* parent)
@@ -167,17 +162,8 @@ double GridRuler::TickStart(bool inches, int index) {
 
 void GridRuler::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    KeepDigitFont(std::max(1, RoundToInt(10 * devicePixelRatioF())));
+    m_digits.SetFont(font(), std::max(1, RoundToInt(10 * devicePixelRatioF())), *this);
     Sheet(painter, *this).Paint(event->rect());
-}
-
-void GridRuler::KeepDigitFont(int pixels) {
-    // A font that is made anew is looked for among all of the system's.
-    if (m_digitFontFrom != font() || m_digitFont.pixelSize() != pixels) {
-        m_digitFontFrom = font();
-        m_digitFont = font();
-        m_digitFont.setPixelSize(pixels);
-    }
 }
 
 } // namespace zol

@@ -3,10 +3,10 @@
 
 #pragma once
 
-#include <QFont>
 #include <QWidget>
 
 #include "grid/GridGeometry.h"
+#include "grid/windows/RulerDigits.h"
 
 namespace zol {
 
@@ -45,13 +45,10 @@ protected:
 private:
     class Sheet;
 
-    void KeepDigitFont(int pixels);
-
     Qt::Orientation m_orientation;
     RulerScale m_scale;
     int m_lengthTwips = 0;
-    QFont m_digitFontFrom; ///< the widget's font that the next was made of
-    QFont m_digitFont;     ///< of the numbers, as large as device pixels make it
+    RulerDigits m_digits;
 };
 
 } // namespace zol

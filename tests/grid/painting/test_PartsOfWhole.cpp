@@ -6,6 +6,7 @@
 
 #include "grid/painting/GridLines.h"
 #include "grid/painting/GridTestKit.h"
+#include "grid/painting/ViewPass.h"
 
 namespace zol {
 namespace {
@@ -47,6 +48,10 @@ protected:
             for (int y = 1; y <= Side; ++y) {
                 if (const int kind = Roll(0, 16); kind != StitchFKnot && kind <= StitchLRQ) {
                     pattern.SetStitch(x, y, kind == 0 ? StitchWhole : kind, Roll(1, 4), 5);
+                    if (Roll(0, 3) == 0) {
+                        pattern.SetStitch(x, y, Roll(0, 1) == 0 ? StitchULQ : StitchLR3Q,
+                                          Roll(1, 4), 5);
+                    }
                 }
             }
         }
@@ -97,9 +102,13 @@ protected:
         return part.intersected(QRect(QPoint(0, 0), size));
     }
 
-    [[nodiscard]] QImage PartOf(const GridView& view, const QRect& pixels) {
+    [[nodiscard]] static QImage BareCloth(const GridView& view, const QRect& pixels) {
         QImage image(pixels.size(), QImage::Format_RGB32);
         image.fill(ToRgb(view.Options.ClothColor));
+        return image;
+    }
+    [[nodiscard]] QImage PartOf(const GridView& view, const QRect& pixels) {
+        QImage image = BareCloth(view, pixels);
         painter.PaintImage(image, pixels.topLeft(), view, view.Everything());
         return image;
     }
@@ -110,6 +119,7 @@ protected:
         const QSize size(SquareSpans::Columns(view, 1, Side).Edge(Side + 1),
                          SquareSpans::Rows(view, 1, Side).Edge(Side + 1));
         const QImage whole = PartOf(view, QRect(QPoint(0, 0), size));
+        const auto pass = painter.BeginImages(view, view.Everything(), QRect(QPoint(0, 0), size));
         for (int i = 0; i < 60; ++i) {
             const QRect part = AnyPart(view, size);
             if (part.isEmpty()) {
@@ -122,6 +132,10 @@ protected:
                 << ": " << DifferingPixels(painted, expected) << " pixels differ in the part at "
                 << part.x() << ", " << part.y() << " of " << part.width() << " by "
                 << part.height();
+            // The last part's own paint has come between two pieces.
+            QImage piece = BareCloth(view, part);
+            pass->Paint(piece, part.topLeft());
+            ASSERT_EQ(piece, expected) << look.Percent << " %, style " << style << ", as a piece";
         }
     }
 
@@ -160,6 +174,28 @@ TEST_F(PartsOfWholeTest, EverythingTogetherInEveryStyle) {
     for (const Look& look : looks) {
         for (int style = ShowColorSquares; style <= ShowVStitches; ++style) {
             ASSERT_NO_FATAL_FAILURE(ExpectPartsOfWhole(look, style));
+        }
+    }
+}
+
+TEST_F(PartsOfWholeTest, BandsOfOnePaintAddUpThoughAnotherComesBetween) {
+    FillByChance(60, 400);
+    for (const Look& look : looks) {
+        const GridView view = Seen(look, ShowColorSquares);
+        GridView other = view;
+        other.Options.ClothColor = Dark;
+        const QSize size(SquareSpans::Columns(view, 1, Side).Edge(Side + 1),
+                         SquareSpans::Rows(view, 1, Side).Edge(Side + 1));
+        const QImage whole = PartOf(view, QRect(QPoint(0, 0), size));
+        const auto pass = painter.BeginImages(view, view.Everything(), QRect(QPoint(0, 0), size));
+        for (int top = 0, turn = 0; top < size.height(); top += 23, ++turn) {
+            const QRect band(0, top, size.width(), std::min(23, size.height() - top));
+            QImage piece = BareCloth(view, band);
+            pass->Paint(piece, band.topLeft());
+            ASSERT_EQ(piece, whole.copy(band)) << look.Percent << " %, from " << top;
+            if (turn % 3 == 2) {
+                (void)PartOf(other, QRect(0, 0, 9, 9));
+            }
         }
     }
 }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Korvanta contributors
 // SPDX-License-Identifier: MIT
 
+#include <QPainter>
 #include <QtTest>
 
 #include "grid/windows/GridRulers.h"
@@ -16,6 +17,7 @@ private Q_SLOTS:
     void aTriangleMarksTheMiddle();
     void numbersStandFromOneOn();
     void closeNumbersMakeRoom();
+    void numbersAreTextToThePixel();
 };
 
 /// Which depth a tick of an index begins at, in twips; -1 for none.
@@ -153,6 +155,34 @@ void test_GridRulers::closeNumbersMakeRoom() {
         clear = std::max(clear, run);
     }
     QVERIFY2(clear >= 8 * ratio, "numbers leave air between them");
+}
+
+void test_GridRulers::numbersAreTextToThePixel() {
+    GridRuler ruler(Qt::Horizontal, nullptr);
+    ruler.Arrange({100, true}, 1800 * 15, 1800);
+    (void)Painted(ruler); // a second paint finds the numbers laid out
+    const QImage image = Painted(ruler);
+    const double ratio = image.devicePixelRatio();
+    QFont font = ruler.font();
+    font.setPixelSize(std::max(1, int(std::nearbyint(10 * ratio))));
+    const QFontMetrics metrics(font);
+    const QRect digit = metrics.tightBoundingRect(QStringLiteral("0"));
+    const int edge = std::max(1, int(ratio));
+    for (const int number : {1, 2, 9, 10, 11, 14, 17}) {
+        const QString text = QString::number(number);
+        const int along = int(number * 96 * ratio + 1e-6) + std::max(2, int(2 * ratio)) + edge;
+        const QRect box(along, edge, metrics.horizontalAdvance(text), digit.height());
+        QImage expected(image.size(), QImage::Format_RGB32);
+        expected.fill(ruler.palette().color(QPalette::Window));
+        QPainter painter(&expected);
+        painter.setFont(font);
+        painter.setPen(ruler.palette().color(QPalette::WindowText));
+        painter.drawText(box.topLeft() - QPoint(0, digit.top()), text);
+        painter.end();
+        QImage found = image.copy(box);
+        found.setDevicePixelRatio(1);
+        QCOMPARE(found, expected.copy(box));
+    }
 }
 
 } // namespace zol
