@@ -21,6 +21,7 @@
 #include "grid/windows/GridArea.h"
 #include "grid/windows/GridCanvas.h"
 #include "grid/windows/frmDesignGrid.h"
+#include "support/DialogHands.h"
 #include "support/ScriptedUser.h"
 #include "support/TestPaths.h"
 
@@ -105,11 +106,7 @@ public:
 
     template<typename Widget>
     [[nodiscard]] Widget* Find(const char* name) {
-        auto* found = Window().findChild<Widget*>(QLatin1String(name));
-        if (found == nullptr) {
-            qFatal("there is no %s", name);
-        }
-        return found;
+        return &PartOf<Widget>(Window(), name);
     }
     [[nodiscard]] QAction& Command(const char* name) { return *Find<QAction>(name); }
     /// A click on a tool button.

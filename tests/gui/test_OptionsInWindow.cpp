@@ -12,6 +12,7 @@
 
 #include "gui/DrawnProgram.h"
 #include "support/DialogDriver.h"
+#include "support/DialogHands.h"
 
 namespace zol::test {
 
@@ -19,17 +20,14 @@ namespace {
 
 template<typename Widget>
 Widget& In(QDialog& dialog, const char* name) {
-    auto* found = dialog.findChild<Widget*>(QLatin1String(name));
-    if (found == nullptr) {
-        qFatal("there is no %s", name);
-    }
+    auto& found = PartOf<Widget>(dialog, name);
     auto& tabs = *dialog.findChild<QTabWidget*>(QStringLiteral("tbsOptions"));
     for (int page = 0; page < tabs.count(); ++page) {
-        if (tabs.widget(page)->isAncestorOf(found)) {
+        if (tabs.widget(page)->isAncestorOf(&found)) {
             tabs.setCurrentIndex(page);
         }
     }
-    return *found;
+    return found;
 }
 
 void Click(QDialog& dialog, const char* button) {

@@ -12,22 +12,11 @@
 #include "grid/tools/EditBox.h"
 #include "grid/windows/PaletteStrip.h"
 #include "gui/DrawnProgram.h"
+#include "support/DialogHands.h"
 
 namespace zol::test {
 
 namespace {
-
-template<typename Widget>
-Widget& Part(QWidget& window, const char* name) {
-    auto* found = window.findChild<Widget*>(QLatin1String(name));
-    if (found == nullptr) {
-        qFatal("there is no %s", name);
-    }
-    return *found;
-}
-void Press(QWidget& window, const char* button) {
-    QTest::mouseClick(&Part<QWidget>(window, button), Qt::LeftButton);
-}
 
 /// Does something to the modal window that opens next.
 void InNextWindow(const char* name, std::function<void(QDialog&)> work) {
@@ -64,10 +53,10 @@ void PaletteInWindowTest::ReplacingIsOneStep() {
     program.User.answers = {MessageAnswer::Yes};
     InNextWindow("frmPalette", [](QDialog& editor) {
         InNextWindow("frmReplaceColor", [](QDialog& window) {
-            Part<QListWidget>(window, "imgPaletteColors").setCurrentRow(3);
-            Press(window, "cmdOK");
+            PartOf<QListWidget>(window, "imgPaletteColors").setCurrentRow(3);
+            ClickIn(window, "cmdOK");
         });
-        Press(editor, "cmdReplaceColor");
+        ClickIn(editor, "cmdReplaceColor");
     });
     program.Choose("mnuOptionsPalette");
     QCOMPARE(program.Design().GetPalette().GetEntriesCount(), 15);
@@ -86,7 +75,7 @@ void PaletteInWindowTest::NothingChangedIsNoStep() {
     QVERIFY(program.Open());
     program.DragOver({{2, 2}, {6, 2}});
     InNextWindow("frmPalette", [](QDialog& editor) {
-        QTest::keyClick(&Part<PaletteGrid>(editor, "picPalette"), Qt::Key_End);
+        QTest::keyClick(&PartOf<PaletteGrid>(editor, "picPalette"), Qt::Key_End);
     });
     program.Choose("mnuOptionsPalette");
     QCOMPARE(program.Command("mnuEditUndo").text(), QStringLiteral("Undo Stitches"));
@@ -99,9 +88,9 @@ void PaletteInWindowTest::CurrentFlossFollows() {
     QVERIFY(program.Open());
     program.Window().Modes().SetCurrentColor(5);
     InNextWindow("frmPalette", [](QDialog& editor) {
-        auto& grid = Part<PaletteGrid>(editor, "picPalette");
+        auto& grid = PartOf<PaletteGrid>(editor, "picPalette");
         QTest::mouseClick(&grid, Qt::LeftButton, {}, grid.RectOf(2).center());
-        Press(editor, "cmdRemoveColor");
+        ClickIn(editor, "cmdRemoveColor");
     });
     program.Choose("mnuOptionsPalette");
     QCOMPARE(program.Window().findChild<PaletteStrip*>()->Current(), 4);
@@ -115,8 +104,8 @@ void PaletteInWindowTest::AddedFlossAsksForItsSymbol() {
     DrawnProgram program(home);
     QVERIFY(program.Open());
     InNextWindow("frmPalette", [](QDialog& editor) {
-        InNextWindow("frmSymbols", [](QDialog& window) { Press(window, "cmdOK"); });
-        Press(editor, "cmdAdd");
+        InNextWindow("frmSymbols", [](QDialog& window) { ClickIn(window, "cmdOK"); });
+        ClickIn(editor, "cmdAdd");
     });
     program.Choose("mnuOptionsPalette");
     QCOMPARE(program.Design().GetPalette().GetEntriesCount(), 17);
@@ -137,9 +126,9 @@ void PaletteInWindowTest::SelectedAreaAloneIsReplaced() {
     QVERIFY(program.Window().Modes().Box().IsActive());
     program.User.answers = {MessageAnswer::Yes};
     InNextWindow("frmPalette", [](QDialog& editor) {
-        Part<QCheckBox>(editor, "chkEditBoxOnly").click();
-        InNextWindow("frmReplaceColor", [](QDialog& window) { Press(window, "cmdOK"); });
-        Press(editor, "cmdReplaceColor");
+        PartOf<QCheckBox>(editor, "chkEditBoxOnly").click();
+        InNextWindow("frmReplaceColor", [](QDialog& window) { ClickIn(window, "cmdOK"); });
+        ClickIn(editor, "cmdReplaceColor");
     });
     program.Choose("mnuOptionsPalette");
     QCOMPARE(program.Design().GetStitchPaletteIndex(4, 2), 2);
@@ -163,9 +152,9 @@ void PaletteInWindowTest::FloatingBlockIsWrittenBackFirst() {
     QCOMPARE(program.Design().GetStitchCount(3, 7), 0);
     program.User.answers = {MessageAnswer::Yes};
     InNextWindow("frmPalette", [](QDialog& editor) {
-        Part<QCheckBox>(editor, "chkEditBoxOnly").click();
-        InNextWindow("frmReplaceColor", [](QDialog& window) { Press(window, "cmdOK"); });
-        Press(editor, "cmdReplaceColor");
+        PartOf<QCheckBox>(editor, "chkEditBoxOnly").click();
+        InNextWindow("frmReplaceColor", [](QDialog& window) { ClickIn(window, "cmdOK"); });
+        ClickIn(editor, "cmdReplaceColor");
     });
     program.Choose("mnuOptionsPalette");
     QCOMPARE(

@@ -16,34 +16,9 @@
 #include "model/PatternInfo.h"
 #include "print/RTFFuncs.h"
 #include "support/DialogDriver.h"
+#include "support/DialogHands.h"
 
 namespace zol::test {
-
-namespace {
-
-template<typename Widget>
-Widget& In(QDialog& dialog, const char* name) {
-    auto* found = dialog.findChild<Widget*>(QLatin1String(name));
-    if (found == nullptr) {
-        qFatal("there is no %s", name);
-    }
-    return *found;
-}
-
-void Type(QDialog& dialog, const char* field, const QString& text) {
-    auto& widget = In<QWidget>(dialog, field);
-    widget.setFocus();
-    QTest::keyClick(&widget, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(&widget, Qt::Key_Delete);
-    QTest::keyClicks(&widget, text);
-}
-
-void Click(QDialog& dialog, const char* button) {
-    auto& widget = In<QWidget>(dialog, button);
-    QTest::mouseClick(&widget, Qt::LeftButton, {}, QPoint(10, widget.height() / 2));
-}
-
-} // namespace
 
 class PropertiesTest : public QObject {
     Q_OBJECT
@@ -108,14 +83,14 @@ void PropertiesTest::NewPatternIsAsChosen() {
     m_program->ClickSquare(3, 3);
     m_program->User.answers = {MessageAnswer::No};
     QVERIFY(WithDialog("mnuFileNew", [](QDialog& dialog) {
-        Type(dialog, "txtTitle", QStringLiteral("Tulip"));
-        Type(dialog, "txtAuthor", QStringLiteral("Ann"));
-        Type(dialog, "txtWidth", QStringLiteral("40"));
-        Type(dialog, "txtHeight", QStringLiteral("30"));
-        Click(dialog, "chkSquare");
-        Type(dialog, "cmbClothCountX", QStringLiteral("18"));
-        Type(dialog, "cmbClothCountY", QStringLiteral("16"));
-        Click(dialog, "cmdOK");
+        TypeIn(dialog, "txtTitle", QStringLiteral("Tulip"));
+        TypeIn(dialog, "txtAuthor", QStringLiteral("Ann"));
+        TypeIn(dialog, "txtWidth", QStringLiteral("40"));
+        TypeIn(dialog, "txtHeight", QStringLiteral("30"));
+        ClickIn(dialog, "chkSquare");
+        TypeIn(dialog, "cmbClothCountX", QStringLiteral("18"));
+        TypeIn(dialog, "cmbClothCountY", QStringLiteral("16"));
+        ClickIn(dialog, "cmdOK");
     }));
     const PatternInfo made = PatternInfo::Of(Design());
     QCOMPARE(made.Width, 40);
@@ -141,12 +116,12 @@ void PropertiesTest::NewPatternBeginsWithTheDefaults() {
     Design().Author = "Another";
     Design().Instructions = "of the old one";
     QVERIFY(WithDialog("mnuFileNew", [](QDialog& dialog) {
-        QCOMPARE(In<QLineEdit>(dialog, "txtAuthor").text(), QStringLiteral("Default Designer"));
-        QCOMPARE(In<QLineEdit>(dialog, "txtWidth").text(), QStringLiteral("77"));
-        QCOMPARE(In<QLineEdit>(dialog, "txtHeight").text(), QStringLiteral("100"));
-        QCOMPARE(In<QComboBox>(dialog, "cmbClothCountX").currentText(), QStringLiteral("16"));
-        QVERIFY(In<QTextEdit>(dialog, "rtxtInstructions").document()->isEmpty());
-        Click(dialog, "cmdOK");
+        QCOMPARE(PartOf<QLineEdit>(dialog, "txtAuthor").text(), QStringLiteral("Default Designer"));
+        QCOMPARE(PartOf<QLineEdit>(dialog, "txtWidth").text(), QStringLiteral("77"));
+        QCOMPARE(PartOf<QLineEdit>(dialog, "txtHeight").text(), QStringLiteral("100"));
+        QCOMPARE(PartOf<QComboBox>(dialog, "cmbClothCountX").currentText(), QStringLiteral("16"));
+        QVERIFY(PartOf<QTextEdit>(dialog, "rtxtInstructions").document()->isEmpty());
+        ClickIn(dialog, "cmdOK");
     }));
     QCOMPARE(Design().Author, std::string("Default Designer"));
     QCOMPARE(Design().GetPatternWidth(), 77);
@@ -157,9 +132,9 @@ void PropertiesTest::ChangeIsOneStep() {
     m_program->ClickSquare(3, 3);
     const PatternInfo before = PatternInfo::Of(Design());
     QVERIFY(WithDialog("mnuPatternInfo", [](QDialog& dialog) {
-        Type(dialog, "txtTitle", QStringLiteral("Tulip"));
-        Type(dialog, "txtWidth", QStringLiteral("120"));
-        Click(dialog, "cmdOK");
+        TypeIn(dialog, "txtTitle", QStringLiteral("Tulip"));
+        TypeIn(dialog, "txtWidth", QStringLiteral("120"));
+        ClickIn(dialog, "cmdOK");
     }));
     QCOMPARE(Design().Title, std::string("Tulip"));
     QCOMPARE(Design().GetPatternWidth(), 120);
@@ -180,8 +155,8 @@ void PropertiesTest::ChangeIsOneStep() {
 void PropertiesTest::ClothCountChangesTheSquares() {
     const QSizeF before = m_program->Area().SquareSize();
     QVERIFY(WithDialog("mnuPatternInfo", [](QDialog& dialog) {
-        Type(dialog, "cmbClothCountX", QStringLiteral("7"));
-        Click(dialog, "cmdOK");
+        TypeIn(dialog, "cmbClothCountX", QStringLiteral("7"));
+        ClickIn(dialog, "cmdOK");
     }));
     const QSizeF after = m_program->Area().SquareSize();
     QVERIFY(after.width() > before.width() * 1.8);
@@ -201,9 +176,9 @@ void PropertiesTest::LookingIsNoStep() {
     const QString step = UndoText();
     QVERIFY(WithDialog("mnuPatternInfo", [&button](QDialog& dialog) {
         if (button == QLatin1String("cmdCancel")) {
-            Type(dialog, "txtTitle", QStringLiteral("Tulip"));
+            TypeIn(dialog, "txtTitle", QStringLiteral("Tulip"));
         }
-        Click(dialog, qPrintable(button));
+        ClickIn(dialog, qPrintable(button));
     }));
     QCOMPARE(UndoText(), step);
     QVERIFY(!Design().IsChanged());
@@ -215,10 +190,10 @@ void PropertiesTest::ShrinkingTakesAwayAfterYes() {
     m_program->ClickSquare(3, 30);
     m_program->User.answers = {MessageAnswer::No, MessageAnswer::Yes};
     QVERIFY(WithDialog("mnuPatternInfo", [](QDialog& dialog) {
-        Type(dialog, "txtHeight", QStringLiteral("20"));
-        Click(dialog, "cmdOK");
+        TypeIn(dialog, "txtHeight", QStringLiteral("20"));
+        ClickIn(dialog, "cmdOK");
         QVERIFY(dialog.isVisible());
-        Click(dialog, "cmdOK");
+        ClickIn(dialog, "cmdOK");
     }));
     QCOMPARE(m_program->User.asked.size(), std::size_t{2});
     QCOMPARE(m_program->User.asked[0].text, std::string(ResizeWarning));
@@ -234,9 +209,9 @@ void PropertiesTest::ShrinkingIsRefused() {
     const QString step = UndoText();
     m_program->User.answers = {MessageAnswer::No};
     QVERIFY(WithDialog("mnuPatternInfo", [](QDialog& dialog) {
-        Type(dialog, "txtHeight", QStringLiteral("20"));
-        Click(dialog, "cmdOK");
-        Click(dialog, "cmdCancel");
+        TypeIn(dialog, "txtHeight", QStringLiteral("20"));
+        ClickIn(dialog, "cmdOK");
+        ClickIn(dialog, "cmdCancel");
     }));
     QCOMPARE(Design().GetPatternHeight(), 100);
     QCOMPARE(Design().GetStitchCount(3, 30), 1);
@@ -246,9 +221,9 @@ void PropertiesTest::ShrinkingIsRefused() {
 void PropertiesTest::FaultKeepsTheDesign() {
     const PatternInfo before = PatternInfo::Of(Design());
     QVERIFY(WithDialog("mnuPatternInfo", [](QDialog& dialog) {
-        Type(dialog, "txtTitle", QStringLiteral("Tulip"));
-        Type(dialog, "txtWidth", QStringLiteral("0"));
-        Click(dialog, "cmdOK");
+        TypeIn(dialog, "txtTitle", QStringLiteral("Tulip"));
+        TypeIn(dialog, "txtWidth", QStringLiteral("0"));
+        ClickIn(dialog, "cmdOK");
         QVERIFY(dialog.isVisible());
         QTest::keyClick(&dialog, Qt::Key_Escape);
     }));
@@ -262,8 +237,8 @@ void PropertiesTest::LineUnderWayIsLetGo() {
     m_program->Click("DRAWMODE_LINES");
     m_program->ClickSquare(5, 5);
     QVERIFY(WithDialog("mnuPatternInfo", [](QDialog& dialog) {
-        Type(dialog, "txtWidth", QStringLiteral("110"));
-        Click(dialog, "cmdOK");
+        TypeIn(dialog, "txtWidth", QStringLiteral("110"));
+        ClickIn(dialog, "cmdOK");
     }));
     QCOMPARE(m_program->Window().Modes().GetDrawMode(), DrawLines);
     m_program->ClickSquare(9, 9);
@@ -275,8 +250,8 @@ void PropertiesTest::FlossesStay() {
     m_program->ClickSquare(3, 3);
     const int floss = Design().GetStitchPaletteIndex(3, 3);
     QVERIFY(WithDialog("mnuPatternInfo", [](QDialog& dialog) {
-        Type(dialog, "txtWidth", QStringLiteral("110"));
-        Click(dialog, "cmdOK");
+        TypeIn(dialog, "txtWidth", QStringLiteral("110"));
+        ClickIn(dialog, "cmdOK");
     }));
     QCOMPARE(Design().GetPalette().GetEntriesCount(), flosses);
     m_program->ClickSquare(4, 4);
@@ -287,18 +262,18 @@ void PropertiesTest::InstructionsAreSavedAsTheyWereTyped() {
     const auto file = *m_home / "tulip.pat";
     QVERIFY(WithDialog("mnuPatternInfo", [](QDialog& dialog) {
         QTest::keyClick(&dialog, Qt::Key_I, Qt::AltModifier);
-        auto& text = In<QTextEdit>(dialog, "rtxtInstructions");
+        auto& text = PartOf<QTextEdit>(dialog, "rtxtInstructions");
         QVERIFY(text.isVisible());
         text.setFocus();
-        Click(dialog, "CENTERJUSTIFY");
-        Click(dialog, "BOLD");
+        ClickIn(dialog, "CENTERJUSTIFY");
+        ClickIn(dialog, "BOLD");
         QTest::keyClicks(&text, QStringLiteral("Tulip"));
-        Click(dialog, "BOLD");
+        ClickIn(dialog, "BOLD");
         QTest::keyClick(&text, Qt::Key_Return);
-        Click(dialog, "LEFTJUSTIFY");
+        ClickIn(dialog, "LEFTJUSTIFY");
         QTest::keyClicks(&text, QStringLiteral("Two strands on "));
         text.insertPlainText(QString::fromLatin1("\xe9tamine."));
-        Click(dialog, "cmdOK");
+        ClickIn(dialog, "cmdOK");
     }));
     const std::string typed = Design().Instructions;
     QVERIFY(RTFFuncs::IsRichText(typed));
@@ -317,9 +292,9 @@ void PropertiesTest::InstructionsAreSavedAsTheyWereTyped() {
     QVERIFY(heading.next().begin().fragment().charFormat().fontWeight() != int{QFont::Bold});
     // Seen again in the editor, and left as they are.
     QVERIFY(WithDialog("mnuPatternInfo", [](QDialog& dialog) {
-        In<QTabWidget>(dialog, "tbsPatternInfo").setCurrentIndex(1);
-        QVERIFY(In<QTextEdit>(dialog, "rtxtInstructions").toPlainText().startsWith(u"Tulip"));
-        Click(dialog, "cmdOK");
+        PartOf<QTabWidget>(dialog, "tbsPatternInfo").setCurrentIndex(1);
+        QVERIFY(PartOf<QTextEdit>(dialog, "rtxtInstructions").toPlainText().startsWith(u"Tulip"));
+        ClickIn(dialog, "cmdOK");
     }));
     QCOMPARE(Design().Instructions, typed);
 }
@@ -330,8 +305,8 @@ void PropertiesTest::ForeignInstructionsOutliveAChange() {
     QVERIFY(WithDialog("mnuPatternInfo", [](QDialog& dialog) {
         QTest::keyClick(&dialog, Qt::Key_I, Qt::AltModifier);
         QTest::keyClick(&dialog, Qt::Key_P, Qt::AltModifier);
-        Type(dialog, "txtTitle", QStringLiteral("Tulip"));
-        Click(dialog, "cmdOK");
+        TypeIn(dialog, "txtTitle", QStringLiteral("Tulip"));
+        ClickIn(dialog, "cmdOK");
     }));
     QCOMPARE(Design().Title, std::string("Tulip"));
     QCOMPARE(Design().Instructions, foreign);
@@ -341,10 +316,10 @@ void PropertiesTest::CentimetresByTheOptions() {
     m_program->Parts().Settings.Units = "centimetres";
     m_program->User.answers = {MessageAnswer::Yes};
     QVERIFY(WithDialog("mnuPatternInfo", [](QDialog& dialog) {
-        Click(dialog, "optUnits");
-        QCOMPARE(In<QLineEdit>(dialog, "txtWidth").text(), QStringLiteral("18.143"));
-        Type(dialog, "txtWidth", QStringLiteral("5.08"));
-        Click(dialog, "cmdOK");
+        ClickIn(dialog, "optUnits");
+        QCOMPARE(PartOf<QLineEdit>(dialog, "txtWidth").text(), QStringLiteral("18.143"));
+        TypeIn(dialog, "txtWidth", QStringLiteral("5.08"));
+        ClickIn(dialog, "cmdOK");
     }));
     QCOMPARE(Design().GetPatternWidth(), 28);
     QCOMPARE(Design().GetPatternHeight(), 100);

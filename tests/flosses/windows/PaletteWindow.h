@@ -21,18 +21,10 @@
 #include "flosses/windows/PaletteGrid.h"
 #include "flosses/windows/frmPalette.h"
 #include "settings/INIFuncs.h"
+#include "support/DialogHands.h"
 #include "support/ScriptedUser.h"
 
 namespace zol::test {
-
-template<typename Widget>
-Widget& Part(QWidget& window, const char* name) {
-    auto* found = window.findChild<Widget*>(QLatin1String(name));
-    if (found == nullptr) {
-        qFatal("there is no %s", name);
-    }
-    return *found;
-}
 
 /// Does something to the modal window that opens next, which has to close by it.
 inline void InNextWindow(const char* name, std::function<void(QDialog&)> work) {
@@ -47,11 +39,8 @@ inline void InNextWindow(const char* name, std::function<void(QDialog&)> work) {
         }
     });
 }
-inline void Press(QWidget& window, const char* button) {
-    QTest::mouseClick(&Part<QWidget>(window, button), Qt::LeftButton);
-}
 inline void AcceptNext(const char* name) {
-    InNextWindow(name, [](QDialog& window) { Press(window, "cmdOK"); });
+    InNextWindow(name, [](QDialog& window) { ClickIn(window, "cmdOK"); });
 }
 
 /// The palette editor on a pattern of four flosses (red, green, blue and an unused grey), with
@@ -86,14 +75,14 @@ public:
     [[nodiscard]] Palette& Flosses() { return Design->GetPalette(); }
     [[nodiscard]] std::filesystem::path Path() const { return m_folder.path().toStdString(); }
     [[nodiscard]] AvailableList& Available() {
-        return Part<AvailableList>(*Window, "picAvailable");
+        return PartOf<AvailableList>(*Window, "picAvailable");
     }
-    [[nodiscard]] PaletteGrid& Grid() { return Part<PaletteGrid>(*Window, "picPalette"); }
+    [[nodiscard]] PaletteGrid& Grid() { return PartOf<PaletteGrid>(*Window, "picPalette"); }
     template<typename Widget>
     [[nodiscard]] Widget& Find(const char* name) {
-        return Part<Widget>(*Window, name);
+        return PartOf<Widget>(*Window, name);
     }
-    void Click(const char* button) { Press(*Window, button); }
+    void Click(const char* button) { ClickIn(*Window, button); }
     void ClickEntry(int entry) {
         QTest::mouseClick(&Grid(), Qt::LeftButton, {}, Grid().RectOf(entry).center());
     }

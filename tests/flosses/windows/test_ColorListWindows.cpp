@@ -15,6 +15,7 @@
 #include "flosses/windows/frmColorList.h"
 #include "settings/INIFuncs.h"
 #include "support/DialogDriver.h"
+#include "support/DialogHands.h"
 #include "support/ScriptedUser.h"
 
 namespace zol::test {
@@ -23,17 +24,8 @@ namespace {
 
 using ColorLists::NamedColor;
 
-template<typename Widget>
-Widget& In(QDialog& dialog, const char* name) {
-    auto* found = dialog.findChild<Widget*>(QLatin1String(name));
-    if (found == nullptr) {
-        qFatal("there is no %s", name);
-    }
-    return *found;
-}
-
 void Click(QDialog& dialog, const char* button) {
-    QTest::mouseClick(&In<QPushButton>(dialog, button), Qt::LeftButton);
+    QTest::mouseClick(&PartOf<QPushButton>(dialog, button), Qt::LeftButton);
 }
 
 /// What a user does in the platform's dialog for colours.
@@ -86,8 +78,8 @@ void ColorListWindowsTest::AnEmptyListHasNothingToDelete() {
     frmColorList list(*m_store, m_user);
     list.show();
     QCOMPARE(list.windowTitle(), QStringLiteral("Non-Representative Floss Colors"));
-    QCOMPARE(In<QListWidget>(list, "picList").count(), 0);
-    QVERIFY(!In<QPushButton>(list, "cmdDelete").isEnabled());
+    QCOMPARE(PartOf<QListWidget>(list, "picList").count(), 0);
+    QVERIFY(!PartOf<QPushButton>(list, "cmdDelete").isEnabled());
     Click(list, "cmdClose");
     QCOMPARE(Stored("NonRepColors", "Count"), std::string("0"));
 }
@@ -96,9 +88,9 @@ void ColorListWindowsTest::AddedLinesAreWrittenWhenTheWindowCloses() {
     frmColorList list(*m_store, m_user);
     list.show();
     DialogDriver user({[](QDialog& item) {
-                           QVERIFY(In<QLineEdit>(item, "txtDesc").text().isEmpty());
-                           QVERIFY(!In<ColorSample>(item, "picColor").Color());
-                           QTest::keyClicks(&In<QLineEdit>(item, "txtDesc"),
+                           QVERIFY(PartOf<QLineEdit>(item, "txtDesc").text().isEmpty());
+                           QVERIFY(!PartOf<ColorSample>(item, "picColor").Color());
+                           QTest::keyClicks(&PartOf<QLineEdit>(item, "txtDesc"),
                                             QStringLiteral("Neon"));
                            Click(item, "cmdColor");
                            Click(item, "cmdOK");
@@ -106,8 +98,8 @@ void ColorListWindowsTest::AddedLinesAreWrittenWhenTheWindowCloses() {
                        ChoosesColor(QColor(1, 255, 2))});
     Click(list, "cmdAdd");
     QVERIFY(user.AllDone());
-    QCOMPARE(In<QListWidget>(list, "picList").item(0)->text(), QStringLiteral("Neon"));
-    QVERIFY(In<QPushButton>(list, "cmdDelete").isEnabled());
+    QCOMPARE(PartOf<QListWidget>(list, "picList").item(0)->text(), QStringLiteral("Neon"));
+    QVERIFY(PartOf<QPushButton>(list, "cmdDelete").isEnabled());
     QCOMPARE(Stored("NonRepColors", "Count"), std::string("-"));
     Click(list, "cmdClose");
     QCOMPARE(ColorLists::LoadNonRepColors(*m_store).size(), std::size_t{1});
@@ -120,12 +112,12 @@ void ColorListWindowsTest::ALineWithoutADescriptionIsRefused() {
     list.show();
     DialogDriver user({[this](QDialog& item) {
         for (const char* text : {"", "   "}) {
-            In<QLineEdit>(item, "txtDesc").clear();
-            QTest::keyClicks(&In<QLineEdit>(item, "txtDesc"), QLatin1String(text));
-            In<QPushButton>(item, "cmdOK").setFocus();
+            PartOf<QLineEdit>(item, "txtDesc").clear();
+            QTest::keyClicks(&PartOf<QLineEdit>(item, "txtDesc"), QLatin1String(text));
+            PartOf<QPushButton>(item, "cmdOK").setFocus();
             Click(item, "cmdOK");
             QVERIFY(item.isVisible());
-            QVERIFY(item.focusWidget() == &In<QLineEdit>(item, "txtDesc"));
+            QVERIFY(item.focusWidget() == &PartOf<QLineEdit>(item, "txtDesc"));
         }
         QCOMPARE(m_user.told.size(), std::size_t{2});
         Click(item, "cmdCancel");
@@ -134,19 +126,19 @@ void ColorListWindowsTest::ALineWithoutADescriptionIsRefused() {
     QVERIFY(user.AllDone());
     QCOMPARE(m_user.told[0].text, std::string("You must provide a description."));
     QCOMPARE(m_user.told[0].title, std::string("Colors"));
-    QCOMPARE(In<QListWidget>(list, "picList").count(), 0);
+    QCOMPARE(PartOf<QListWidget>(list, "picList").count(), 0);
 }
 
 void ColorListWindowsTest::AChangedLineShowsWhatItWas() {
     ColorLists::SaveNonRepColors(*m_store, {{"One", 1}, {"Two", 0x0000FF}});
     frmColorList list(*m_store, m_user);
     list.show();
-    auto& lines = In<QListWidget>(list, "picList");
+    auto& lines = PartOf<QListWidget>(list, "picList");
     QTest::keyClick(&lines, Qt::Key_Down);
     DialogDriver user({[](QDialog& item) {
-        QCOMPARE(In<QLineEdit>(item, "txtDesc").text(), QStringLiteral("Two"));
-        QVERIFY(In<ColorSample>(item, "picColor").Color() == Colour{0x0000FF});
-        QTest::keyClicks(&In<QLineEdit>(item, "txtDesc"), QStringLiteral("nd"));
+        QCOMPARE(PartOf<QLineEdit>(item, "txtDesc").text(), QStringLiteral("Two"));
+        QVERIFY(PartOf<ColorSample>(item, "picColor").Color() == Colour{0x0000FF});
+        QTest::keyClicks(&PartOf<QLineEdit>(item, "txtDesc"), QStringLiteral("nd"));
         QTest::keyClick(&item, Qt::Key_Return);
     }});
     Click(list, "cmdChange");
@@ -160,7 +152,7 @@ void ColorListWindowsTest::DeletedLinesAreGone() {
     ColorLists::SaveNonRepColors(*m_store, {{"One", 1}, {"Two", 2}, {"Three", 3}});
     frmColorList list(*m_store, m_user);
     list.show();
-    auto& lines = In<QListWidget>(list, "picList");
+    auto& lines = PartOf<QListWidget>(list, "picList");
     QTest::keyClick(&lines, Qt::Key_Down);
     Click(list, "cmdDelete");
     QCOMPARE(lines.currentItem()->text(), QStringLiteral("Three"));
@@ -177,7 +169,7 @@ void ColorListWindowsTest::BlackEndsTheListAndIsNotStored() {
     QCOMPARE(combo.currentText(), QStringLiteral("Black"));
     QCOMPARE(combo.currentData().toUInt(), 0U);
     frmColorList list(*m_store, m_user);
-    QCOMPARE(In<QListWidget>(list, "picList").count(), 0);
+    QCOMPARE(PartOf<QListWidget>(list, "picList").count(), 0);
 }
 
 void ColorListWindowsTest::AColourThatIsGoneSelectsTheLastLine() {
@@ -205,28 +197,28 @@ void ColorListWindowsTest::WithoutFillingTheLinesStay() {
 void ColorListWindowsTest::ClothColoursAreSevenWithTextAndColour() {
     frmClothColors colors(ColorLists::ClothList, *m_store, false);
     colors.show();
-    auto& lines = In<QListWidget>(colors, "picList");
+    auto& lines = PartOf<QListWidget>(colors, "picList");
     QCOMPARE(lines.count(), 7);
-    QCOMPARE(In<QLineEdit>(colors, "txtDescription").text(), QStringLiteral("Bright White"));
+    QCOMPARE(PartOf<QLineEdit>(colors, "txtDescription").text(), QStringLiteral("Bright White"));
     QTest::keyClick(&lines, Qt::Key_End);
-    QCOMPARE(In<QLineEdit>(colors, "txtDescription").text(), QStringLiteral("Navy Blue"));
-    QVERIFY(In<ColorSample>(colors, "picSelected").Color() == Colour{10758197});
+    QCOMPARE(PartOf<QLineEdit>(colors, "txtDescription").text(), QStringLiteral("Navy Blue"));
+    QVERIFY(PartOf<ColorSample>(colors, "picSelected").Color() == Colour{10758197});
 }
 
 void ColorListWindowsTest::EditsOfALineAreWrittenBack() {
     ColorLists::SaveGridColor(*m_store, ColorLists::BoldLines, 8, {"Moss", 0x112233});
     frmClothColors colors(ColorLists::BoldList, *m_store, false);
     colors.show();
-    auto& lines = In<QListWidget>(colors, "picList");
+    auto& lines = PartOf<QListWidget>(colors, "picList");
     QTest::keyClick(&lines, Qt::Key_Down);
-    auto& text = In<QLineEdit>(colors, "txtDescription");
+    auto& text = PartOf<QLineEdit>(colors, "txtDescription");
     text.selectAll();
     QTest::keyClicks(&text, QStringLiteral("Mist"));
     QCOMPARE(lines.item(1)->text(), QStringLiteral("Mist"));
     DialogDriver user({ChoosesColor(QColor(0xAA, 0xBB, 0xCC))});
     Click(colors, "cmdReMix");
     QVERIFY(user.AllDone());
-    QVERIFY(In<ColorSample>(colors, "picSelected").Color() == MakeColour(0xAA, 0xBB, 0xCC));
+    QVERIFY(PartOf<ColorSample>(colors, "picSelected").Color() == MakeColour(0xAA, 0xBB, 0xCC));
     QCOMPARE(Stored("BoldGLColor", "Desc2"), std::string("-"));
     Click(colors, "cmdClose");
     QVERIFY(ColorLists::GetGridColor(*m_store, ColorLists::BoldLines, 2) ==
@@ -240,7 +232,7 @@ void ColorListWindowsTest::EachListHasItsCaption() {
     QCOMPARE(american.windowTitle(), QStringLiteral("Customize Bold Printed Grid Line Colors"));
     frmClothColors british(ColorLists::ClothList, *m_store, true);
     QCOMPARE(british.windowTitle(), QStringLiteral("Customise Cloth Colours"));
-    QCOMPARE(In<QPushButton>(british, "cmdReMix").text().remove(QLatin1Char('&')),
+    QCOMPARE(PartOf<QPushButton>(british, "cmdReMix").text().remove(QLatin1Char('&')),
              QStringLiteral("Change Colour"));
 }
 

@@ -31,7 +31,7 @@ int PlaceOf(int code) {
 }
 
 void ClickSymbol(QWidget& window, int code) {
-    auto& grid = Part<SymbolGrid>(window, "picGrid");
+    auto& grid = PartOf<SymbolGrid>(window, "picGrid");
     QTest::mouseClick(&grid, Qt::LeftButton, {}, grid.RectOf(PlaceOf(code)).center());
 }
 
@@ -132,10 +132,10 @@ void FlossWindowsTest::SymbolIsChanged() {
     QCOMPARE(test.Find<QLineEdit>("txtSymbol").text(), QStringLiteral("R"));
     InNextWindow("frmSymbols", [](QDialog& window) {
         QCOMPARE(window.windowTitle(), QStringLiteral("Select a Symbol"));
-        QCOMPARE(Part<QLabel>(window, "lblFlossDesc").text(), QStringLiteral("R1 - red"));
-        QCOMPARE(*Part<ColorSample>(window, "picFlossColor").Color(), MakeColour(200, 0, 0));
+        QCOMPARE(PartOf<QLabel>(window, "lblFlossDesc").text(), QStringLiteral("R1 - red"));
+        QCOMPARE(*PartOf<ColorSample>(window, "picFlossColor").Color(), MakeColour(200, 0, 0));
         ClickSymbol(window, '#');
-        Press(window, "cmdOK");
+        ClickIn(window, "cmdOK");
     });
     test.Click("cmdChangeSymbol");
     QCOMPARE(test.Flosses().GetFlossSymbol(1), int('#'));
@@ -148,7 +148,7 @@ void FlossWindowsTest::TakenSymbolIsTold() {
     ShowTab(test, 1);
     InNextWindow("frmSymbols", [](QDialog& window) {
         ClickSymbol(window, 'G');
-        Press(window, "cmdOK");
+        ClickIn(window, "cmdOK");
     });
     test.Click("cmdChangeSymbol");
     QCOMPARE(test.User.ToldTexts(),
@@ -162,7 +162,7 @@ void FlossWindowsTest::SymbolsAreChosenByKeys() {
     frmSymbols window(test.Flosses(), 2, std::nullopt, test.User, test.Store);
     window.show();
     QVERIFY(QTest::qWaitForWindowActive(&window));
-    auto& grid = Part<SymbolGrid>(window, "picGrid");
+    auto& grid = PartOf<SymbolGrid>(window, "picGrid");
     QVERIFY(grid.hasFocus());
     QTest::keyClick(&grid, Qt::Key_Right);
     QCOMPARE(window.Symbol(), std::string("H"));
@@ -184,7 +184,7 @@ void FlossWindowsTest::ProgramsOwnDoorAsksForASymbol() {
     QCOMPARE(test.Flosses().AddPaletteEntry(0, "1", "x", "ABC", "", 2, 1, 0, 0, 0, ""),
              PaletteAdded);
     QCOMPARE(test.Flosses().GetFlossSymbol(5), int('!'));
-    InNextWindow("frmSymbols", [](QDialog& window) { Press(window, "cmdCancel"); });
+    InNextWindow("frmSymbols", [](QDialog& window) { ClickIn(window, "cmdCancel"); });
     QCOMPARE(test.Flosses().AddPaletteEntry(0, "2", "y", "ABC", "", 2, 1, 0, 0, 0, ""),
              PaletteAddCancelled);
     QCOMPARE(test.Flosses().GetEntriesCount(), 5);
@@ -204,8 +204,8 @@ void FlossWindowsTest::NonRepresentativeColorIsChosen() {
     QCOMPARE(test.Flosses().GetNonRepDesc(1), std::string("Gold"));
     // The line goes; what is stored in the entry stays, and the last line stands for it.
     InNextWindow("frmColorList", [](QDialog& window) {
-        Press(window, "cmdDelete");
-        Press(window, "cmdClose");
+        ClickIn(window, "cmdDelete");
+        ClickIn(window, "cmdClose");
     });
     test.Click("cmdCustNonRepColor");
     QCOMPARE(list.count(), 1);
@@ -219,17 +219,17 @@ void FlossWindowsTest::FlossIsCreatedAndSaved() {
     InNextWindow("frmColors", [](QDialog& mixer) {
         QCOMPARE(mixer.windowTitle(), QStringLiteral("Create Custom Color"));
         InNextWindow("frmAddPalette", [](QDialog& window) {
-            QVERIFY(Part<QLineEdit>(window, "txtID").text().isEmpty());
-            auto& name = Part<QLineEdit>(window, "txtDescription");
+            QVERIFY(PartOf<QLineEdit>(window, "txtID").text().isEmpty());
+            auto& name = PartOf<QLineEdit>(window, "txtDescription");
             QCOMPARE(name.text(), QStringLiteral("<Enter Description>"));
-            QTest::keyClicks(&Part<QLineEdit>(window, "txtID"), QStringLiteral("M1"));
+            QTest::keyClicks(&PartOf<QLineEdit>(window, "txtID"), QStringLiteral("M1"));
             name.setFocus();
             name.selectAll();
             QTest::keyClicks(&name, QStringLiteral("My Teal"));
             AcceptNext("frmSymbols");
-            QTest::mouseClick(&Part<QCheckBox>(window, "chkMyColors"), Qt::LeftButton, {},
+            QTest::mouseClick(&PartOf<QCheckBox>(window, "chkMyColors"), Qt::LeftButton, {},
                               QPoint(8, 8));
-            Press(window, "cmdOK");
+            ClickIn(window, "cmdOK");
         });
         mixer.accept();
     });
@@ -245,12 +245,12 @@ void FlossWindowsTest::SavingIsHiddenWhereItCannotBe() {
     PaletteWindow test;
     frmAddPalette may(0, true, test.Context, test.Store);
     may.show();
-    QVERIFY(Part<QCheckBox>(may, "chkMyColors").isVisible());
+    QVERIFY(PartOf<QCheckBox>(may, "chkMyColors").isVisible());
     QVERIFY(!may.Floss().SaveToMyColors);
     may.close();
     frmAddPalette mayNot(0, false, test.Context, test.Store);
     mayNot.show();
-    QVERIFY(!Part<QCheckBox>(mayNot, "chkMyColors").isVisible());
+    QVERIFY(!PartOf<QCheckBox>(mayNot, "chkMyColors").isVisible());
     QVERIFY(!mayNot.Floss().SaveToMyColors);
 }
 

@@ -180,13 +180,13 @@ void PaletteWindowTest::RemovalOffersTheClosest() {
     PaletteWindow test;
     QVERIFY(test.Show());
     InNextWindow("frmDeleteColor", [](QDialog& window) {
-        QCOMPARE(Part<QLabel>(window, "lblStitches").text(),
+        QCOMPARE(PartOf<QLabel>(window, "lblStitches").text(),
                  QStringLiteral("There are currently 2 stitches of this color in your pattern."));
-        QCOMPARE(Part<QLabel>(window, "lblDeleteDesc").text(), QStringLiteral("R1 - red"));
-        QVERIFY(Part<QRadioButton>(window, "optReplaceStitches").isChecked());
-        QTest::mouseClick(&Part<QRadioButton>(window, "optDeleteStitches"), Qt::LeftButton, {},
+        QCOMPARE(PartOf<QLabel>(window, "lblDeleteDesc").text(), QStringLiteral("R1 - red"));
+        QVERIFY(PartOf<QRadioButton>(window, "optReplaceStitches").isChecked());
+        QTest::mouseClick(&PartOf<QRadioButton>(window, "optDeleteStitches"), Qt::LeftButton, {},
                           QPoint(8, 8));
-        Press(window, "cmdOK");
+        ClickIn(window, "cmdOK");
     });
     test.Click("cmdRemoveColor");
     QCOMPARE(test.Flosses().GetEntriesCount(), 3);
@@ -200,7 +200,7 @@ void PaletteWindowTest::RemovalOffersTheClosest() {
 void PaletteWindowTest::CancelledRemovalLeavesIt() {
     PaletteWindow test;
     QVERIFY(test.Show());
-    InNextWindow("frmDeleteColor", [](QDialog& window) { Press(window, "cmdCancel"); });
+    InNextWindow("frmDeleteColor", [](QDialog& window) { ClickIn(window, "cmdCancel"); });
     test.Click("cmdRemoveColor");
     QCOMPARE(test.Flosses().GetEntriesCount(), 4);
     QVERIFY(!test.Window->HasChanged());
@@ -211,9 +211,9 @@ void PaletteWindowTest::EntryTakesTheStitches() {
     QVERIFY(test.Show());
     test.User.answers = {MessageAnswer::Yes};
     InNextWindow("frmReplaceColor", [](QDialog& window) {
-        QCOMPARE(Part<QLabel>(window, "lblReplace").text(),
+        QCOMPARE(PartOf<QLabel>(window, "lblReplace").text(),
                  QStringLiteral("Replace R1 - red with"));
-        auto& list = Part<QListWidget>(window, "imgPaletteColors");
+        auto& list = PartOf<QListWidget>(window, "imgPaletteColors");
         QCOMPARE(list.count(), 3);
         QVERIFY(window.focusWidget() == &list);
         QTest::keyClick(&list, Qt::Key_Down);
@@ -232,10 +232,10 @@ void PaletteWindowTest::AvailableFlossTakesThePlace() {
     QTest::keyClicks(&test.Available(), QStringLiteral("321"));
     test.User.answers = {MessageAnswer::Yes};
     InNextWindow("frmReplaceColor", [](QDialog& window) {
-        QTest::mouseClick(&Part<QRadioButton>(window, "optReplacewith1"), Qt::LeftButton, {},
+        QTest::mouseClick(&PartOf<QRadioButton>(window, "optReplacewith1"), Qt::LeftButton, {},
                           QPoint(8, 8));
-        QCOMPARE(Part<QLabel>(window, "lblAvailableColor").text(), QStringLiteral("321 - Red"));
-        Press(window, "cmdOK");
+        QCOMPARE(PartOf<QLabel>(window, "lblAvailableColor").text(), QStringLiteral("321 - Red"));
+        ClickIn(window, "cmdOK");
     });
     test.Click("cmdReplaceColor");
     QCOMPARE(test.Flosses().GetFlossLongDesc(1), std::string("321 - Red"));

@@ -12,32 +12,24 @@
 #include "flosses/windows/frmColors.h"
 #include "model/ProgramContext.h"
 #include "support/DialogDriver.h"
+#include "support/DialogHands.h"
 #include "support/TestPaths.h"
 
 namespace zol::test {
 
 namespace {
 
-template<typename Widget>
-Widget& In(QDialog& dialog, const char* name) {
-    auto* found = dialog.findChild<Widget*>(QLatin1String(name));
-    if (found == nullptr) {
-        qFatal("there is no %s", name);
-    }
-    return *found;
-}
-
 void Type(QDialog& dialog, const char* field, const char* keys) {
-    auto& line = In<QLineEdit>(dialog, field);
+    auto& line = PartOf<QLineEdit>(dialog, field);
     line.setFocus();
     line.selectAll();
     QTest::keyClicks(&line, QLatin1String(keys));
 }
 
 QString Channels(QDialog& dialog) {
-    return In<QLineEdit>(dialog, "txtRed").text() + QLatin1Char(' ') +
-           In<QLineEdit>(dialog, "txtGreen").text() + QLatin1Char(' ') +
-           In<QLineEdit>(dialog, "txtBlue").text();
+    return PartOf<QLineEdit>(dialog, "txtRed").text() + QLatin1Char(' ') +
+           PartOf<QLineEdit>(dialog, "txtGreen").text() + QLatin1Char(' ') +
+           PartOf<QLineEdit>(dialog, "txtBlue").text();
 }
 
 /// The colour that a widget shows at a place.
@@ -74,9 +66,9 @@ void frmColorsTest::BeginsWithTheColourGiven() {
     mixer.show();
     QCOMPARE(mixer.windowTitle(), QStringLiteral("Create Custom Color"));
     QCOMPARE(Channels(mixer), QStringLiteral("10 20 30"));
-    QVERIFY(In<ColorSample>(mixer, "picOriginal").Color() == MakeColour(10, 20, 30));
-    QVERIFY(In<ColorSample>(mixer, "picSample").Color() == MakeColour(10, 20, 30));
-    QCOMPARE(In<BrightnessStrip>(mixer, "picBrightness").Percent(), 100);
+    QVERIFY(PartOf<ColorSample>(mixer, "picOriginal").Color() == MakeColour(10, 20, 30));
+    QVERIFY(PartOf<ColorSample>(mixer, "picSample").Color() == MakeColour(10, 20, 30));
+    QCOMPARE(PartOf<BrightnessStrip>(mixer, "picBrightness").Percent(), 100);
 }
 
 void frmColorsTest::TypedValuesAbove255Become255() {
@@ -84,34 +76,34 @@ void frmColorsTest::TypedValuesAbove255Become255() {
     mixer.show();
     for (const char* field : {"txtRed", "txtGreen", "txtBlue"}) {
         Type(mixer, field, "256");
-        QCOMPARE(In<QLineEdit>(mixer, field).text(), QStringLiteral("255"));
+        QCOMPARE(PartOf<QLineEdit>(mixer, field).text(), QStringLiteral("255"));
         Type(mixer, field, "32767");
-        QCOMPARE(In<QLineEdit>(mixer, field).text(), QStringLiteral("255"));
+        QCOMPARE(PartOf<QLineEdit>(mixer, field).text(), QStringLiteral("255"));
     }
     QCOMPARE(mixer.Chosen(), MakeColour(255, 255, 255));
-    QVERIFY(In<ColorSample>(mixer, "picSample").Color() == MakeColour(255, 255, 255));
-    QVERIFY(In<ColorSample>(mixer, "picOriginal").Color() == Colour{0});
+    QVERIFY(PartOf<ColorSample>(mixer, "picSample").Color() == MakeColour(255, 255, 255));
+    QVERIFY(PartOf<ColorSample>(mixer, "picOriginal").Color() == Colour{0});
 }
 
 void frmColorsTest::FieldsTakeFiguresOnly() {
     frmColors mixer(QStringLiteral("Color"), MakeColour(1, 2, 3));
     mixer.show();
     Type(mixer, "txtGreen", "a-1.x2");
-    QCOMPARE(In<QLineEdit>(mixer, "txtGreen").text(), QStringLiteral("12"));
+    QCOMPARE(PartOf<QLineEdit>(mixer, "txtGreen").text(), QStringLiteral("12"));
     QCOMPARE(mixer.Chosen(), MakeColour(1, 12, 3));
 }
 
 void frmColorsTest::AnEmptyFieldCountsAsNothing() {
     frmColors mixer(QStringLiteral("Color"), MakeColour(100, 100, 100));
     mixer.show();
-    auto& red = In<QLineEdit>(mixer, "txtRed");
+    auto& red = PartOf<QLineEdit>(mixer, "txtRed");
     red.setFocus();
     red.selectAll();
     QTest::keyClick(&red, Qt::Key_Delete);
     QCOMPARE(mixer.Chosen(), MakeColour(0, 100, 100));
     QTest::keyClick(&red, Qt::Key_0);
     QCOMPARE(mixer.Chosen(), MakeColour(0, 100, 100));
-    QVERIFY(In<ColorSample>(mixer, "picSample").Color() == MakeColour(0, 100, 100));
+    QVERIFY(PartOf<ColorSample>(mixer, "picSample").Color() == MakeColour(0, 100, 100));
 }
 
 void frmColorsTest::AClickTakesTheColourAtTheMouse_data() {
@@ -129,15 +121,15 @@ void frmColorsTest::AClickTakesTheColourAtTheMouse() {
     frmColors mixer(QStringLiteral("Color"), MakeColour(7, 7, 7), {nullptr, &threads});
     mixer.show();
     QFETCH(const int, page);
-    In<QTabWidget>(mixer, "tabFields").setCurrentIndex(page);
-    auto& field = In<ColorField>(mixer, QTest::currentDataTag());
+    PartOf<QTabWidget>(mixer, "tabFields").setCurrentIndex(page);
+    auto& field = PartOf<ColorField>(mixer, QTest::currentDataTag());
     QVERIFY(field.isVisible());
     const QPoint place(field.width() * 2 / 3, field.height() / 3);
     const Colour shown = PixelOf(field, place);
     QTest::mouseClick(&field, Qt::LeftButton, {}, place);
     QCOMPARE(mixer.Chosen(), shown);
     QVERIFY(mixer.Chosen() != MakeColour(7, 7, 7));
-    QVERIFY(In<ColorSample>(mixer, "picSample").Color() == shown);
+    QVERIFY(PartOf<ColorSample>(mixer, "picSample").Color() == shown);
     // Beyond the edge the mouse still has the nearest place.
     QTest::mousePress(&field, Qt::LeftButton, {}, place);
     QTest::mouseMove(&field, QPoint(-50, -50));
@@ -157,8 +149,8 @@ void frmColorsTest::ArrowKeysMoveInAField() {
     frmColors mixer(QStringLiteral("Color"), MakeColour(200, 60, 60), {nullptr, &threads});
     mixer.show();
     QFETCH(const int, page);
-    In<QTabWidget>(mixer, "tabFields").setCurrentIndex(page);
-    auto& field = In<ColorField>(mixer, QTest::currentDataTag());
+    PartOf<QTabWidget>(mixer, "tabFields").setCurrentIndex(page);
+    auto& field = PartOf<ColorField>(mixer, QTest::currentDataTag());
     QTest::mouseClick(&field, Qt::LeftButton, {}, field.rect().center());
     const Colour first = mixer.Chosen();
     QTest::keyClick(&field, Qt::Key_Right, Qt::ShiftModifier);
@@ -174,7 +166,7 @@ void frmColorsTest::ArrowKeysMoveInAField() {
 void frmColorsTest::BrightnessScalesByPercent() {
     frmColors mixer(QStringLiteral("Color"), MakeColour(100, 50, 20));
     mixer.show();
-    auto& strip = In<BrightnessStrip>(mixer, "picBrightness");
+    auto& strip = PartOf<BrightnessStrip>(mixer, "picBrightness");
     QTest::keyClick(&strip, Qt::Key_Left);
     QCOMPARE(strip.Percent(), 99);
     QCOMPARE(mixer.Chosen(), MakeColour(99, 50, 20));
@@ -192,21 +184,21 @@ void frmColorsTest::BrightnessScalesByPercent() {
 void frmColorsTest::TheArrowCanBeDragged() {
     frmColors mixer(QStringLiteral("Color"), MakeColour(100, 50, 20));
     mixer.show();
-    auto& strip = In<BrightnessStrip>(mixer, "picBrightness");
-    auto& arrow = In<QWidget>(mixer, "picArrow");
+    auto& strip = PartOf<BrightnessStrip>(mixer, "picBrightness");
+    auto& arrow = PartOf<QWidget>(mixer, "picArrow");
     const QPoint before = arrow.geometry().center();
     QTest::mousePress(&strip, Qt::LeftButton, {}, before);
     QTest::mouseMove(&strip, QPoint(before.x() / 2, before.y()));
     QTest::mouseRelease(&strip, Qt::LeftButton, {}, QPoint(before.x() / 2, before.y()));
     QVERIFY(strip.Percent() < 60 && strip.Percent() > 40);
     QVERIFY(qAbs(arrow.geometry().center().x() - before.x() / 2) <= 1);
-    QCOMPARE(In<QLineEdit>(mixer, "txtRed").text(), QString::number(strip.Percent()));
+    QCOMPARE(PartOf<QLineEdit>(mixer, "txtRed").text(), QString::number(strip.Percent()));
 }
 
 void frmColorsTest::TypingMakesANewColourItself() {
     frmColors mixer(QStringLiteral("Color"), MakeColour(100, 50, 20));
     mixer.show();
-    auto& strip = In<BrightnessStrip>(mixer, "picBrightness");
+    auto& strip = PartOf<BrightnessStrip>(mixer, "picBrightness");
     QTest::keyClick(&strip, Qt::Key_Home);
     Type(mixer, "txtRed", "80");
     QCOMPARE(strip.Percent(), 100);
@@ -217,13 +209,13 @@ void frmColorsTest::TypingMakesANewColourItself() {
 
 void frmColorsTest::ThreadsAreOfferedOnlyFromACatalogue() {
     frmColors mixer(QStringLiteral("Color"), 0);
-    QCOMPARE(In<QTabWidget>(mixer, "tabFields").count(), 2);
+    QCOMPARE(PartOf<QTabWidget>(mixer, "tabFields").count(), 2);
 }
 
 void frmColorsTest::CreateCustomColorGivesTheColourOrMinusOne() {
     DialogDriver user({[](QDialog& mixer) {
                            Type(mixer, "txtGreen", "77");
-                           QTest::mouseClick(&In<QPushButton>(mixer, "cmdOK"), Qt::LeftButton);
+                           QTest::mouseClick(&PartOf<QPushButton>(mixer, "cmdOK"), Qt::LeftButton);
                        },
                        [](QDialog& mixer) {
                            Type(mixer, "txtGreen", "77");

@@ -15,6 +15,7 @@
 
 #include "model/windows/frmPatternInfo.h"
 #include "settings/INIFuncs.h"
+#include "support/DialogHands.h"
 #include "support/ScriptedUser.h"
 
 namespace zol::test {
@@ -49,11 +50,7 @@ public:
 
     template<typename Widget>
     [[nodiscard]] Widget& Find(const char* name) {
-        auto* found = findChild<Widget*>(QLatin1String(name));
-        if (found == nullptr) {
-            qFatal("there is no %s", name);
-        }
-        return *found;
+        return PartOf<Widget>(*this, name);
     }
     /// The field that keys go to: a text field, or that of a box.
     [[nodiscard]] QWidget& Field(const char* name) { return Find<QWidget>(name); }
@@ -61,18 +58,9 @@ public:
         auto* box = qobject_cast<QComboBox*>(&Field(name));
         return box != nullptr ? box->currentText() : Find<QLineEdit>(name).text();
     }
-    void Click(const char* name) {
-        auto& widget = Field(name);
-        QTest::mouseClick(&widget, Qt::LeftButton, {}, QPoint(10, widget.height() / 2));
-    }
+    void Click(const char* name) { ClickIn(*this, name); }
     /// Replaces a field's content, key by key.
-    void Type(const char* name, const QString& text) {
-        QWidget& field = Field(name);
-        field.setFocus();
-        QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClick(&field, Qt::Key_Delete);
-        QTest::keyClicks(&field, text);
-    }
+    void Type(const char* name, const QString& text) { TypeIn(*this, name, text); }
     /// Replaces a field's content past the filter of its keys.
     void Paste(const char* name, const QString& text) {
         auto* box = qobject_cast<QComboBox*>(&Field(name));

@@ -23,6 +23,7 @@
 #include "settings/INIFuncs.h"
 #include "settings/basOptions.h"
 #include "settings/windows/frmOptions.h"
+#include "support/DialogHands.h"
 #include "support/TestPaths.h"
 
 namespace zol::test {
@@ -64,11 +65,7 @@ public:
 
     template<typename Widget = QWidget>
     [[nodiscard]] Widget& Find(const char* name) {
-        auto* found = Dialog->findChild<Widget*>(QLatin1String(name));
-        if (found == nullptr) {
-            qFatal("there is no %s", name);
-        }
-        return *found;
+        return PartOf<Widget>(*Dialog, name);
     }
     /// Turns to the page of a control.
     template<typename Widget = QWidget>
