@@ -4,35 +4,57 @@
 #include "windowkit/Spelling.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QLabel>
+#include <QTabWidget>
+#include <QWidget>
+
+#include <utility>
+
+#include "model/ProgramContext.h"
 
 namespace zol {
 
 namespace {
 
-QString British(QString text) {
-    for (const auto& [american, british] :
-         {std::pair("Colo", "Colou"), std::pair("Customiz", "Customis"),
-          std::pair("colo", "colou")}) {
-        const QString word = QLatin1String(british);
-        if (!text.contains(word)) {
-            text.replace(QLatin1String(american), word);
+void SpellOne(QWidget& widget, const ProgramContext& context) {
+    widget.setToolTip(Spelled(widget.toolTip(), context));
+    widget.setAccessibleName(Spelled(widget.accessibleName(), context));
+    if (auto* label = qobject_cast<QLabel*>(&widget)) {
+        label->setText(Spelled(label->text(), context));
+    } else if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
+        button->setText(Spelled(button->text(), context));
+    } else if (auto* tabs = qobject_cast<QTabWidget*>(&widget)) {
+        for (int tab = 0; tab < tabs->count(); ++tab) {
+            tabs->setTabText(tab, Spelled(tabs->tabText(tab), context));
+        }
+    } else if (auto* list = qobject_cast<QComboBox*>(&widget)) {
+        for (int line = 0; line < list->count(); ++line) {
+            list->setItemText(line, Spelled(list->itemText(line), context));
         }
     }
-    return text;
 }
 
 } // namespace
 
-void SpellBritish(QWidget& window) {
-    for (QLabel* label : window.findChildren<QLabel*>()) {
-        label->setText(British(label->text()));
+QString Spelled(QString words, const ProgramContext& context) {
+    if (context.BritishSpelling) {
+        for (const auto& [american, british] :
+             {std::pair("Color", "Colour"), std::pair("color", "colour"),
+              std::pair("Customiz", "Customis")}) {
+            words.replace(QLatin1String(american), QLatin1String(british));
+        }
     }
-    for (QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
-        button->setText(British(button->text()));
+    return words;
+}
+
+void Spell(QWidget& window, const ProgramContext& context) {
+    if (!context.BritishSpelling) {
+        return;
     }
-    for (QWidget* widget : window.findChildren<QWidget*>()) {
-        widget->setAccessibleName(British(widget->accessibleName()));
+    window.setWindowTitle(Spelled(window.windowTitle(), context));
+    for (QWidget* part : window.findChildren<QWidget*>()) {
+        SpellOne(*part, context);
     }
 }
 

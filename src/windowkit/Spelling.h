@@ -3,12 +3,19 @@
 
 #pragma once
 
+#include <QString>
+
 class QWidget;
 
 namespace zol {
 
-/// Turns the American words of labels and buttons below a widget into British ones: "Colour" for
-/// "Color", "Customise" for "Customize".
-void SpellBritish(QWidget& window);
+struct ProgramContext;
+
+/// "Colour" for "Color" and "Customise" for "Customize" where the program runs in British English;
+/// elsewhere the words as they are.
+[[nodiscard]] QString Spelled(QString words, const ProgramContext& context);
+
+/// The same for everything that a window and its parts say. To be called once all is written.
+void Spell(QWidget& window, const ProgramContext& context);
 
 } // namespace zol

@@ -10,6 +10,7 @@
 #include "flosses/windows/frmColorList.h"
 #include "flosses/windows/ui_FlossInfoPanel.h"
 #include "grid/painting/SymbolText.h"
+#include "windowkit/Spelling.h"
 
 namespace zol {
 
@@ -167,6 +168,7 @@ void FlossInfoPanel::SetNonRep(int line) {
 
 void FlossInfoPanel::CustomizeNonRep() {
     frmColorList window(*m_store, *m_messages, this);
+    Spell(window, m_editor->Flosses().Context());
     window.exec();
     LoadNonRepColors(*m_ui->cmbNonRepColors, *m_store, true,
                      m_editor->Flosses().GetNonRepColor(m_editor->SelectedFloss()));

@@ -5,9 +5,9 @@
 
 #include <QPushButton>
 
-#include "flosses/windows/Spelling.h"
 #include "flosses/windows/ui_frmAddPalette.h"
 #include "windowkit/DialogSize.h"
+#include "windowkit/Spelling.h"
 
 namespace zol {
 

@@ -8,12 +8,14 @@
 #include "flosses/windows/ColorDialog.h"
 #include "flosses/windows/ColorSample.h"
 #include "flosses/windows/ui_frmClothColors.h"
+#include "model/ProgramContext.h"
 #include "windowkit/DialogSize.h"
 #include "windowkit/Spelling.h"
 
 namespace zol {
 
-frmClothColors::frmClothColors(int list, SettingsDoor& store, bool british, QWidget* parent)
+frmClothColors::frmClothColors(int list, SettingsDoor& store, const ProgramContext& context,
+                               QWidget* parent)
     : QDialog(parent),
       m_ui(std::make_unique<Ui::frmClothColors>()),
       m_list(list),
@@ -21,10 +23,8 @@ frmClothColors::frmClothColors(int list, SettingsDoor& store, bool british, QWid
       m_lines(ColorLists::LoadColorsList(store, list)) {
     m_ui->setupUi(this);
     m_ui->buttonBox->button(QDialogButtonBox::Close)->setObjectName(QStringLiteral("cmdClose"));
-    setWindowTitle(QString::fromStdString(ColorLists::CaptionOf(list, british)));
-    if (british) {
-        SpellBritish(*this);
-    }
+    setWindowTitle(QString::fromStdString(ColorLists::CaptionOf(list, context.BritishSpelling)));
+    Spell(*this, context);
     ShowColorsList();
     connect(m_ui->picList, &QListWidget::currentRowChanged, this, &frmClothColors::ShowSelected);
     connect(m_ui->txtDescription, &QLineEdit::textEdited, this, &frmClothColors::ChangeText);

@@ -16,6 +16,8 @@ class frmClothColors;
 
 namespace zol {
 
+struct ProgramContext;
+
 /// Edits one of the lists of colours for cloth and grid lines. Closing it writes the list to the
 /// store.
 class frmClothColors : public QDialog {
@@ -23,7 +25,8 @@ class frmClothColors : public QDialog {
 
 public:
     /// `list` is one of ColorLists::List.
-    frmClothColors(int list, SettingsDoor& store, bool british, QWidget* parent = nullptr);
+    frmClothColors(int list, SettingsDoor& store, const ProgramContext& context,
+                   QWidget* parent = nullptr);
     ~frmClothColors() override;
 
     void done(int result) override;

@@ -6,9 +6,10 @@
 #include <QPushButton>
 
 #include "flosses/windows/FlossText.h"
-#include "flosses/windows/Spelling.h"
+
 #include "flosses/windows/ui_frmDeleteColor.h"
 #include "windowkit/DialogSize.h"
+#include "windowkit/Spelling.h"
 
 namespace zol {
 

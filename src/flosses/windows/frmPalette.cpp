@@ -6,9 +6,9 @@
 #include <QKeyEvent>
 #include <QScrollBar>
 
-#include "flosses/windows/Spelling.h"
 #include "flosses/windows/ui_frmPalette.h"
 #include "windowkit/DialogSize.h"
+#include "windowkit/Spelling.h"
 
 namespace zol {
 

@@ -7,9 +7,10 @@
 
 #include "flosses/Palette.h"
 #include "flosses/windows/FlossText.h"
-#include "flosses/windows/Spelling.h"
+
 #include "flosses/windows/ui_frmReplaceColor.h"
 #include "windowkit/DialogSize.h"
+#include "windowkit/Spelling.h"
 
 namespace zol {
 

@@ -6,9 +6,9 @@
 #include <QApplication>
 #include <QPushButton>
 
-#include "flosses/windows/Spelling.h"
 #include "flosses/windows/ui_frmSymbols.h"
 #include "windowkit/DialogSize.h"
+#include "windowkit/Spelling.h"
 
 namespace zol {
 

@@ -10,6 +10,7 @@
 
 #include "model/ProgramContext.h"
 #include "windowkit/IconFamily.h"
+#include "windowkit/Spelling.h"
 
 namespace zol {
 
@@ -127,14 +128,6 @@ constexpr MainCommand Table[] = {
     // clang-format on
 };
 
-/// As it is spelled where the program runs.
-QString Spelled(const char* text, const ProgramContext& context) {
-    const QString color = QString::fromStdString(context.ColorWord());
-    QString words = QString::fromUtf8(text);
-    words.replace(QStringLiteral("Color"), color);
-    return words.replace(QStringLiteral("color"), color.toLower());
-}
-
 /// What a button shows that stands still under the pointer: its words and its key.
 QString ToolTipOf(const QAction& action) {
     QString words = action.text().remove(QLatin1Char('&'));
@@ -146,9 +139,9 @@ QString ToolTipOf(const QAction& action) {
 }
 
 QAction* MakeAction(const MainCommand& command, QWidget& owner, const ProgramContext& context) {
-    auto* action = new QAction(Spelled(command.Caption, context), &owner);
+    auto* action = new QAction(Spelled(QString::fromUtf8(command.Caption), context), &owner);
     action->setObjectName(QLatin1String(command.Name));
-    action->setStatusTip(Spelled(command.StatusTip, context));
+    action->setStatusTip(Spelled(QString::fromUtf8(command.StatusTip), context));
     action->setCheckable(command.Checkable);
     action->setEnabled(false);
     action->setMenuRole(QAction::NoRole);

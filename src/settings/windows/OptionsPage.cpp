@@ -28,7 +28,7 @@ void OptionsPage::FillColors(const ColorChoice& choice) {
 
 void OptionsPage::ConnectCustomize(const ColorChoice& choice) {
     connect(choice.Customize, &QPushButton::clicked, this, [this, choice] {
-        frmClothColors editor(choice.List, m_desk.Store, m_desk.Context.BritishSpelling, this);
+        frmClothColors editor(choice.List, m_desk.Store, m_desk.Context, this);
         editor.exec();
         FillColors(choice);
     });

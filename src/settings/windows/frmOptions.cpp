@@ -57,9 +57,7 @@ frmOptions::frmOptions(OptionsDesk desk, QWidget* parent)
     QPushButton* apply = m_ui->buttonBox->button(QDialogButtonBox::Apply);
     apply->setObjectName(QStringLiteral("cmdApply"));
     AddPages();
-    if (m_desk.Context.BritishSpelling) {
-        SpellBritish(*this);
-    }
+    Spell(*this, m_desk.Context);
     FillOptionLists();
     LoadOptionControls();
     m_ui->tbsOptions->setCurrentIndex(0);

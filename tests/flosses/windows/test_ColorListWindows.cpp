@@ -13,6 +13,7 @@
 #include "flosses/windows/NonRepColors.h"
 #include "flosses/windows/frmClothColors.h"
 #include "flosses/windows/frmColorList.h"
+#include "model/ProgramContext.h"
 #include "settings/INIFuncs.h"
 #include "support/DialogDriver.h"
 #include "support/DialogHands.h"
@@ -195,7 +196,7 @@ void ColorListWindowsTest::WithoutFillingTheLinesStay() {
 }
 
 void ColorListWindowsTest::ClothColoursAreSevenWithTextAndColour() {
-    frmClothColors colors(ColorLists::ClothList, *m_store, false);
+    frmClothColors colors(ColorLists::ClothList, *m_store, ProgramContext());
     colors.show();
     auto& lines = PartOf<QListWidget>(colors, "picList");
     QCOMPARE(lines.count(), 7);
@@ -207,7 +208,7 @@ void ColorListWindowsTest::ClothColoursAreSevenWithTextAndColour() {
 
 void ColorListWindowsTest::EditsOfALineAreWrittenBack() {
     ColorLists::SaveGridColor(*m_store, ColorLists::BoldLines, 8, {"Moss", 0x112233});
-    frmClothColors colors(ColorLists::BoldList, *m_store, false);
+    frmClothColors colors(ColorLists::BoldList, *m_store, ProgramContext());
     colors.show();
     auto& lines = PartOf<QListWidget>(colors, "picList");
     QTest::keyClick(&lines, Qt::Key_Down);
@@ -228,9 +229,11 @@ void ColorListWindowsTest::EditsOfALineAreWrittenBack() {
 }
 
 void ColorListWindowsTest::EachListHasItsCaption() {
-    const frmClothColors american(ColorLists::PrintBoldList, *m_store, false);
+    const frmClothColors american(ColorLists::PrintBoldList, *m_store, ProgramContext());
     QCOMPARE(american.windowTitle(), QStringLiteral("Customize Bold Printed Grid Line Colors"));
-    frmClothColors british(ColorLists::ClothList, *m_store, true);
+    ProgramContext inBritain;
+    inBritain.BritishSpelling = true;
+    frmClothColors british(ColorLists::ClothList, *m_store, inBritain);
     QCOMPARE(british.windowTitle(), QStringLiteral("Customise Cloth Colours"));
     QCOMPARE(PartOf<QPushButton>(british, "cmdReMix").text().remove(QLatin1Char('&')),
              QStringLiteral("Change Colour"));
