@@ -77,31 +77,42 @@ void PixelCanvas::Line(QPoint start, QPoint end, const LinePen& pen) {
     m_placed.push_back({start - m_origin, mask, pen.Ground, pen.Floss});
 }
 
-void PixelCanvas::Flush() {
-    if (m_placed.empty() || m_target.Width <= 0 || m_target.Height <= 0) {
-        return;
-    }
-    const int rows = std::max(8, BandBytes / (m_target.Width * static_cast<int>(sizeof(QRgb))));
-    const int last = (m_target.Height - 1) / rows;
-    std::vector<std::vector<std::uint32_t>> bands(static_cast<std::size_t>(last) + 1);
+std::vector<std::vector<std::uint32_t>> PixelCanvas::LinesOfBands() const {
+    std::vector<std::vector<std::uint32_t>> lines(m_bands.size() - 1);
     for (std::size_t i = 0; i < m_placed.size(); ++i) {
         const auto [top, bottom] = RowsOf(*m_placed[i].Mask);
         const int from = std::max(0, m_placed[i].Place.y() + top);
         const int to = std::min(m_target.Height - 1, m_placed[i].Place.y() + bottom);
-        for (int band = from / rows; band <= to / rows && from <= to; ++band) {
-            bands[static_cast<std::size_t>(band)].push_back(static_cast<std::uint32_t>(i));
+        if (from > to) {
+            continue;
+        }
+        auto band = std::upper_bound(m_bands.begin(), m_bands.end(), from) - 1;
+        for (; band != m_bands.end() - 1 && *band <= to; ++band) {
+            lines[static_cast<std::size_t>(band - m_bands.begin())].push_back(
+                static_cast<std::uint32_t>(i));
         }
     }
-    for (int band = 0; band <= last; ++band) {
-        const int top = band * rows;
-        for (const std::uint32_t i : bands[static_cast<std::size_t>(band)]) {
+    return lines;
+}
+
+void PixelCanvas::Flush() {
+    if (m_placed.empty() && !m_behind) {
+        return;
+    }
+    const std::vector<std::vector<std::uint32_t>> lines = LinesOfBands();
+    for (std::size_t band = 0; band < lines.size(); ++band) {
+        const int top = m_bands[band];
+        const int bottom = m_bands[band + 1] - 1;
+        if (m_behind) {
+            m_behind(top, bottom);
+        }
+        for (const std::uint32_t i : lines[band]) {
             const Placed& line = m_placed[i];
-            BlendSpans(m_target, top, top + rows - 1, line.Place, line.Mask->Under,
-                       ToRgb(line.Ground));
-            BlendSpans(m_target, top, top + rows - 1, line.Place, line.Mask->Over,
-                       ToRgb(line.Floss));
+            BlendSpans(m_target, top, bottom, line.Place, line.Mask->Under, ToRgb(line.Ground));
+            BlendSpans(m_target, top, bottom, line.Place, line.Mask->Over, ToRgb(line.Floss));
         }
     }
+    m_behind = nullptr;
     m_placed.clear();
 }
 

@@ -30,14 +30,16 @@ RasterPass::RasterPass(const GridView& view, const SquareRect& rect, const QRect
     }
 }
 
-RasterPass::Painted RasterPass::Paint(QImage& image, QPoint position) {
+void RasterPass::Paint(QImage& image, QPoint position) {
     m_position = position;
     m_buffer = {reinterpret_cast<QRgb*>(image.bits()),
                 image.bytesPerLine() / static_cast<std::ptrdiff_t>(sizeof(QRgb)), image.width(),
                 image.height()};
-    FindArea();
+    const Painted piece = Find(image.size(), position);
+    m_area = piece.Area;
+    m_rect = piece.Squares;
     if (m_area.isEmpty()) {
-        return {};
+        return;
     }
     BeginTiles();
     FindTiles();
@@ -51,7 +53,6 @@ RasterPass::Painted RasterPass::Paint(QImage& image, QPoint position) {
     }
     PaintMixedSquares();
     PaintKnots();
-    return {m_area, m_rect};
 }
 
 std::vector<QRgb> RasterPass::TemplateRow(QRgb ground, bool normalColumns) const {

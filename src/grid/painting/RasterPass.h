@@ -34,9 +34,13 @@ public:
         QRect Area;         ///< of the image
         SquareRect Squares; ///< those of the rectangle that the image shows, and a few around
     };
-    /// Paints a piece whose upper left pixel is the device's pixel `position`. An empty area if the
-    /// image shows nothing of the rectangle.
-    Painted Paint(QImage& image, QPoint position);
+    /// What Paint() would paint of a piece whose upper left pixel is the device's pixel `position`.
+    /// An empty area if it shows nothing of the rectangle.
+    [[nodiscard]] Painted Find(const QSize& size, QPoint position) const;
+    /// An area's pixel rows from which bands of squares go, each about so many rows high and at
+    /// least one row of squares, and the end of the last band. Counted from the area's first row.
+    [[nodiscard]] std::vector<int> BandsOf(const Painted& piece, QPoint position, int rows) const;
+    void Paint(QImage& image, QPoint position);
 
 private:
     using Stretch = RasterAxis::Stretch;
@@ -60,7 +64,6 @@ private:
     /// The squares of a rectangle that may show something in these pixels.
     [[nodiscard]] SquareRect ShownIn(const SquareRect& rect, const QRect& pixels) const;
     void BeginTiles();
-    void FindArea();
     void FindTiles();
     void FindColumns();
     [[nodiscard]] std::vector<QRgb> TemplateRow(QRgb ground, bool normalColumns) const;

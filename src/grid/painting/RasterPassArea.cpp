@@ -43,19 +43,33 @@ SquareRect RasterPass::ShownIn(const SquareRect& rect, const QRect& pixels) cons
     return {left, top, right, bottom};
 }
 
-void RasterPass::FindArea() {
-    m_area = QRect();
-    m_rect = m_all.IsEmpty()
-                 ? m_all
-                 : ShownIn(m_all, QRect(m_position, QSize(m_buffer.Width, m_buffer.Height)));
-    if (m_rect.IsEmpty()) {
-        return;
+RasterPass::Painted RasterPass::Find(const QSize& size, QPoint position) const {
+    if (m_all.IsEmpty()) {
+        return {{}, m_all};
+    }
+    const SquareRect rect = ShownIn(m_all, QRect(position, size));
+    if (rect.IsEmpty()) {
+        return {{}, rect};
     }
     // The closing lines are painted too, as far as the image holds them.
-    const QPoint corner(m_x->Edge(m_rect.Left), m_y->Edge(m_rect.Top));
-    const QPoint end(m_x->First(m_rect.Right + 1), m_y->First(m_rect.Bottom + 1));
-    m_area = QRect(corner - m_position, end - m_position - QPoint(1, 1))
-                 .intersected(QRect(0, 0, m_buffer.Width, m_buffer.Height));
+    const QPoint corner(m_x->Edge(rect.Left), m_y->Edge(rect.Top));
+    const QPoint end(m_x->First(rect.Right + 1), m_y->First(rect.Bottom + 1));
+    const QRect squares(corner - position, end - position - QPoint(1, 1));
+    return {squares.intersected(QRect(QPoint(0, 0), size)), rect};
+}
+
+std::vector<int> RasterPass::BandsOf(const Painted& piece, QPoint position, int rows) const {
+    std::vector<int> bands{0};
+    const int first = position.y() + piece.Area.top();
+    for (int number = piece.Squares.Top; number <= piece.Squares.Bottom; ++number) {
+        const int edge = m_y->Edge(number) - first;
+        if (edge > bands.back() && edge < piece.Area.height() &&
+            m_y->Edge(number + 1) - first - bands.back() > rows) {
+            bands.push_back(edge);
+        }
+    }
+    bands.push_back(piece.Area.height());
+    return bands;
 }
 
 void RasterPass::BeginTiles() {

@@ -6,6 +6,9 @@
 #include <QPoint>
 #include <QRect>
 
+#include <cstdint>
+#include <functional>
+#include <utility>
 #include <vector>
 
 #include "grid/painting/PixelMasks.h"
@@ -62,15 +65,23 @@ private:
 };
 
 /// Draws straight into pixels. Lines are collected and painted by Flush(), a band of the image at a
-/// time, so that its pixels stay in the cache however many lines cross it.
+/// time, so that its pixels stay in the cache however many lines cross it, together with what lies
+/// behind them.
 class PixelCanvas : public LineCanvas {
 public:
-    /// `origin` is the place of the buffer's first pixel on the device.
-    PixelCanvas(const PixelBuffer& target, QPoint origin, LineMasks& masks, bool antialias)
+    /// Paints the rows `top` to `bottom` of the buffer, before any line comes there.
+    using PaintBehind = std::function<void(int top, int bottom)>;
+
+    /// `origin` is the place of the buffer's first pixel on the device. `bands` are the rows where
+    /// bands begin, the first 0, and the end of the last.
+    PixelCanvas(const PixelBuffer& target, QPoint origin, LineMasks& masks, bool antialias,
+                std::vector<int> bands, PaintBehind behind)
         : m_target(target),
           m_origin(origin),
           m_masks(masks),
-          m_antialias(antialias) {}
+          m_antialias(antialias),
+          m_bands(std::move(bands)),
+          m_behind(std::move(behind)) {}
     /// Most lines by masks, which are made once and blended wherever such a line lies.
     void Line(QPoint start, QPoint end, const LinePen& pen) override;
     void Piece(const QLine& line, int width, Colour colour) override;
@@ -81,9 +92,6 @@ public:
     void Flush();
 
 private:
-    /// Bytes of the pixels that a band holds.
-    static constexpr int BandBytes = 256 * 1024;
-
     /// A line whose mask is known, where it lies in the target.
     struct Placed {
         QPoint Place;
@@ -92,12 +100,16 @@ private:
         Colour Floss;
     };
 
+    /// Numbers of the placed lines, band by band.
+    [[nodiscard]] std::vector<std::vector<std::uint32_t>> LinesOfBands() const;
     void CoverCurve(const std::vector<QPointF>& curve, int width, Colour colour);
 
     PixelBuffer m_target;
     QPoint m_origin;
     LineMasks& m_masks;
     bool m_antialias;
+    std::vector<int> m_bands;
+    PaintBehind m_behind; ///< null once all of it is painted
     PixelMask m_scratch;
     std::vector<Placed> m_placed;
 };

@@ -34,6 +34,12 @@ public:
     void Paint(QImage& image, QPoint position);
 
 private:
+    /// Bytes of the pixels that are painted, squares and then lines, before going on to the next.
+    static constexpr int BandBytes = 256 * 1024;
+
+    void PaintWithLines(QImage& image, QPoint position, const QRect& area,
+                        const SquareRect& squares);
+
     GridView m_view;
     LineIndex& m_lines;
     LineMasks& m_lineMasks;
