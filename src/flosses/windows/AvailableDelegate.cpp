@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QPainter>
+#include <QStaticText>
 #include <QStyle>
 
 #include <algorithm>
@@ -25,6 +26,20 @@ void PaintPatch(QPainter& painter, const QRect& rect, const QColor& color, const
     // Filled and not drawn, which is crisp at every scale of the screen.
     painter.fillRect(rect, Theme::Edge(theme));
     painter.fillRect(rect.adjusted(1, 1, -1, -1), color);
+}
+
+/// Laid out once: most texts fit, so they are shortened only after they were found too wide.
+void PaintWords(QPainter& painter, const QStyleOptionViewItem& option, const QRect& where,
+                const QString& words) {
+    QStaticText text(words);
+    text.setTextFormat(Qt::PlainText);
+    text.prepare({}, option.font);
+    if (text.size().width() > where.width()) {
+        text.setText(option.fontMetrics.elidedText(words, Qt::ElideRight, where.width()));
+        text.prepare({}, option.font);
+    }
+    const int height = option.fontMetrics.height();
+    painter.drawStaticText(where.left(), where.top() + (where.height() - height) / 2, text);
 }
 
 QColor ColorOf(const QModelIndex& index) {
@@ -83,13 +98,10 @@ void AvailableDelegate::PaintTexts(QPainter& painter, const QStyleOptionViewItem
     PaintPatch(painter, wide ? rest : QRect(inner.topLeft(), QSize(inner.height(), inner.height())),
                ColorOf(index), option.palette);
     painter.setPen(option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
-    const auto write = [&](const QRect& where, const QString& words) {
-        painter.drawText(where, Qt::AlignVCenter | Qt::AlignLeft,
-                         option.fontMetrics.elidedText(words, Qt::ElideRight, where.width()));
-    };
-    write(number, index.data(Qt::DisplayRole).toString());
+    painter.setFont(option.font);
+    PaintWords(painter, option, number, index.data(Qt::DisplayRole).toString());
     if (!wide) {
-        write(rest, index.data(AvailableModel::DescriptionRole).toString());
+        PaintWords(painter, option, rest, index.data(AvailableModel::DescriptionRole).toString());
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QPixmapCache>
 #include <QPolygon>
 #include <QTransform>
 
@@ -73,6 +74,13 @@ QPolygon Triangle(const QRect& rect, bool first) {
 
 } // namespace
 
+void SwatchPainter::TakeFont(const Palette& palette) {
+    m_symbols.SetFont(palette);
+    m_fontName = QString::fromStdString(palette.GetFontName());
+    m_fontName += palette.GetFontBold() ? QLatin1String(" bold") : QLatin1String();
+    m_fontName += palette.GetFontItalic() ? QLatin1String(" italic") : QLatin1String();
+}
+
 void SwatchPainter::Paint(QPainter& painter, const QRect& rect, const Palette& palette, int floss,
                           bool withSymbol, const QPalette& theme) {
     if (floss < 1 || floss > palette.GetEntriesCount()) {
@@ -104,10 +112,31 @@ void SwatchPainter::Paint(QPainter& painter, const QRect& rect, const Palette& p
 void SwatchPainter::PaintThread(QPainter& painter, const QRect& pixels, Colour thread, int symbol) {
     painter.fillRect(pixels, ToQColor(thread));
     if (symbol != 0) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.fillPath(m_symbols.Outline(pixels, symbol, SymbolScale, true), Contrast(thread));
-        painter.setRenderHint(QPainter::Antialiasing, false);
+        painter.drawPixmap(pixels.topLeft(),
+                           Picture(pixels.size(), symbol, GetContrastColor(thread)));
     }
+}
+
+QPixmap SwatchPainter::Picture(const QSize& size, int symbol, Colour ink) {
+    const QString name = QStringLiteral("swatch symbol %1 %2 %3 %4 ")
+                             .arg(symbol)
+                             .arg(ink)
+                             .arg(size.width())
+                             .arg(size.height()) +
+                         m_fontName;
+    QPixmap picture;
+    if (QPixmapCache::find(name, &picture)) {
+        return picture;
+    }
+    picture = QPixmap(size);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(m_symbols.Outline(QRect(QPoint(0, 0), size), symbol, SymbolScale, true),
+                     ToQColor(ink));
+    painter.end();
+    QPixmapCache::insert(name, picture);
+    return picture;
 }
 
 void SwatchPainter::PaintFrame(QPainter& painter, const QRect& rect, const Palette& palette,

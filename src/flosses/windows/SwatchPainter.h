@@ -5,7 +5,9 @@
 
 #include <QColor>
 #include <QPalette>
+#include <QPixmap>
 #include <QRect>
+#include <QString>
 
 #include "flosses/Palette.h"
 #include "grid/painting/SymbolText.h"
@@ -19,7 +21,7 @@ namespace zol {
 class SwatchPainter {
 public:
     /// Follows the palette's symbol font. Call once before a row of swatches.
-    void TakeFont(const Palette& palette) { m_symbols.SetFont(palette); }
+    void TakeFont(const Palette& palette);
     /// Nothing outside the palette.
     void Paint(QPainter& painter, const QRect& rect, const Palette& palette, int floss,
                bool withSymbol, const QPalette& theme);
@@ -35,7 +37,11 @@ private:
     /// `pixels` of the device.
     void PaintThread(QPainter& painter, const QRect& pixels, Colour thread, int symbol);
 
+    /// The symbol over the whole swatch, kept for every window that shows swatches of this size.
+    [[nodiscard]] QPixmap Picture(const QSize& size, int symbol, Colour ink);
+
     SymbolText m_symbols;
+    QString m_fontName; ///< with its style, as it stands in the names of pictures
 };
 
 } // namespace zol
