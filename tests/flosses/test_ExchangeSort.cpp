@@ -44,9 +44,10 @@ TEST(ExchangeSort, RanksGiveTheOrderOfTheKeysThemselves) {
     }
 }
 
-} // namespace
 TEST(ExchangeSort, KeysThatAllDifferAscend) {
     EXPECT_EQ(ExchangeOrder(std::vector<double>{4, -1, 2.5, 0}), (std::vector<int>{1, 3, 2, 0}));
 }
+
+} // namespace
 
 } // namespace zol

@@ -32,6 +32,9 @@ public:
         setWidgetResizable(true);
         setFocusPolicy(Qt::NoFocus);
         setWidget(&page);
+        // The ground is the tab's, as in every other window with tabs.
+        viewport()->setAutoFillBackground(false);
+        page.setAutoFillBackground(false);
     }
     [[nodiscard]] QSize sizeHint() const override { return widget()->sizeHint(); }
 };
