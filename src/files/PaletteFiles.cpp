@@ -9,6 +9,7 @@
 
 #include "model/CodePage.h"
 #include "model/Pattern.h"
+#include "model/RunTimeError.h"
 #include "model/SafeFile.h"
 
 namespace zol {
@@ -20,6 +21,9 @@ namespace fs = std::filesystem;
 constexpr const char* LoadTitle = "Load a Floss Palette";
 constexpr const char* DefaultFile = "Default.fls";
 constexpr const char* Kept = "The palette of your pattern stays as it is.";
+
+/// A square holds its floss in a byte, in which 255 stands for none.
+constexpr int MostFlosses = NoFloss - 1;
 
 /// Passes messages on and remembers whether there were any.
 class ListeningDoor : public MessageDoor {
@@ -112,6 +116,14 @@ std::optional<Palette> PaletteFiles::ReadPalette(const fs::path& file) const {
                                          LowerCase(m_desk.Context.ColorWord()),
                                      Kept, MessageIcon::Information, LoadTitle);
         }
+        return std::nullopt;
+    }
+    if (loaded.GetEntriesCount() > MostFlosses) {
+        m_desk.Messages.TellMore(RunTimeErrorText(ErrOverflow),
+                                 "The file holds " + std::to_string(loaded.GetEntriesCount()) +
+                                     " flosses; a pattern takes at most " +
+                                     std::to_string(MostFlosses) + ". " + Kept,
+                                 MessageIcon::Exclamation, LoadTitle);
         return std::nullopt;
     }
     // A palette of the oldest form is loaded and answered with false all the same.

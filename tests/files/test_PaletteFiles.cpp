@@ -121,6 +121,30 @@ TEST_F(PaletteFilesTest, ThePaletteOfNoFlossIsRefused) {
                 ::testing::ElementsAre("Your palette must contain at least one color"));
 }
 
+TEST_F(PaletteFilesTest, AFileOfMoreFlossesThanASquareCanTellApartIsRefused) {
+    Palette palette = Palette::Empty(context);
+    while (palette.GetEntriesCount() < 255) {
+        palette.AddPaletteEntry(0xFF, "666", "red", "DMC", "R", 2, 1, 0, 0, 0, "DMC");
+    }
+    ASSERT_EQ(palette.GetEntriesCount(), 255);
+    ASSERT_EQ(palette.SaveToDisk(folder / "work" / "many.fls"), 0);
+    PaletteFiles files(PaletteDesk());
+    const int before = Flosses().GetEntriesCount();
+    user.files = {folder / "work" / "many.fls"};
+    EXPECT_FALSE(files.LoadPalette());
+    EXPECT_EQ(Flosses().GetEntriesCount(), before);
+    EXPECT_FALSE(undo.IsAvailable());
+    ASSERT_EQ(user.ToldTexts(), std::vector<std::string>{"Overflow"});
+    EXPECT_THAT(user.told[0].more, ::testing::HasSubstr("255 flosses"));
+
+    palette.RemovePaletteEntry(255);
+    ASSERT_EQ(palette.GetEntriesCount(), 254);
+    ASSERT_EQ(palette.SaveToDisk(folder / "work" / "many.fls"), 0);
+    user.files = {folder / "work" / "many.fls"};
+    EXPECT_TRUE(files.LoadPalette());
+    EXPECT_EQ(Flosses().GetEntriesCount(), 254);
+}
+
 TEST_F(PaletteFilesTest, TheOldestFormIsLoadedToo) {
     std::string record(37, '\0');
     record[0] = '\x10';
