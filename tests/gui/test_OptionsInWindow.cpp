@@ -178,6 +178,8 @@ void OptionsInWindowTest::ToolsFollow() {
     const auto* smart3 = program.Find<QToolButton>("STITCH_S3Q");
     const auto* smart1 = program.Find<QToolButton>("STITCH_SQ");
     QVERIFY(smart3->isVisible() && smart1->isVisible());
+    QTest::mouseClick(program.Find<QToolButton>("STITCH_S3Q"), Qt::LeftButton);
+    QVERIFY(smart3->isChecked());
     const bool flexible = program.Command("mnuOptionsFlexBackstitch").isChecked();
     InOptions(program, [](QDialog& dialog) {
         Click(dialog, "ChksUseSmart3QS");
@@ -185,6 +187,8 @@ void OptionsInWindowTest::ToolsFollow() {
     });
     QVERIFY(!smart3->isVisible());
     QVERIFY(smart1->isVisible());
+    QVERIFY(!smart3->isChecked());
+    QVERIFY(program.Find<QToolButton>("STITCH_WHOLE")->isChecked());
     QCOMPARE(program.Command("mnuOptionsFlexBackstitch").isChecked(), !flexible);
     InOptions(program, [](QDialog& dialog) { Click(dialog, "ChksUseSmartQS"); });
     QVERIFY(!smart1->isVisible());

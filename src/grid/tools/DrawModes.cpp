@@ -107,6 +107,14 @@ void DrawModes::SetStitchType(int type) {
     m_listener.StitchTypeChanged();
 }
 
+void DrawModes::OfferSmartStitches(bool threeQuarters, bool quarters) {
+    const int type = m_desk.With.CurrentStitchType;
+    if ((type == StitchS3Q && !threeQuarters) || (type == StitchSQ && !quarters)) {
+        m_desk.With.CurrentStitchType = StitchWhole;
+        m_listener.StitchTypeChanged();
+    }
+}
+
 void DrawModes::SetCurrentColor(int index) {
     const Palette& palette = m_desk.Design().GetPalette();
     if (index < 1 || index > palette.GetEntriesCount()) {

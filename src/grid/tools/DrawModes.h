@@ -52,6 +52,9 @@ public:
     /// Sets the draw mode to stitches first. An unknown type becomes 1, and so does type 13 while
     /// no custom stitch is selected.
     void SetStitchType(int type);
+    /// Which smart stitches are offered. One that no longer is gives way to the whole stitch; the
+    /// draw mode stays.
+    void OfferSmartStitches(bool threeQuarters, bool quarters);
     /// Does nothing for an index outside the palette.
     void SetCurrentColor(int index);
     /// The button "ERASE" while painting: the fill then takes stitches away. It comes up when

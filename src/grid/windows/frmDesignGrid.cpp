@@ -175,6 +175,7 @@ void frmDesignGrid::FollowOptions() {
     m_bars->Commands().setVisible(options.ToolbarVisible);
     m_bars->Stitches().setVisible(options.StitchToolbarVisible);
     m_bars->UseSmartStitches(options.UseSmart3QS != 0, options.UseSmartQS != 0);
+    m_modes->OfferSmartStitches(options.UseSmart3QS != 0, options.UseSmartQS != 0);
     m_status->setVisible(options.StatusbarVisible);
     m_area->SetRulers(options.RulersVisible, options.UsesInches());
     m_strip->SetRows(options.PaletteDisplayRows);

@@ -112,6 +112,24 @@ TEST_F(DrawModesTest, StitchTypesGoFromOneToFifteen) {
     }
 }
 
+TEST_F(DrawModesTest, ASmartStitchThatIsNotOfferedBecomesTheWholeStitch) {
+    modes.SetStitchType(StitchS3Q);
+    modes.SetDrawMode(DrawLines);
+    modes.OfferSmartStitches(true, false);
+    EXPECT_EQ(choice.CurrentStitchType, StitchS3Q);
+    EXPECT_EQ(listener.types, 1);
+    modes.OfferSmartStitches(false, true);
+    EXPECT_EQ(choice.CurrentStitchType, StitchWhole);
+    EXPECT_EQ(listener.types, 2) << "the buttons hear of it";
+    EXPECT_EQ(modes.GetDrawMode(), DrawLines);
+    modes.SetStitchType(StitchSQ);
+    modes.OfferSmartStitches(true, false);
+    EXPECT_EQ(choice.CurrentStitchType, StitchWhole);
+    modes.SetStitchType(StitchTBH);
+    modes.OfferSmartStitches(false, false);
+    EXPECT_EQ(choice.CurrentStitchType, StitchTBH);
+}
+
 TEST_F(DrawModesTest, CurrentColorShowsItsFloss) {
     modes.SetCurrentColor(3);
     EXPECT_EQ(choice.CurrentPaletteIndex, 3);
