@@ -114,7 +114,7 @@ SquareSpans::SquareSpans(const GridView& view, const Axis& axis, int first, int 
     const bool lines = view.Options.GridLines;
     const int normal = lines ? GetNormalGridLineWidth(view) : 0;
     const int bold = lines ? GetBoldGridLineWidth(view) : 0;
-    const auto count = static_cast<std::size_t>(last - first + 2);
+    const auto count = static_cast<std::size_t>(last - first) + 2;
     m_edges.reserve(count);
     m_insets.reserve(count);
     m_bold.reserve(count);
