@@ -50,6 +50,7 @@ private:
 
     std::unique_ptr<ProgramHome> m_home;
     std::unique_ptr<DrawnProgram> m_program;
+    ProgramContext m_twinContext; ///< the twin outlives a run of the program
     std::unique_ptr<Pattern> m_twin;
     std::string m_instructions;
 };
@@ -58,7 +59,7 @@ void EditingSessionTest::init() {
     m_home = std::make_unique<ProgramHome>();
     m_program = std::make_unique<DrawnProgram>(*m_home);
     QVERIFY(m_program->Open());
-    m_twin = std::make_unique<Pattern>(m_program->Parts().Context);
+    m_twin = std::make_unique<Pattern>(m_twinContext);
 }
 
 void EditingSessionTest::cleanup() {
