@@ -62,6 +62,7 @@ public:
 private:
     [[noreturn]] static void Execute(std::vector<std::string> words, int output) {
         std::vector<char*> argv;
+        argv.reserve(words.size() + 1);
         for (std::string& word : words) {
             argv.push_back(word.data());
         }

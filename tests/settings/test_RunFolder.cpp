@@ -31,6 +31,7 @@ unsigned ModeOf(const fs::path& path) {
 
 std::vector<fs::path> Folders(const std::vector<DeadRun>& runs) {
     std::vector<fs::path> folders;
+    folders.reserve(runs.size());
     for (const DeadRun& run : runs) {
         folders.push_back(run.Path());
     }
@@ -39,7 +40,7 @@ std::vector<fs::path> Folders(const std::vector<DeadRun>& runs) {
 
 /// A folder as a killed run leaves it.
 fs::path LeaveDeadRun(const fs::path& base, const std::string& name, int minutesAgo) {
-    const fs::path folder = base / ("run-" + name);
+    fs::path folder = base / ("run-" + name);
     fs::create_directories(folder);
     test::WriteFile(folder / "lock", "");
     test::WriteFile(folder / kept, name);

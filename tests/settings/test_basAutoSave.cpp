@@ -68,7 +68,7 @@ protected:
     }
     /// A recovery file that a killed run has left.
     fs::path Leave(const std::string& name, const std::string& bytes, int minutesAgo = 1) {
-        const fs::path file = base / ("run-" + name) / basAutoSave::FileName;
+        fs::path file = base / ("run-" + name) / basAutoSave::FileName;
         fs::create_directory(file.parent_path());
         test::WriteFile(file, bytes);
         fs::last_write_time(file,
