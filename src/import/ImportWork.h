@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include "import/ImportSession.h"
+#include "import/ImportSize.h"
+#include "import/Picture.h"
+#include "model/ZOLTypes.h"
+
+namespace zol {
+
+/// A picture that several screens show and none of them changes: who changes one makes a new one.
+using SharedPicture = std::shared_ptr<const Picture>;
+
+/// What the screens of one import hand on to each other. Lives as long as the wizard, so that an
+/// import that was left goes on where it stood.
+struct ImportWork {
+    explicit ImportWork(ProgramContext& context) : Session(context) {}
+
+    /// The one picture that travels from screen to screen (`lpicTheImage`); null until the first
+    /// screen was left.
+    SharedPicture TheImage;
+    /// Of the size screen: cloth, units, and whether the picture goes into the edit box.
+    ImportSize Size;
+    bool UseEditBox = false;
+    /// The edit box of the design when the wizard was opened, in squares from 1; nothing without.
+    std::optional<SquareRect> EditBox;
+    /// Candidates, preview, result.
+    ImportSession Session;
+};
+
+} // namespace zol
