@@ -29,6 +29,8 @@ struct ImportWork {
     bool UseEditBox = false;
     /// The edit box of the design when the wizard was opened, in squares from 1; nothing without.
     std::optional<SquareRect> EditBox;
+    /// Of the mapping screen, once it has been left forward.
+    int MaxColors = 30;
     /// Candidates, preview, result.
     ImportSession Session;
 };
