@@ -7,10 +7,10 @@
 
 #include <filesystem>
 #include <optional>
-#include <string>
 
 #include "model/Doors.h"
 #include "model/Pattern.h"
+#include "print/PdfJob.h"
 #include "print/PrintOptions.h"
 
 namespace zol {
@@ -25,17 +25,9 @@ struct ChartPdfOptions {
     std::optional<int> ToPage;
 };
 
-struct ChartPdfResult {
-    int Pages = 0;         ///< written
-    std::string ErrorText; ///< empty if the file is whole
-    bool Cancelled = false;
+using ChartPdfResult = PdfResult;
 
-    [[nodiscard]] bool IsWhole() const { return ErrorText.empty() && !Cancelled; }
-};
-
-/// Writes the chart, and the colour key if it is wanted, as a PDF. The file appears whole or not
-/// at all, and an old one stays as it was until then; a device is written to directly. Needs a
-/// QGuiApplication.
+/// Writes the chart, and the colour key if it is wanted, as a PDF, as WritePdf does.
 [[nodiscard]] ChartPdfResult WriteChartPdf(Pattern& pattern, const ChartPdfOptions& options,
                                            const std::filesystem::path& path,
                                            ProgressDoor* progress);

@@ -48,6 +48,11 @@ bool PrintFuncs::InitPrinter() {
     return m_printerPresent;
 }
 
+void PrintFuncs::SetPrinter(PageDevice* printer) {
+    m_printer = printer;
+    InitPrinter();
+}
+
 void PrintFuncs::SetPattern(Pattern& pattern) {
     m_pattern = &pattern;
     m_numberOffset = {};

@@ -54,6 +54,9 @@ public:
     [[nodiscard]] const PrintOptions& Options() const { return m_options; }
     void SetOptions(PrintOptions options) { m_options = std::move(options); }
     [[nodiscard]] PageDevice* Printer() const { return m_printer; }
+    /// Takes the paper's measures from another device; may be null, and must outlive this. Pages
+    /// are to be counted again if its paper has another size.
+    void SetPrinter(PageDevice* printer);
 
     /// The pattern to print, which must outlive this or be replaced.
     void SetPattern(Pattern& pattern);
