@@ -1,0 +1,135 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#include "import/windows/frmImportWizard.h"
+
+#include <utility>
+
+#include "import/windows/ImportProgressPanel.h"
+#include "import/windows/WizardScreen.h"
+#include "import/windows/ui_frmImportWizard.h"
+#include "model/Pattern.h"
+#include "windowkit/BusyScope.h"
+#include "windowkit/DialogSize.h"
+
+namespace zol {
+
+namespace {
+
+constexpr const char* Title = "Import Wizard";
+
+/// The wizard lies over the main window, so progress has to show in it.
+class ProgressHere {
+public:
+    ProgressHere(ProgramContext& context, ProgressDoor* door)
+        : m_context(context),
+          m_saved(std::exchange(context.Progress, door)) {}
+    ~ProgressHere() { m_context.Progress = m_saved; }
+    ProgressHere(const ProgressHere&) = delete;
+    ProgressHere& operator=(const ProgressHere&) = delete;
+
+private:
+    ProgramContext& m_context;
+    ProgressDoor* m_saved;
+};
+
+} // namespace
+
+frmImportWizard::frmImportWizard(const Outside& outside, std::optional<SquareRect> editBox,
+                                 QWidget* parent)
+    : QDialog(parent),
+      m_outside(outside),
+      m_work(outside.Context),
+      m_desk{m_work,           outside.Context,  outside.Design, outside.Store,
+             outside.Settings, outside.Messages, outside.Files},
+      m_ui(std::make_unique<Ui::frmImportWizard>()) {
+    m_ui->setupUi(this);
+    m_progress = new ImportProgressPanel(this);
+    SetupVariables(editBox);
+    AddScreens();
+    connect(m_ui->cmdNext, &QPushButton::clicked, this, &frmImportWizard::GoOn);
+    connect(m_ui->cmdBack, &QPushButton::clicked, this, &frmImportWizard::GoBack);
+    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &frmImportWizard::reject);
+    DisplayScreen(m_flow.CurrentScreen(), false);
+    RememberSize(*this, m_desk.Store);
+}
+
+frmImportWizard::~frmImportWizard() = default;
+
+void frmImportWizard::SetupVariables(std::optional<SquareRect> editBox) {
+    m_work.EditBox = editBox;
+    m_work.Size.UseUnits = true;
+    m_work.Size.ClothCountX = m_desk.Design.GetPatternClothCountX();
+    m_work.Size.ClothCountY = m_desk.Design.GetPatternClothCountY();
+    m_work.Size.CmPerUnit = m_desk.Settings.UsesInches() ? CmPerUnitInches : CmPerUnitCentimetres;
+}
+
+void frmImportWizard::AddScreens() {
+    for (WizardScreen* screen : m_screens) {
+        m_ui->fraWiz->addWidget(screen);
+        connect(screen, &WizardScreen::BusyChanged, this, &frmImportWizard::HoldButtons);
+    }
+}
+
+void frmImportWizard::DisplayScreen(int screen, bool keepPicture) {
+    WizardScreen& shown = *m_screens[static_cast<std::size_t>(screen)];
+    m_ui->lblInstruction->setText(shown.Instruction());
+    m_ui->cmdBack->setEnabled(m_flow.CanGoBack());
+    const bool last = m_flow.IsOnLastScreen();
+    m_ui->cmdNext->setText(last ? QStringLiteral("&Finish") : QStringLiteral("&Next"));
+    m_ui->lblReplaces->setText(last && !m_work.UseEditBox
+                                   ? QStringLiteral("Finish replaces the whole design; Undo "
+                                                    "brings it back.")
+                                   : QString());
+    m_ui->fraWiz->setCurrentWidget(&shown);
+    shown.DisplayScreen(keepPicture);
+}
+
+void frmImportWizard::DisplayNextScreen() {
+    if (m_flow.IsOnLastScreen()) {
+        Finish();
+    } else if (const auto change = m_flow.Next(true)) {
+        DisplayScreen(change->Screen, change->KeepPicture);
+    }
+}
+
+void frmImportWizard::DisplayLastScreen() {}
+
+bool frmImportWizard::ValidateScreen() {
+    return m_screens[static_cast<std::size_t>(m_flow.CurrentScreen())]->ValidateScreen();
+}
+
+void frmImportWizard::GoOn() {
+    if (ValidateScreen()) {
+        DisplayNextScreen();
+    }
+}
+
+void frmImportWizard::GoBack() {
+    if (const auto change = m_flow.Back(ValidateScreen())) {
+        DisplayScreen(change->Screen, change->KeepPicture);
+    }
+}
+
+void frmImportWizard::Finish() {
+    const ProgressHere here(m_desk.Context, m_progress);
+    const ImportStatus status = m_outside.CreateThePattern(m_work);
+    switch (status.Result) {
+    case ImportStatus::Outcome::Done:
+        accept();
+        break;
+    case ImportStatus::Outcome::Cancelled:
+        break;
+    case ImportStatus::Outcome::Invalid:
+    case ImportStatus::Outcome::Failed:
+        m_desk.Messages.Tell(status.Message, MessageIcon::Exclamation, Title);
+        break;
+    }
+}
+
+void frmImportWizard::HoldButtons(bool busy) {
+    m_ui->cmdNext->setEnabled(!busy);
+    m_ui->cmdBack->setEnabled(!busy && m_flow.CanGoBack());
+}
+
+} // namespace zol

@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QDialog>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "import/ImportFlow.h"
+#include "import/ImportStatus.h"
+#include "import/windows/ImportDesk.h"
+
+namespace Ui {
+class frmImportWizard;
+}
+
+namespace zol {
+
+class ImportProgressPanel;
+class WizardScreen;
+
+/// Leads from a picture to a design, screen by screen. Modal; it hides instead of going, so that
+/// an import can be resumed where it was left. What it changes is the caller's: the design is
+/// written by `CreateThePattern`.
+class frmImportWizard : public QDialog {
+    Q_OBJECT
+
+public:
+    /// What the wizard works with; all of it outlives it.
+    struct Outside {
+        ProgramContext& Context;
+        const Pattern& Design;
+        SettingsDoor& Store;
+        const Options& Settings;
+        MessageDoor& Messages;
+        FileDoor& Files;
+        /// Writes the import into the design, as one step that can be undone.
+        std::function<ImportStatus(ImportWork& work)> CreateThePattern;
+    };
+
+    /// `editBox` in squares of the design from 1; nothing without one.
+    frmImportWizard(const Outside& outside, std::optional<SquareRect> editBox,
+                    QWidget* parent = nullptr);
+    ~frmImportWizard() override;
+
+    /// From 0.
+    [[nodiscard]] int CurrentScreen() const { return m_flow.CurrentScreen(); }
+
+private:
+    void SetupVariables(std::optional<SquareRect> editBox);
+    void AddScreens();
+    void DisplayScreen(int screen, bool keepPicture);
+    void DisplayNextScreen();
+    void DisplayLastScreen();
+    [[nodiscard]] bool ValidateScreen();
+    void GoOn();
+    void GoBack();
+    void Finish();
+    void HoldButtons(bool busy);
+
+    Outside m_outside;
+    ImportWork m_work;
+    ImportDesk m_desk;
+    ImportFlow m_flow;
+    std::unique_ptr<Ui::frmImportWizard> m_ui;
+    ImportProgressPanel* m_progress = nullptr;
+    std::vector<WizardScreen*> m_screens;
+};
+
+} // namespace zol
