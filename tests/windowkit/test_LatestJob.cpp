@@ -14,25 +14,11 @@
 #include <vector>
 
 #include "model/Doors.h"
+#include "support/Gate.h"
 #include "windowkit/LatestJob.h"
 
 using namespace zol;
-
-namespace {
-
-/// Work that stands still until the test lets it go on, and tells the test that it has begun.
-struct Gate {
-    QSemaphore Begun;
-    QSemaphore Open;
-
-    int PassWith(int value) {
-        Begun.release();
-        Open.acquire();
-        return value;
-    }
-};
-
-} // namespace
+using test::Gate;
 
 class TestLatestJob : public QObject {
     Q_OBJECT

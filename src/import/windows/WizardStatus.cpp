@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#include "import/windows/WizardStatus.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QShortcut>
+
+#include <algorithm>
+#include <chrono>
+
+#include "import/windows/ui_WizardStatus.h"
+#include "windowkit/LatestJob.h"
+#include "windowkit/Theme.h"
+
+namespace zol {
+
+namespace {
+
+/// What is done sooner than this needs no strip, which would only flicker.
+constexpr std::chrono::milliseconds FeltFrom{120};
+constexpr int WidthInCharacters = 48;
+constexpr int Margin = 12;
+
+} // namespace
+
+WizardStatus::WizardStatus(QWidget* over)
+    : QFrame(over),
+      m_ui(std::make_unique<Ui::WizardStatus>()),
+      m_over(over) {
+    m_ui->setupUi(this);
+    setObjectName(QStringLiteral("picStatus"));
+    hide();
+    m_delay.setSingleShot(true);
+    connect(&m_delay, &QTimer::timeout, this, &WizardStatus::Appear);
+    connect(m_ui->cmdCancelStatus, &QPushButton::clicked, this, &WizardStatus::CancelWork);
+    // A shortcut is looked at before the window, which would close on Escape.
+    auto* escape = new QShortcut(Qt::Key_Escape, this);
+    connect(escape, &QShortcut::activated, this, &WizardStatus::CancelWork);
+    m_over->installEventFilter(this);
+}
+
+WizardStatus::~WizardStatus() = default;
+
+void WizardStatus::Follow(LatestJob& job, const QString& text) {
+    connect(&job, &LatestJob::Began, this, [this, &job, text] { Await(job, text); });
+    connect(&job, &LatestJob::StatusStarted, this,
+            [this](const QString& what, int maximum) { SetStatus(what, maximum); });
+    connect(&job, &LatestJob::StatusUpdated, this, &WizardStatus::UpdateStatus);
+    connect(&job, &LatestJob::Ended, this, &WizardStatus::StopStatus);
+}
+
+void WizardStatus::Await(LatestJob& job, const QString& text) {
+    m_job = &job;
+    // In place of an older job the strip stays as it is: a slider that is dragged starts many.
+    if (!isVisible() && !m_delay.isActive()) {
+        SetStatus(text, 0);
+        m_delay.start(FeltFrom);
+    }
+}
+
+void WizardStatus::StartStatus(const QString& text, int maximum) {
+    SetStatus(text, maximum);
+    Appear();
+}
+
+void WizardStatus::SetStatus(const QString& text, int maximum) {
+    m_ui->lblStatus->setText(text);
+    m_ui->pbStatus->setRange(0, maximum);
+    m_ui->pbStatus->setValue(0);
+}
+
+void WizardStatus::UpdateStatus(int value) {
+    m_ui->pbStatus->setValue(value);
+}
+
+void WizardStatus::StopStatus() {
+    m_delay.stop();
+    m_job.clear();
+    hide();
+}
+
+void WizardStatus::CancelWork() {
+    if (m_job != nullptr) {
+        m_job->Cancel();
+    }
+    Q_EMIT CancelClicked();
+}
+
+void WizardStatus::Appear() {
+    Centre();
+    raise();
+    show();
+}
+
+void WizardStatus::Centre() {
+    const int wished = fontMetrics().averageCharWidth() * WidthInCharacters;
+    const int room = m_over->width() - 2 * Margin;
+    const QSize size(std::max(minimumSizeHint().width(), std::min(wished, room)),
+                     sizeHint().height());
+    const QSize free = m_over->size() - size;
+    setGeometry(QRect(QPoint(free.width() / 2, free.height() / 2), size));
+}
+
+bool WizardStatus::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_over && event->type() == QEvent::Resize && isVisible()) {
+        Centre();
+    }
+    return QFrame::eventFilter(watched, event);
+}
+
+void WizardStatus::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().window());
+    painter.setPen(Theme::Edge(palette()));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+} // namespace zol
