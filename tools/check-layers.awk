@@ -86,6 +86,7 @@ function check_library(header,    library) {
     library = qt_module(header)
     if (library == "" && header ~ /^vips\//) library = "libvips"
     if (library == "" && header ~ /^sane\//) library = "SANE"
+    if (library == "" && header ~ /^cups\//) library = "CUPS"
     if (library == "" && header ~ /^(glib|gobject|gio)/) library = "libvips"
     if (library != "" && index("," libraries[here] ",", "," library ",") == 0)
         fail(here " may not include <" header "> (" library ")")

@@ -62,7 +62,7 @@ void Program::CreatePattern() {
 }
 
 Workshop Program::GetWorkshop() {
-    return {m_context, m_store, m_options, m_doors.Messages, m_doors.Files,
+    return {m_context, m_store, m_options, m_doors.Messages, m_doors.Files, m_doors.Printers,
             m_pattern, m_open,  m_steps,   m_recentFiles,    m_autoSave};
 }
 

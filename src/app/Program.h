@@ -17,6 +17,7 @@ namespace zol {
 struct UserDoors {
     MessageDoor& Messages;
     FileDoor& Files;
+    PrinterDoor& Printers;
     basAutoSave::Clock Clock = &std::chrono::steady_clock::now; ///< what auto-save goes by
 };
 

@@ -10,6 +10,7 @@
 #include "app/Arguments.h"
 #include "app/basMain.h"
 #include "grid/windows/frmDesignGrid.h"
+#include "print/windows/SystemPrinter.h"
 #include "windowkit/IconFamily.h"
 #include "windowkit/QtUserDoor.h"
 #include "windowkit/Theme.h"
@@ -47,7 +48,8 @@ int Run(int argc, char** argv) {
     QApplication::setWindowIcon(zol::IconFamily::ProgramIcon());
     zol::Theme::Apply(app);
     zol::QtUserDoor user;
-    zol::basMain program(arguments, {user, user});
+    zol::SystemPrinter printers;
+    zol::basMain program(arguments, {user, user, printers});
     if (!program.Start()) {
         return program.ExitCode();
     }

@@ -5,16 +5,14 @@
 
 #include <algorithm>
 
-#include <QPageLayout>
-
 #include "model/Rounding.h"
 
 namespace zol {
 
 namespace {
 
-int TwipsOfPoints(double points) {
-    return RoundToInt(points * 20);
+QSize TwipsOfPoints(const QRectF& rect) {
+    return {RoundToInt(rect.width() * 20), RoundToInt(rect.height() * 20)};
 }
 
 double WiderMargin(int border) {
@@ -23,6 +21,14 @@ double WiderMargin(int border) {
 }
 
 } // namespace
+
+QSize PaperTwips(const QPageLayout& layout) {
+    return TwipsOfPoints(layout.fullRect(QPageLayout::Point));
+}
+
+QSize PrintableTwips(const QPageLayout& layout) {
+    return TwipsOfPoints(layout.paintRect(QPageLayout::Point));
+}
 
 PagedPageDevice::PagedPageDevice(QPagedPaintDevice& device) : m_device(&device) {}
 
@@ -33,19 +39,19 @@ PagedPageDevice::~PagedPageDevice() {
 }
 
 int PagedPageDevice::Width() const {
-    return TwipsOfPoints(m_device->pageLayout().fullRect(QPageLayout::Point).width());
+    return PaperTwips(m_device->pageLayout()).width();
 }
 
 int PagedPageDevice::Height() const {
-    return TwipsOfPoints(m_device->pageLayout().fullRect(QPageLayout::Point).height());
+    return PaperTwips(m_device->pageLayout()).height();
 }
 
 int PagedPageDevice::ScaleWidth() const {
-    return TwipsOfPoints(m_device->pageLayout().paintRect(QPageLayout::Point).width());
+    return PrintableTwips(m_device->pageLayout()).width();
 }
 
 int PagedPageDevice::ScaleHeight() const {
-    return TwipsOfPoints(m_device->pageLayout().paintRect(QPageLayout::Point).height());
+    return PrintableTwips(m_device->pageLayout()).height();
 }
 
 double PagedPageDevice::TwipsPerPixelX() const {

@@ -4,8 +4,10 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include <QImage>
+#include <QPageLayout>
 #include <QPagedPaintDevice>
 #include <QPainter>
 
@@ -41,6 +43,8 @@ public:
     virtual bool EndDoc() = 0;
     /// Ends the document and throws it away as far as the device can.
     virtual void KillDoc() = 0;
+    /// Why a document could not be opened or ended, where the device knows more than that.
+    [[nodiscard]] virtual std::string ErrorText() const { return {}; }
 
     [[nodiscard]] static int TextWidth(const PageFont& font, const QString& text) {
         return font.TextWidth(text);
@@ -54,6 +58,10 @@ public:
     [[nodiscard]] int OffsetX() const { return IsPrinter() ? BorderX() : 0; }
     [[nodiscard]] int OffsetY() const { return IsPrinter() ? BorderY() : 0; }
 };
+
+/// Size of a layout's paper, and of what its margins leave of it, in twips.
+[[nodiscard]] QSize PaperTwips(const QPageLayout& layout);
+[[nodiscard]] QSize PrintableTwips(const QPageLayout& layout);
 
 /// Pages of a QPdfWriter, or of any other paged device. The device must outlive this.
 class PagedPageDevice : public PageDevice {

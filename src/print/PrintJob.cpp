@@ -66,7 +66,8 @@ void PrintJob::PaintPage() {
     const bool opened = m_firstPage || m_target->NewPage();
     m_firstPage = false;
     if (!opened || !m_functions->PrintPatternPage(*m_target, m_progress, true, true)) {
-        throw RunTimeError(ErrDeviceIO);
+        m_errorText = DeviceError();
+        m_state = State::Failed;
     }
 }
 
@@ -75,10 +76,15 @@ PrintJob::State PrintJob::End(State state) {
     if (state != State::Done) {
         m_target->KillDoc();
     } else if (!m_target->EndDoc()) {
-        m_errorText = RunTimeErrorText(ErrDeviceIO);
+        m_errorText = DeviceError();
         m_state = State::Failed;
     }
     return m_state;
+}
+
+std::string PrintJob::DeviceError() const {
+    const std::string text = m_target->ErrorText();
+    return text.empty() ? RunTimeErrorText(ErrDeviceIO) : text;
 }
 
 } // namespace zol

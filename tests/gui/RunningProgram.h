@@ -22,6 +22,7 @@
 #include "grid/windows/GridCanvas.h"
 #include "grid/windows/frmDesignGrid.h"
 #include "support/DialogHands.h"
+#include "support/ScriptedPrinter.h"
 #include "support/ScriptedUser.h"
 #include "support/TestPaths.h"
 
@@ -85,7 +86,7 @@ public:
         : RunningProgram(home.CalledWith(commandLine)) {}
     explicit RunningProgram(const Arguments& arguments,
                             const basAutoSave::Clock& clock = &std::chrono::steady_clock::now)
-        : m_main(std::make_unique<basMain>(arguments, UserDoors{User, User, clock})) {}
+        : m_main(std::make_unique<basMain>(arguments, UserDoors{User, User, Printers, clock})) {}
 
     /// Shown at a size that tests can rely on.
     [[nodiscard]] bool Start() {
@@ -141,6 +142,7 @@ public:
     }
 
     ScriptedUser User;
+    ScriptedPrinter Printers;
 
 private:
     std::unique_ptr<basMain> m_main;

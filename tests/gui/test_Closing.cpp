@@ -30,6 +30,9 @@ private Q_SLOTS:
     void PlaceOutsideEveryScreenComesBack();
     void UnwritableSettingsAreToldOnce();
     void RealMessageBoxAsks();
+
+private:
+    ScriptedPrinter m_printers;
 };
 
 void ClosingTest::UnchangedClosesWithoutAQuestion() {
@@ -160,7 +163,7 @@ void ClosingTest::MaximizedComesBackMaximized() {
         program.End();
     }
     ScriptedUser nobody;
-    basMain second(home.CalledWith(), UserDoors{nobody, nobody});
+    basMain second(home.CalledWith(), UserDoors{nobody, nobody, m_printers});
     QVERIFY(second.Start());
     QTRY_VERIFY(second.MainWindow().isMaximized());
     second.End();
@@ -171,7 +174,7 @@ void ClosingTest::PlaceOutsideEveryScreenComesBack() {
     WriteText(home / "settings.ini", "[Options]\nFormLeft=-30000\nFormTop=9000\n"
                                      "FormWidth=900\nFormHeight=700\nWinState=1\n");
     ScriptedUser nobody;
-    basMain program(home.CalledWith(), UserDoors{nobody, nobody});
+    basMain program(home.CalledWith(), UserDoors{nobody, nobody, m_printers});
     QVERIFY(program.Start());
     QVERIFY(!program.MainWindow().isMinimized());
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
@@ -185,7 +188,7 @@ void ClosingTest::UnwritableSettingsAreToldOnce() {
     ScriptedUser user;
     Arguments arguments = home.CalledWith();
     arguments.Settings = home / "file" / "settings.ini";
-    basMain program(arguments, UserDoors{user, user});
+    basMain program(arguments, UserDoors{user, user, m_printers});
     QVERIFY(program.Start());
     QVERIFY(program.MainWindow().isVisible());
     QVERIFY(user.told.empty());
@@ -198,7 +201,7 @@ void ClosingTest::UnwritableSettingsAreToldOnce() {
 void ClosingTest::RealMessageBoxAsks() {
     const ProgramHome home;
     QtUserDoor door;
-    basMain program(home.CalledWith(), UserDoors{door, door});
+    basMain program(home.CalledWith(), UserDoors{door, door, m_printers});
     QVERIFY(program.Start());
     door.SetParent(&program.MainWindow());
     program.MainWindow().Modes().SetDrawMode(DrawStitches);

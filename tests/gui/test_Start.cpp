@@ -29,6 +29,7 @@ private Q_SLOTS:
 
 private:
     ScriptedUser m_nobody;
+    ScriptedPrinter m_printers;
 };
 
 void StartTest::StartsWithTheStartPattern() {
@@ -109,7 +110,7 @@ void StartTest::RemembersItsPlace() {
         QVERIFY(program.Window().close());
         program.End();
     }
-    basMain second(home.CalledWith(), UserDoors{m_nobody, m_nobody});
+    basMain second(home.CalledWith(), UserDoors{m_nobody, m_nobody, m_printers});
     QVERIFY(second.Start());
     QTRY_COMPARE(second.MainWindow().geometry(), QRect(40, 60, 900, 620));
     second.End();

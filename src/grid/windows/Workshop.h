@@ -7,6 +7,7 @@
 #include "model/Doors.h"
 #include "model/OpenDesign.h"
 #include "model/ProgramContext.h"
+#include "print/windows/PrinterDoor.h"
 #include "settings/MRUFuncs.h"
 #include "settings/Options.h"
 #include "settings/RunFolder.h"
@@ -21,6 +22,7 @@ struct Workshop {
     Options& Settings;
     MessageDoor& Messages;
     FileDoor& Files;
+    PrinterDoor& Printers;
     Pattern& CurrentPattern; ///< lives for the whole run; loads refill it
     DesignHolder& Open;
     Undo& Steps;
