@@ -32,6 +32,7 @@ struct FlossUsageRow {
     std::string Skeins;
 
     static constexpr std::size_t ColumnCount = 5;
+    static constexpr std::size_t FirstNumericColumn = 2; ///< from there on all are numbers
     [[nodiscard]] const std::string& Text(std::size_t column) const;
 };
 
@@ -44,5 +45,8 @@ struct FlossUsageRow {
 /// Prints the report with its own paging and ends the document. False if the device cannot be
 /// painted on.
 bool PrintFlossUsage(Pattern& pattern, const PrintOptions& options, PageDevice& device);
+/// The same of rows that are there, in their order.
+bool PrintFlossUsage(const Pattern& pattern, const std::vector<FlossUsageRow>& rows,
+                     const PrintOptions& options, PageDevice& device);
 
 } // namespace zol

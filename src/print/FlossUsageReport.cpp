@@ -12,7 +12,6 @@ namespace zol {
 namespace {
 
 constexpr std::size_t Columns = FlossUsageRow::ColumnCount;
-constexpr std::size_t FirstNumericColumn = 2;
 
 /// Prints the report row by row and starts pages as they fill.
 class UsageReport {
@@ -108,8 +107,9 @@ private:
     void PrintData(const FlossUsageRow& row) {
         for (std::size_t column = 0; column < Columns; ++column) {
             const QString text = QString::fromStdString(row.Text(column));
-            const double x = column < FirstNumericColumn ? m_starts[column]
-                                                         : m_ends[column] - m_font.TextWidth(text);
+            const double x = column < FlossUsageRow::FirstNumericColumn
+                                 ? m_starts[column]
+                                 : m_ends[column] - m_font.TextWidth(text);
             m_canvas.Text(x, m_currentY, text, m_font);
         }
         m_currentY += m_font.TextHeight();
@@ -130,7 +130,11 @@ private:
 } // namespace
 
 bool PrintFlossUsage(Pattern& pattern, const PrintOptions& options, PageDevice& device) {
-    const std::vector<FlossUsageRow> rows = GetFlossUsages(pattern, options.InInches());
+    return PrintFlossUsage(pattern, GetFlossUsages(pattern, options.InInches()), options, device);
+}
+
+bool PrintFlossUsage(const Pattern& pattern, const std::vector<FlossUsageRow>& rows,
+                     const PrintOptions& options, PageDevice& device) {
     return UsageReport(pattern, options, device).Print(rows);
 }
 

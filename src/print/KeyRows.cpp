@@ -18,27 +18,44 @@ QString Q(const std::string& utf8) {
 
 } // namespace
 
-KeyRows::KeyRows(const Pattern& pattern, const PrintOptions& options)
-    : m_pattern(&pattern),
-      m_options(options) {
-    LoadCatalogues();
+MainCatalogue MainCatalogue::Of(const ProgramContext& context) {
+    MainCatalogue main;
+    if (context.CurrentCatalogue != nullptr && !context.CurrentCatalogue->GetShortDesc().empty()) {
+        main.Short = context.CurrentCatalogue->GetShortDesc();
+        main.Desc = main.Short;
+    }
+    if (context.CurrentCatalogue != nullptr && !context.CurrentCatalogue->GetManuDesc().empty()) {
+        main.Desc = context.CurrentCatalogue->GetManuDesc();
+    }
+    return main;
 }
 
-void KeyRows::LoadCatalogues() {
-    const ProgramContext& context = m_pattern->Context();
-    if (context.CurrentCatalogue != nullptr) {
-        m_mainShort = context.CurrentCatalogue->GetShortDesc();
-        m_mainDesc = context.CurrentCatalogue->GetManuDesc();
+bool MainCatalogue::Holds(const Palette& palette, int entry) const {
+    return !palette.IsBlended(entry) && palette.GetManufShortDesc(entry) == Short;
+}
+
+QString FlossCodeOf(const Palette& palette, int entry, const MainCatalogue& main) {
+    const QString code = Q(palette.GetManufID(entry));
+    if (palette.IsBlended(entry)) {
+        return code + QStringLiteral("/") + Q(palette.GetBlendManufID(entry));
     }
-    if (m_mainShort.empty()) {
-        m_mainShort = "DMC"; // what a catalogue that was never loaded stands for
-    }
-    if (m_mainDesc.empty()) {
-        m_mainDesc = m_mainShort;
-    }
+    return main.Holds(palette, entry)
+               ? code
+               : Q(palette.GetManufShortDesc(entry)) + QStringLiteral(" ") + code;
+}
+
+KeyRows::KeyRows(const Pattern& pattern, const PrintOptions& options)
+    : m_pattern(&pattern),
+      m_options(options),
+      m_main(MainCatalogue::Of(pattern.Context())) {
+    LoadOtherManus();
+}
+
+void KeyRows::LoadOtherManus() {
     if (!m_pattern->AllowFlossMapping()) {
         return;
     }
+    const ProgramContext& context = m_pattern->Context();
     for (const std::string& name : SplitMapFlosses(m_options.MapFlosses)) {
         auto catalogue = std::make_unique<AvailColors>(context);
         if (catalogue->Initialize(name)) {
@@ -66,10 +83,7 @@ bool KeyRows::IsInSection(int entry, const KeySection& section) const {
     if (m_pattern->GetColorCount(section.IsBackstitch ? 1 : 0, entry) == 0) {
         return false;
     }
-    const Palette& palette = m_pattern->GetPalette();
-    const bool isMain =
-        !palette.IsBlended(entry) && palette.GetManufShortDesc(entry) == m_mainShort;
-    return isMain != section.IsOther;
+    return m_main.Holds(m_pattern->GetPalette(), entry) != section.IsOther;
 }
 
 KeyRow KeyRows::BuildKeyRow(int entry, const KeySection& section) const {
@@ -78,19 +92,14 @@ KeyRow KeyRows::BuildKeyRow(int entry, const KeySection& section) const {
     row.Floss = palette.GetFlossRGB(entry);
     row.Symbol =
         section.IsBackstitch ? palette.GetDefaultBSType(entry) : palette.GetFlossSymbol(entry);
-    const QString code = Q(palette.GetManufID(entry));
+    row.Manus.append(FlossCodeOf(palette, entry, m_main));
     if (!section.IsOther) {
-        row.Manus.append(code);
         const std::int32_t masterID = palette.GetFlossMasterID(entry);
         for (const auto& catalogue : m_otherManus) {
             // An identity of 0 is none; it would find the first floss a user made.
             const int found = masterID == 0 ? -1 : catalogue->GetMapIndex(masterID);
             row.Manus.append(found > 0 ? Q(catalogue->GetFlossManuID(found)) : QStringLiteral(" "));
         }
-    } else if (palette.IsBlended(entry)) {
-        row.Manus.append(code + QStringLiteral("/") + Q(palette.GetBlendManufID(entry)));
-    } else {
-        row.Manus.append(Q(palette.GetManufShortDesc(entry)) + QStringLiteral(" ") + code);
     }
     if (m_options.PrintManuDesc) {
         row.Desc = Q(palette.GetFlossShortDesc(entry));
@@ -108,7 +117,7 @@ QString KeyRows::GetLegendTitle(bool isOther, bool isBackstitch) const {
     if (isOther) {
         title += QStringLiteral("Other Manufacturers");
     } else {
-        title += Q(m_mainDesc);
+        title += Q(m_main.Desc);
         if (m_options.PrintManuID) {
             for (const auto& catalogue : m_otherManus) {
                 title += QStringLiteral(" / ") + Q(catalogue->GetManuDesc());

@@ -31,6 +31,19 @@ struct KeySection {
     std::vector<KeyRow> Rows;
 };
 
+/// The catalogue whose flosses stand in the key by their numbers alone.
+struct MainCatalogue {
+    std::string Short = "DMC"; ///< what a catalogue that was never loaded stands for
+    std::string Desc = "DMC";
+
+    [[nodiscard]] static MainCatalogue Of(const ProgramContext& context);
+    [[nodiscard]] bool Holds(const Palette& palette, int entry) const;
+};
+
+/// What a floss is bought by: its number, behind its manufacturer where that is not the main
+/// catalogue's; both numbers of a blend.
+[[nodiscard]] QString FlossCodeOf(const Palette& palette, int entry, const MainCatalogue& main);
+
 /// Widths of a section's columns in twips.
 struct KeyColumns {
     std::vector<int> Manus;
@@ -55,12 +68,11 @@ private:
     [[nodiscard]] bool IsInSection(int entry, const KeySection& section) const;
     [[nodiscard]] KeyRow BuildKeyRow(int entry, const KeySection& section) const;
     [[nodiscard]] QString GetLegendTitle(bool isOther, bool isBackstitch) const;
-    void LoadCatalogues();
+    void LoadOtherManus();
 
     const Pattern* m_pattern;
     PrintOptions m_options;
-    std::string m_mainShort;
-    std::string m_mainDesc;
+    MainCatalogue m_main;
     std::vector<std::unique_ptr<AvailColors>> m_otherManus;
 };
 
