@@ -150,24 +150,25 @@ struct PictureFile::Decoder {
 
     /// Upright sRGB. Turning needs the rows in another order than they are read in, so only a
     /// picture that has to be turned is held whole.
-    [[nodiscard]] VImage Upright() const {
+    [[nodiscard]] VImage Upright(ProgressDoor* progress) const {
         VImage srgb = VipsStages::ToSrgb(image);
         if (vips_image_get_orientation(srgb.get_image()) == 1) {
             return srgb;
         }
+        const VipsStages::ProgressWatch watch(srgb, progress);
         return srgb.copy_memory().autorot();
     }
 
-    [[nodiscard]] Picture Load() {
+    [[nodiscard]] Picture Load(ProgressDoor* progress) {
         if (bmp) {
             Picture picture = BmpReader::ReadPixels(*reader, *bmp);
             ReduceDepth(picture);
             return picture;
         }
-        return VipsStages::ToPicture(VipsStages::ToPixels(Upright()));
+        return VipsStages::ToPicture(VipsStages::ToPixels(Upright(progress)), progress);
     }
 
-    [[nodiscard]] Picture LoadForImport(const ImportRequest& request) {
+    [[nodiscard]] Picture LoadForImport(const ImportRequest& request, ProgressDoor* progress) {
         const PixelRect whole{0, 0, width, height};
         PixelRect part = ClipToPicture(request.Crop.value_or(whole), width, height);
         if (part.Width < 1 || part.Height < 1) {
@@ -176,18 +177,20 @@ struct PictureFile::Decoder {
         // Rows come in order when a picture is made smaller, and only then.
         const bool smaller = request.Size.Width <= part.Width && request.Size.Height <= part.Height;
         if (!bmp && request.SmoothColors && smaller && !image.has_alpha()) {
-            const VImage srgb = Upright().crop(part.Left, part.Top, part.Width, part.Height);
+            const VImage srgb =
+                Upright(progress).crop(part.Left, part.Top, part.Width, part.Height);
             return VipsStages::ToPicture(
-                VipsStages::ResampleOpaque(srgb, request.Size.Width, request.Size.Height));
+                VipsStages::ResampleOpaque(srgb, request.Size.Width, request.Size.Height),
+                progress);
         }
-        Picture picture = Load();
+        Picture picture = Load(progress);
         if (part != whole) {
             picture = CropPicture(picture, part);
         }
         RemapWhite(picture);
-        ImagingResult resized =
-            ResampleBitmap(picture, request.Size.Width, request.Size.Height,
-                           request.SmoothColors ? ResampleFlag::Smooth : ResampleFlag::Nearest);
+        ImagingResult resized = ResampleBitmap(
+            picture, request.Size.Width, request.Size.Height,
+            request.SmoothColors ? ResampleFlag::Smooth : ResampleFlag::Nearest, progress);
         if (!resized.IsGood()) {
             throw RunTimeError(resized.Number, resized.Text);
         }
@@ -235,26 +238,28 @@ int PictureFile::ImageHeight() const {
     return m_decoder->height;
 }
 
-ImagingResult PictureFile::LoadImage() {
+ImagingResult PictureFile::LoadImage(ProgressDoor* progress) {
     if (!m_decoder->error.IsGood()) {
         return m_decoder->error;
     }
-    return Guarded([this] { return m_decoder->Load(); });
+    return Guarded([this, progress] { return m_decoder->Load(progress); });
 }
 
-ImagingResult PictureFile::LoadForImport(const ImportRequest& request) {
+ImagingResult PictureFile::LoadForImport(const ImportRequest& request, ProgressDoor* progress) {
     if (!m_decoder->error.IsGood()) {
         return m_decoder->error;
     }
-    return Guarded([this, &request] { return m_decoder->LoadForImport(request); });
+    return Guarded(
+        [this, &request, progress] { return m_decoder->LoadForImport(request, progress); });
 }
 
-ImagingResult LoadImage(const std::filesystem::path& path) {
-    return PictureFile(path).LoadImage();
+ImagingResult LoadImage(const std::filesystem::path& path, ProgressDoor* progress) {
+    return PictureFile(path).LoadImage(progress);
 }
 
-ImagingResult ResampleBitmap(const Picture& image, int width, int height, ResampleFlag flag) {
-    return Guarded([&image, width, height, flag] {
+ImagingResult ResampleBitmap(const Picture& image, int width, int height, ResampleFlag flag,
+                             ProgressDoor* progress) {
+    return Guarded([&image, width, height, flag, progress] {
         const int w = std::max(width, 1);
         const int h = std::max(height, 1);
         if (image.IsEmpty()) {
@@ -270,7 +275,7 @@ ImagingResult ResampleBitmap(const Picture& image, int width, int height, Resamp
         const auto& pixels = image.Pixels();
         const bool hasErased = std::find(pixels.begin(), pixels.end(), EraseColor) != pixels.end();
         return VipsStages::ToPicture(
-            VipsStages::ResamplePixels(VipsStages::FromPicture(image), hasErased, w, h));
+            VipsStages::ResamplePixels(VipsStages::FromPicture(image), hasErased, w, h), progress);
     });
 }
 

@@ -15,6 +15,8 @@
 
 namespace zol {
 
+class ProgressDoor;
+
 /// A picture, or why there is none: a run-time error number and one line of text.
 struct ImagingResult {
     Picture Image;
@@ -57,10 +59,12 @@ public:
 
     /// The whole picture, brought to 16 bits a pixel. Fully transparent pixels are
     /// TransparentPixel; partly transparent ones show over white.
-    [[nodiscard]] ImagingResult LoadImage();
+    /// The door may be null; when it stops the work there is no picture, but a failure.
+    [[nodiscard]] ImagingResult LoadImage(ProgressDoor* progress = nullptr);
     /// LoadImage, CropPicture, RemapWhite and ResampleBitmap in one: the same pixels, but a large
     /// picture that is made smaller is never held whole.
-    [[nodiscard]] ImagingResult LoadForImport(const ImportRequest& request);
+    [[nodiscard]] ImagingResult LoadForImport(const ImportRequest& request,
+                                              ProgressDoor* progress = nullptr);
 
 private:
     struct Decoder;
@@ -68,13 +72,14 @@ private:
 };
 
 /// Decodes a whole file.
-[[nodiscard]] ImagingResult LoadImage(const std::filesystem::path& path);
+[[nodiscard]] ImagingResult LoadImage(const std::filesystem::path& path,
+                                      ProgressDoor* progress = nullptr);
 
 /// Resizes a picture that RemapWhite has passed. Smooth mixes light, never makes a new pure
 /// white, and lets erased pixels stay out of the mixture; nearest takes source pixels as they
-/// are. A size below 1 becomes 1.
+/// are. A size below 1 becomes 1. Stopped by the door, it is a failure.
 [[nodiscard]] ImagingResult ResampleBitmap(const Picture& image, int width, int height,
-                                           ResampleFlag flag);
+                                           ResampleFlag flag, ProgressDoor* progress = nullptr);
 
 /// Saves as JPEG at 24 bits, whole or not at all. 0 or a run-time error number.
 [[nodiscard]] int SaveImage(const Picture& image, const std::filesystem::path& path);

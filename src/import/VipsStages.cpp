@@ -17,6 +17,7 @@
 
 #include "import/LightCurve.h"
 #include "import/PictureOps.h"
+#include "model/Doors.h"
 
 namespace zol::VipsStages {
 
@@ -230,6 +231,14 @@ int WriteStrip(VipsRegion* region, VipsRect* area, void* target) {
     return 0;
 }
 
+void TellProgress(VipsImage* image, VipsProgress* progress, ProgressDoor* door) {
+    if (door->MayGoOn()) {
+        door->UpdateStatus(progress->percent);
+    } else {
+        vips_image_set_kill(image, TRUE);
+    }
+}
+
 /// Keeps libvips from loading its modules while it starts. They are readers that are not wanted
 /// here (ImageMagick, PDF, slides), and loading them takes longer than decoding a photo.
 class NoModules {
@@ -377,7 +386,22 @@ VImage ResamplePixels(const VImage& pixels, bool hasErased, int width, int heigh
                     VIPS_FORMAT_UCHAR);
 }
 
-Picture ToPicture(const VImage& pixels) {
+ProgressWatch::ProgressWatch(const VImage& image, ProgressDoor* door) : m_image(image) {
+    if (door != nullptr) {
+        vips_image_set_progress(m_image.get_image(), TRUE);
+        m_handler = g_signal_connect(m_image.get_image(), "eval", G_CALLBACK(TellProgress), door);
+    }
+}
+
+ProgressWatch::~ProgressWatch() {
+    if (m_handler != 0) {
+        g_signal_handler_disconnect(m_image.get_image(), m_handler);
+        vips_image_set_progress(m_image.get_image(), FALSE);
+    }
+}
+
+Picture ToPicture(const VImage& pixels, ProgressDoor* progress) {
+    const ProgressWatch watch(pixels, progress);
     Picture picture(pixels.width(), pixels.height());
     if (vips_sink_disc(pixels.get_image(), WriteStrip, &picture) != 0) {
         throw vips::VError();

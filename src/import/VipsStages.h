@@ -13,6 +13,10 @@
 
 #include "import/Picture.h"
 
+namespace zol {
+class ProgressDoor;
+}
+
 namespace zol::VipsStages {
 
 /// Starts libvips once; nothing else may be called before.
@@ -46,7 +50,21 @@ void ForgetErrors();
 [[nodiscard]] vips::VImage ResamplePixels(const vips::VImage& pixels, bool hasErased, int width,
                                           int height);
 
-/// Works the pipeline out into a picture.
-[[nodiscard]] Picture ToPicture(const vips::VImage& pixels);
+/// Tells a door, in hundredths and from any thread, how far an image has been worked out, and
+/// stops that with a failure once the door says so. A null door watches nothing.
+class ProgressWatch {
+public:
+    ProgressWatch(const vips::VImage& image, ProgressDoor* door);
+    ~ProgressWatch();
+    ProgressWatch(const ProgressWatch&) = delete;
+    ProgressWatch& operator=(const ProgressWatch&) = delete;
+
+private:
+    vips::VImage m_image;
+    unsigned long m_handler = 0;
+};
+
+/// Works the pipeline out into a picture. The door may be null.
+[[nodiscard]] Picture ToPicture(const vips::VImage& pixels, ProgressDoor* progress);
 
 } // namespace zol::VipsStages

@@ -8,11 +8,14 @@
 #include "import/PictureOps.h"
 #include "import/Random32.h"
 #include "import/SamplePictures.h"
+#include "support/RecordingDoors.h"
 #include "support/TempFolder.h"
 #include "support/TestPaths.h"
 
 using namespace zol;
+using test::RecordingProgress;
 using test::SavedAs;
+using test::SavedLying;
 using test::VipsPicture;
 using vips::VImage;
 
@@ -62,6 +65,24 @@ TEST(Imaging, EveryFormatIsDecodedByItsContent) {
         ExpectQuarters(Loaded(SavedAs(Quarters(), format)), 1);
     }
     ExpectQuarters(Loaded(SavedAs(Quarters(), ".jpg[Q=98]")), 10);
+}
+
+TEST(Imaging, ProgressIsToldAndStopsTheWork) {
+    const VImage large = VipsPicture(1500, 1200, [](int x, int y) {
+        return MakeColour(static_cast<unsigned>(x) % 256U, static_cast<unsigned>(y) % 256U, 7);
+    });
+    for (const int orientation : {1, 6}) {
+        const auto bytes = SavedLying(large, orientation, ".png");
+        RecordingProgress patient;
+        EXPECT_TRUE(PictureFile(bytes).LoadImage(&patient).IsGood());
+        EXPECT_FALSE(patient.updates.empty());
+        RecordingProgress hasty;
+        hasty.cancelAfter = 0;
+        const ImagingResult stopped = PictureFile(bytes).LoadImage(&hasty);
+        EXPECT_FALSE(stopped.IsGood());
+        EXPECT_TRUE(stopped.Image.IsEmpty());
+        EXPECT_TRUE(hasty.updates.empty());
+    }
 }
 
 TEST(Imaging, HeicIsDecoded) {
