@@ -18,9 +18,13 @@ inline constexpr int MaxImportColors = 200;
 inline constexpr std::string_view NoImage = "You must select an image to import";
 inline constexpr std::string_view WidthTooSmall = "Pattern width must be greater than zero";
 inline constexpr std::string_view HeightTooSmall = "Pattern height must be greater than zero";
+inline constexpr std::string_view ClothCountWrong = "Your cloth count is invalid.";
+inline constexpr std::string_view TooLarge = "Your pattern is too large.";
 inline constexpr std::string_view NoFlossFamily = "You must select a floss family to import.";
 inline constexpr std::string_view NoFlossPalette = "You must select a floss palette to import.";
 
+inline constexpr std::string_view LoadingPicture = "Loading Picture";
+inline constexpr std::string_view ResizingPicture = "Resizing Picture";
 inline constexpr std::string_view ApplyingPalette = "Applying Floss Palette";
 inline constexpr std::string_view CreatingPattern = "Creating Pattern";
 /// `colorWord` as the running program spells it.
