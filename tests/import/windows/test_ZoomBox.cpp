@@ -38,6 +38,9 @@ public:
         Dialog.resize(400, 600);
         Dialog.show();
         Dialog.activateWindow();
+        if (!QTest::qWaitForWindowActive(&Dialog)) {
+            qFatal("the dialog does not come up");
+        }
     }
     [[nodiscard]] QString Text() { return Combo().currentText(); }
     [[nodiscard]] QComboBox& Combo() { return PartOf<QComboBox>(Dialog, "cmbZoomLevel"); }
