@@ -9,7 +9,9 @@
 
 namespace zol {
 
+struct FilePreview;
 struct ImagingResult;
+class ProgressDoor;
 
 /// Picture files by their names, and what is said about them.
 namespace PictureFiles {
@@ -21,6 +23,12 @@ inline constexpr std::string_view LastImportName = "LastImport.jpg";
 [[nodiscard]] std::string DialogFilter();
 /// Whether a file goes by its name as a picture that can be decoded; the case does not count.
 [[nodiscard]] bool HasPictureName(const std::filesystem::path& file);
+/// The picture of a file, made to fit a square of `side` pixels, and its own size in words; or why
+/// there is none.
+[[nodiscard]] FilePreview Preview(const std::filesystem::path& file, int side,
+                                  ProgressDoor& progress);
+/// "4000 × 3000 pixels".
+[[nodiscard]] std::string SizeWords(int width, int height);
 /// What the user sees of a picture that could not be loaded: the error by number and text.
 [[nodiscard]] std::string LoadFailure(const ImagingResult& result);
 

@@ -3,14 +3,18 @@
 
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace zol {
 
 class Palette;
 class Pattern;
+class ProgressDoor;
 
 enum class MessageIcon { None, Information, Question, Exclamation, Stop };
 enum class MessageButtons { Ok, YesNo, YesNoCancel };
@@ -31,6 +35,14 @@ public:
                                             MessageButtons buttons, const std::string& title) = 0;
 };
 
+/// A small picture of a file that may be chosen: rows from the top, pixels 0x00BBGGRR.
+struct FilePreview {
+    int Width = 0;
+    int Height = 0;
+    std::vector<std::uint32_t> Pixels; ///< empty if there is no picture
+    std::string Words;                 ///< what else is to be said of the file
+};
+
 /// What a dialog for a file's name is asked with.
 struct FileChoice {
     std::string Title;
@@ -38,6 +50,8 @@ struct FileChoice {
     std::filesystem::path Folder;
     std::string SuggestedName;
     std::string DefaultExtension; ///< without the point; added to a name that has none
+    /// Called on other threads for files that the user looks at; the door is the call's own.
+    std::function<FilePreview(const std::filesystem::path&, ProgressDoor&)> Preview = {};
 };
 
 /// Lets the user choose a file. Nothing means that the user cancelled.

@@ -13,6 +13,7 @@
 #include <system_error>
 
 #include "model/SafeFile.h"
+#include "windowkit/FilePreviewPane.h"
 
 namespace zol {
 
@@ -192,6 +193,9 @@ std::optional<fs::path> QtUserDoor::AskOpenFile(const FileChoice& choice) {
     QFileDialog dialog(m_parent, QtText(choice.Title), QtPath(choice.Folder));
     dialog.setFileMode(QFileDialog::ExistingFile);
     SetUp(dialog, choice);
+    if (choice.Preview) {
+        FilePreviewPane::AddTo(dialog, choice.Preview);
+    }
     return RunDialog(dialog);
 }
 

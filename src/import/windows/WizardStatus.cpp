@@ -32,6 +32,8 @@ WizardStatus::WizardStatus(QWidget* over)
     m_ui->setupUi(this);
     setObjectName(QStringLiteral("picStatus"));
     hide();
+    // Ours, so that a busy scope that lets this strip live lets it come up too.
+    m_delay.setParent(this);
     m_delay.setSingleShot(true);
     connect(&m_delay, &QTimer::timeout, this, &WizardStatus::Appear);
     connect(m_ui->cmdCancelStatus, &QPushButton::clicked, this, &WizardStatus::CancelWork);

@@ -5,8 +5,9 @@
 
 #include <utility>
 
-#include "import/windows/ImportProgressPanel.h"
+#include "import/windows/WizardProgress.h"
 #include "import/windows/WizardScreen.h"
+#include "import/windows/WizardStatus.h"
 #include "import/windows/ui_frmImportWizard.h"
 #include "model/Pattern.h"
 #include "windowkit/BusyScope.h"
@@ -17,21 +18,6 @@ namespace zol {
 namespace {
 
 constexpr const char* Title = "Import Wizard";
-
-/// The wizard lies over the main window, so progress has to show in it.
-class ProgressHere {
-public:
-    ProgressHere(ProgramContext& context, ProgressDoor* door)
-        : m_context(context),
-          m_saved(std::exchange(context.Progress, door)) {}
-    ~ProgressHere() { m_context.Progress = m_saved; }
-    ProgressHere(const ProgressHere&) = delete;
-    ProgressHere& operator=(const ProgressHere&) = delete;
-
-private:
-    ProgramContext& m_context;
-    ProgressDoor* m_saved;
-};
 
 } // namespace
 
@@ -44,7 +30,7 @@ frmImportWizard::frmImportWizard(const Outside& outside, std::optional<SquareRec
              outside.Settings, outside.Messages, outside.Files},
       m_ui(std::make_unique<Ui::frmImportWizard>()) {
     m_ui->setupUi(this);
-    m_progress = new ImportProgressPanel(this);
+    m_status = new WizardStatus(this);
     SetupVariables(editBox);
     AddScreens();
     connect(m_ui->cmdNext, &QPushButton::clicked, this, &frmImportWizard::GoOn);
@@ -112,7 +98,7 @@ void frmImportWizard::GoBack() {
 }
 
 void frmImportWizard::Finish() {
-    const ProgressHere here(m_desk.Context, m_progress);
+    const WizardProgress progress(*m_status, m_desk.Context.Progress);
     const ImportStatus status = m_outside.CreateThePattern(m_work);
     switch (status.Result) {
     case ImportStatus::Outcome::Done:

@@ -19,8 +19,8 @@ class frmImportWizard;
 
 namespace zol {
 
-class ImportProgressPanel;
 class WizardScreen;
+class WizardStatus;
 
 /// Leads from a picture to a design, screen by screen. Modal; it hides instead of going, so that
 /// an import can be resumed where it was left. What it changes is the caller's: the design is
@@ -66,7 +66,7 @@ private:
     ImportDesk m_desk;
     ImportFlow m_flow;
     std::unique_ptr<Ui::frmImportWizard> m_ui;
-    ImportProgressPanel* m_progress = nullptr;
+    WizardStatus* m_status = nullptr;
     std::vector<WizardScreen*> m_screens;
 };
 
