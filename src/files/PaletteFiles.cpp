@@ -22,9 +22,6 @@ constexpr const char* LoadTitle = "Load a Floss Palette";
 constexpr const char* DefaultFile = "Default.fls";
 constexpr const char* Kept = "The palette of your pattern stays as it is.";
 
-/// A square holds its floss in a byte, in which 255 stands for none.
-constexpr int MostFlosses = NoFloss - 1;
-
 /// Passes messages on and remembers whether there were any.
 class ListeningDoor : public MessageDoor {
 public:
@@ -118,11 +115,11 @@ std::optional<Palette> PaletteFiles::ReadPalette(const fs::path& file) const {
         }
         return std::nullopt;
     }
-    if (loaded.GetEntriesCount() > MostFlosses) {
+    if (loaded.GetEntriesCount() > Palette::MostFlosses) {
         m_desk.Messages.TellMore(RunTimeErrorText(ErrOverflow),
                                  "The file holds " + std::to_string(loaded.GetEntriesCount()) +
                                      " flosses; a pattern takes at most " +
-                                     std::to_string(MostFlosses) + ". " + Kept,
+                                     std::to_string(Palette::MostFlosses) + ". " + Kept,
                                  MessageIcon::Exclamation, LoadTitle);
         return std::nullopt;
     }

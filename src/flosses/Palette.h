@@ -35,9 +35,10 @@ enum PaletteAddStatus { PaletteAdded = 0, PaletteAddCancelled = 1, PaletteAddFai
 /// Getters answer 0 or an empty text outside 1 to GetEntriesCount; setters do nothing there.
 class Palette {
 public:
-    static constexpr int KeepStrands = 65535; ///< ChangePaletteEntry leaves the strands alone
-    static constexpr int NoExclusion = -1;    ///< GetClosest excludes nothing
-    static constexpr int SymbolCount = 200;   ///< symbols that can be handed out
+    static constexpr int KeepStrands = 65535;       ///< ChangePaletteEntry leaves the strands alone
+    static constexpr int NoExclusion = -1;          ///< GetClosest excludes nothing
+    static constexpr int MostFlosses = NoFloss - 1; ///< a stitch names its floss by a byte
+    static constexpr int SymbolCount = 200;         ///< symbols that can be handed out
 
     /// Starts with the startup palette, unchanged, in the running program's symbol font. The
     /// context must outlive the palette.

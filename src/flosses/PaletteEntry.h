@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "model/ByteStream.h"
 #include "model/CodePage.h"
@@ -40,6 +41,11 @@ struct PaletteEntry {
 
     friend bool operator==(const PaletteEntry&, const PaletteEntry&) = default;
 };
+
+/// "310 - Black"; the one alone where the other is empty.
+[[nodiscard]] inline std::string NumberAndName(const std::string& number, const std::string& name) {
+    return number + (number.empty() || name.empty() ? "" : " - ") + name;
+}
 
 /// One manufacturer seen in a palette (40 bytes on disk). Rows are added and never removed.
 struct PaletteManufacturer {

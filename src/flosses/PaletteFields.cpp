@@ -54,8 +54,7 @@ std::string Palette::GetFlossLongDesc(int index) const {
     if (IsBlended(index)) {
         return description;
     }
-    const std::string number = At(index).FlossID.Text();
-    return number + (number.empty() || description.empty() ? "" : " - ") + description;
+    return NumberAndName(At(index).FlossID.Text(), description);
 }
 
 std::string Palette::GetFlossShortDesc(int index) const {

@@ -35,21 +35,6 @@ PrintOptions PrintOptionsOf(const Options& options) {
     return print;
 }
 
-std::vector<PrintStyleEntry> StitchPrintStyles(const std::string& colorWord) {
-    return {{PrintBlackSymbols, "Black Symbols"},
-            {PrintColorSymbols, colorWord + " Symbols"},
-            {PrintColorBlocks, colorWord + " Blocks"},
-            {PrintVirtualStitches, colorWord + " Stitches"},
-            {PrintBlocksAndSymbols, colorWord + " Blocks and Symbols"},
-            {PrintNone, "None"}};
-}
-
-std::vector<PrintStyleEntry> LinePrintStyles(const std::string& colorWord) {
-    return {{PrintBlackLines, "Black Lines"},
-            {PrintColorLines, colorWord + " Lines"},
-            {PrintNone, "None"}};
-}
-
 int DisplayStyleOf(int printStyle) {
     switch (printStyle) {
     case PrintColorBlocks:

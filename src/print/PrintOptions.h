@@ -4,7 +4,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "model/ZOLTypes.h"
 
@@ -24,12 +23,6 @@ enum PrintStyle : int {
 
 /// How backstitch lines are printed; -1 prints none.
 enum LinePrintStyle : int { PrintColorLines = 1, PrintBlackLines = 2 };
-
-/// One line of a list of print styles.
-struct PrintStyleEntry {
-    int Value = 0;
-    std::string Text;
-};
 
 /// Everything that printing depends on beside the pattern. A record by value: whoever starts a
 /// job fills it from the settings, and nothing in printing reads a setting itself. The values
@@ -73,10 +66,6 @@ struct PrintOptions {
 /// The printing options of the running program; GSPI and PrintColorKey, which are not stored,
 /// have their first values.
 [[nodiscard]] PrintOptions PrintOptionsOf(const Options& options);
-
-/// The styles of stitches in the order of their list. `colorWord` is "Color" or "Colour".
-[[nodiscard]] std::vector<PrintStyleEntry> StitchPrintStyles(const std::string& colorWord);
-[[nodiscard]] std::vector<PrintStyleEntry> LinePrintStyles(const std::string& colorWord);
 
 /// The display style that paints a print style; 0 for none.
 [[nodiscard]] int DisplayStyleOf(int printStyle);

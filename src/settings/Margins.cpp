@@ -5,10 +5,13 @@
 
 #include <QLocale>
 
+#include "model/LengthUnits.h"
 #include "model/Rounding.h"
 #include "settings/basCommonFunctions.h"
 
 namespace zol::Margins {
+
+using basCommonFunctions::FieldValue;
 
 namespace {
 
@@ -29,23 +32,12 @@ QString FormatStandard(double value) {
     return text;
 }
 
-double Val(const QString& text) {
-    const QChar separator = basCommonFunctions::DecimalSeparator();
-    QString plain = text;
-    if (plain.contains(separator)) {
-        // Only then is a point that parts thousands no decimal point.
-        plain.remove(QLocale().groupSeparator());
-        plain.replace(separator, QLatin1Char('.'));
-    }
-    return LeadingNumber(plain.toStdString());
-}
-
 QString Text(double inches, bool usesInches) {
     return FormatStandard(usesInches ? inches : inches * CentimetresPerInch);
 }
 
 QString Convert(const QString& text, bool toInches) {
-    const double value = Val(text);
+    const double value = FieldValue(text);
     return FormatStandard(toInches ? value / CentimetresPerInch : value * CentimetresPerInch);
 }
 
@@ -53,7 +45,7 @@ double Inches(const QString& text, bool usesInches, double present) {
     if (text == Text(present, usesInches)) {
         return present;
     }
-    return usesInches ? Val(text) : Val(text) / CentimetresPerInch;
+    return usesInches ? FieldValue(text) : FieldValue(text) / CentimetresPerInch;
 }
 
 } // namespace zol::Margins

@@ -10,13 +10,8 @@ namespace zol {
 /// The margins of printouts as the user reads and types them. Options hold inches.
 namespace Margins {
 
-inline constexpr double CentimetresPerInch = 2.54;
-
 /// The format "STANDARD": two places, and a separator between thousands, both the locale's.
 [[nodiscard]] QString FormatStandard(double value);
-/// The number that a field begins with; its separator may be the locale's or a point.
-[[nodiscard]] double Val(const QString& text);
-
 /// A margin for a field in that unit.
 [[nodiscard]] QString Text(double inches, bool usesInches);
 /// What a field says after the unit has changed to inches or to centimetres.

@@ -72,8 +72,13 @@ int FilterNumericKey(const FieldState& field, int key, int maxBefore, int maxAft
 }
 
 double FieldValue(const QString& text) {
+    const QChar separator = DecimalSeparator();
     QString number = text;
-    number.replace(DecimalSeparator(), QLatin1Char('.'));
+    if (number.contains(separator)) {
+        // Only then is a point that parts thousands no decimal point.
+        number.remove(QLocale().groupSeparator());
+        number.replace(separator, QLatin1Char('.'));
+    }
     return LeadingNumber(number.toStdString());
 }
 

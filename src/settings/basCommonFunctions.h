@@ -31,8 +31,8 @@ inline constexpr int NoLimit = 65535;
 /// The decimal separator of the locale, found in 2.5 as the locale writes it.
 [[nodiscard]] QChar DecimalSeparator();
 
-/// The number that a field's text begins with, written with the locale's separator or a point; 0 if
-/// there is none.
+/// The number that a field's text begins with, written with the locale's separators or a point; 0
+/// if there is none.
 [[nodiscard]] double FieldValue(const QString& text);
 /// A number with a point as its separator, as a field shows it: with the locale's.
 [[nodiscard]] QString FieldText(const std::string& number);

@@ -64,26 +64,6 @@ TEST(PrintRequestTest, FourToTheCentimetreAreTenPointOneSixToTheInch) {
     EXPECT_EQ(GSPILabel(false), "Grid Squares Per CM");
 }
 
-TEST(PrintOptionsTest, StylesStandInTheirOrder) {
-    std::vector<int> values;
-    std::vector<std::string> texts;
-    for (const PrintStyleEntry& entry : StitchPrintStyles("Colour")) {
-        values.push_back(entry.Value);
-        texts.push_back(entry.Text);
-    }
-    EXPECT_EQ(values, (std::vector<int>{2, 3, 1, 5, 4, -1}));
-    EXPECT_EQ(texts,
-              (std::vector<std::string>{"Black Symbols", "Colour Symbols", "Colour Blocks",
-                                        "Colour Stitches", "Colour Blocks and Symbols", "None"}));
-    const auto lines = LinePrintStyles("Color");
-    ASSERT_EQ(lines.size(), 3U);
-    EXPECT_EQ(lines[0].Text, "Black Lines");
-    EXPECT_EQ(lines[0].Value, 2);
-    EXPECT_EQ(lines[1].Text, "Color Lines");
-    EXPECT_EQ(lines[1].Value, 1);
-    EXPECT_EQ(lines[2].Value, -1);
-}
-
 TEST(PrintOptionsTest, VirtualStitchesAreTheTintedImage) {
     EXPECT_EQ(DisplayStyleOf(PrintVirtualStitches), ShowVStitches);
     EXPECT_EQ(DisplayStyleOf(PrintBlocksAndSymbols), ShowColorBlocksSymbols);

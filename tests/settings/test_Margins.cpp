@@ -6,6 +6,7 @@
 #include <QLocale>
 
 #include "settings/Margins.h"
+#include "settings/basCommonFunctions.h"
 
 namespace zol {
 namespace {
@@ -40,14 +41,14 @@ TEST(Margins, StandardHasTwoPlacesAndThousands) {
 TEST(Margins, LocaleSeparatorAndPointAreBothRead) {
     const InLocale german(QLocale(QLocale::German, QLocale::Germany));
     EXPECT_EQ(Margins::FormatStandard(1234.5), Q("1.234,50"));
-    EXPECT_DOUBLE_EQ(Margins::Val(Q("1.234,50")), 1234.5);
-    EXPECT_DOUBLE_EQ(Margins::Val(Q("0,75")), 0.75);
-    EXPECT_DOUBLE_EQ(Margins::Val(Q("0.75")), 0.75);
+    EXPECT_DOUBLE_EQ(basCommonFunctions::FieldValue(Q("1.234,50")), 1234.5);
+    EXPECT_DOUBLE_EQ(basCommonFunctions::FieldValue(Q("0,75")), 0.75);
+    EXPECT_DOUBLE_EQ(basCommonFunctions::FieldValue(Q("0.75")), 0.75);
 }
 
 TEST(Margins, TextIsNothing) {
-    EXPECT_DOUBLE_EQ(Margins::Val(Q("")), 0);
-    EXPECT_DOUBLE_EQ(Margins::Val(Q("wide")), 0);
+    EXPECT_DOUBLE_EQ(basCommonFunctions::FieldValue(Q("")), 0);
+    EXPECT_DOUBLE_EQ(basCommonFunctions::FieldValue(Q("wide")), 0);
     EXPECT_DOUBLE_EQ(Margins::Inches(Q(""), true, 0.5), 0);
 }
 

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "flosses/PaletteEntry.h"
 #include "model/ProgramContext.h"
 
 namespace zol {
@@ -70,10 +71,8 @@ bool AvailableFlosses::Find(const std::string& number) {
 }
 
 FlossLook AvailableFlosses::LookOf(int row) const {
-    const std::string number = m_rows.GetFlossManuID(row);
-    const std::string description = m_rows.GetFlossDesc(row);
-    const bool both = !number.empty() && !description.empty();
-    return {m_rows.GetFlossRGB(row), number + (both ? " - " : "") + description};
+    return {m_rows.GetFlossRGB(row),
+            NumberAndName(m_rows.GetFlossManuID(row), m_rows.GetFlossDesc(row))};
 }
 
 } // namespace zol

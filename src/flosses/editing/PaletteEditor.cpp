@@ -12,8 +12,6 @@ namespace zol {
 
 namespace {
 
-/// Stitches name their floss by a byte, of which NoFloss means none.
-constexpr int mostFlosses = NoFloss - 1;
 constexpr Colour colourMask = 0xFFFFFF;
 
 } // namespace
@@ -67,10 +65,11 @@ int PaletteEditor::FindInPalette(int row) const {
 // --- Adding -------------------------------------------------------------------------------------
 
 bool PaletteEditor::HasRoom() const {
-    if (Flosses().GetEntriesCount() < mostFlosses) {
+    if (Flosses().GetEntriesCount() < Palette::MostFlosses) {
         return true;
     }
-    m_desk.Messages.Tell("A palette holds at most " + std::to_string(mostFlosses) + " flosses.",
+    m_desk.Messages.Tell("A palette holds at most " + std::to_string(Palette::MostFlosses) +
+                             " flosses.",
                          MessageIcon::Information, "Floss Palette");
     return false;
 }
@@ -96,8 +95,8 @@ int PaletteEditor::AddFloss(const CustomFloss& floss, const std::string& shortNa
     // symbol taken the new entry has none, and nobody is asked.
     std::string symbol;
     if (!Flosses().GetNextAvailableSymbol().empty()) {
-        const std::string both = floss.FlossID + " - " + floss.Description;
-        const std::optional<std::string> chosen = m_desk.Dialogs.AskSymbol(0, {floss.RGB, both});
+        const std::optional<std::string> chosen = m_desk.Dialogs.AskSymbol(
+            0, {floss.RGB, NumberAndName(floss.FlossID, floss.Description)});
         if (!chosen || chosen->empty()) {
             return 0;
         }

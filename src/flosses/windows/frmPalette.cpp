@@ -7,6 +7,8 @@
 #include <QScrollBar>
 
 #include "flosses/windows/ui_frmPalette.h"
+#include "settings/OptionLists.h"
+#include "windowkit/ComboItems.h"
 #include "windowkit/DialogSize.h"
 #include "windowkit/Spelling.h"
 
@@ -48,17 +50,14 @@ frmPalette::frmPalette(const PaletteDesk& desk, QWidget* parent)
 frmPalette::~frmPalette() = default;
 
 void frmPalette::FillLists(const std::string& catalogue) {
-    for (const char* style : {"Numbers && Descriptions", "Numbers && Colors", "Colors Only"}) {
-        m_ui->cmbListStyle->addItem(
-            QString::fromLatin1(style).replace(QStringLiteral("&&"), QStringLiteral("&")));
+    for (const char* style : {"Numbers & Descriptions", "Numbers & Colors", "Colors Only"}) {
+        m_ui->cmbListStyle->addItem(QString::fromLatin1(style));
     }
     m_ui->cmbSortBy->addItem(QStringLiteral("Floss ID"), 1);
     m_ui->cmbSortBy->addItem(QStringLiteral("Color"), 3);
     m_ui->cmbSortBy->addItem(QStringLiteral("Description"), 2);
-    for (const char* order : {"Order Added", "Manufacturer ID", "Description", "Color"}) {
-        m_ui->cmbSortPaletteBy->addItem(QString::fromLatin1(order));
-    }
-    m_ui->cmbSortPaletteBy->setCurrentIndex(m_editor.Flosses().GetSortOrder() - 1);
+    FillCombo(*m_ui->cmbSortPaletteBy, OptionLists::SortOrders("Color"));
+    SetCombo(*m_ui->cmbSortPaletteBy, m_editor.Flosses().GetSortOrder());
     m_editor.Available().Show(catalogue);
     m_ui->picAvailable->SetFlosses(m_editor.Available());
     ShowCatalogues();
@@ -111,7 +110,7 @@ void frmPalette::ConnectPalette() {
     connect(m_ui->chkEditBoxOnly, &QCheckBox::toggled, this,
             [this](bool on) { m_editor.SetEditBoxOnly(on); });
     connect(m_ui->cmbSortPaletteBy, &QComboBox::activated, this, [this](int line) {
-        m_editor.SortPalette(line + 1);
+        m_editor.SortPalette(m_ui->cmbSortPaletteBy->itemData(line).toInt());
         BuildDisplayGrid();
     });
     connect(m_ui->picPalette, &PaletteGrid::EntrySelected, this, [this](int entry) {

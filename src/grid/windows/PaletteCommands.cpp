@@ -57,9 +57,6 @@ void PaletteCommands::EditPalette() {
         &m_window);
     window.exec();
     step.reset();
-    if (window.HasChanged()) {
-        m_modes.Box().RefreshSelection();
-    }
     // Also after a change of the display order alone.
     m_followers.Changed();
 }

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "settings/Margins.h"
+#include "settings/basCommonFunctions.h"
 #include "windowkit/NumericFilter.h"
 
 namespace zol {
@@ -39,7 +40,7 @@ void MarginField::mousePressEvent(QMouseEvent* event) {
 
 void MarginField::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
-    setText(Margins::FormatStandard(Margins::Val(text())));
+    setText(Margins::FormatStandard(basCommonFunctions::FieldValue(text())));
 }
 
 } // namespace zol
