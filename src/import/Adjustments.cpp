@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "model/Doors.h"
 #include "model/Rounding.h"
 
 namespace zol::Adjustments {
@@ -39,13 +40,23 @@ int LightnessOf(const Channels& channels) {
     return (channels.Red * 299 + channels.Green * 587 + channels.Blue * 114 + 500) / 1000;
 }
 
+/// Band by band; false if the door stopped it.
 template<typename Change>
-void ForEachPixel(Picture& image, Change change) {
-    for (Colour& pixel : image.Pixels()) {
-        if (pixel != EraseColor) {
-            pixel = change(pixel);
+bool ForEachPixel(ProgressDoor* door, Picture& image, Change change) {
+    constexpr std::size_t band = 65536; // a fraction of a millisecond
+    std::vector<Colour>& pixels = image.Pixels();
+    for (std::size_t begin = 0; begin < pixels.size(); begin += band) {
+        if (door != nullptr && !door->MayGoOn()) {
+            return false;
+        }
+        const std::size_t end = std::min(begin + band, pixels.size());
+        for (std::size_t i = begin; i < end; ++i) {
+            if (pixels[i] != EraseColor) {
+                pixels[i] = change(pixels[i]);
+            }
         }
     }
+    return true;
 }
 
 using LevelTable = std::array<std::uint8_t, 256>;
@@ -60,8 +71,8 @@ LevelTable TableOf(Level level) {
     return table;
 }
 
-void MapChannels(Picture& image, const LevelTable& table) {
-    ForEachPixel(image, [&table](Colour pixel) {
+bool MapChannels(ProgressDoor* door, Picture& image, const LevelTable& table) {
+    return ForEachPixel(door, image, [&table](Colour pixel) {
         return MakeColour(table[pixel & 255U], table[(pixel >> 8U) & 255U],
                           table[(pixel >> 16U) & 255U]);
     });
@@ -146,23 +157,26 @@ Colour EdgeAt(const Picture& image, int x, int y) {
                      own.Blue - sum.Blue / neighbours});
 }
 
-} // namespace
-
-void ChangeBrightness(Picture& image, int amount) {
+LevelTable BrightnessTable(int amount) {
     const double shift = ThousandthsOf(amount) * 255;
-    MapChannels(image, TableOf([shift](double level) { return level + shift; }));
+    return TableOf([shift](double level) { return level + shift; });
 }
 
-void ChangeContrast(Picture& image, int amount) {
+LevelTable ContrastTable(int amount) {
     const double share = ThousandthsOf(amount);
     constexpr double steepest = 1000; // at the end of the range: black and white alone
     const double slope = share <= 0 ? 1 + share : std::min(1 / std::max(1 - share, 1e-9), steepest);
-    MapChannels(image, TableOf([slope](double level) { return 127.5 + (level - 127.5) * slope; }));
+    return TableOf([slope](double level) { return 127.5 + (level - 127.5) * slope; });
 }
 
-void ChangeSaturation(Picture& image, int amount) {
+LevelTable GammaTable(int hundredths) {
+    const double power = 100.0 / std::clamp(hundredths, 10, 200);
+    return TableOf([power](double level) { return 255 * std::pow(level / 255, power); });
+}
+
+bool Saturate(ProgressDoor* door, Picture& image, int amount) {
     const int factor = 1000 + std::clamp(amount, -1000, 1000);
-    ForEachPixel(image, [factor](Colour pixel) {
+    return ForEachPixel(door, image, [factor](Colour pixel) {
         const Channels channels = ChannelsOf(pixel);
         const int grey = LightnessOf(channels);
         const auto away = [grey, factor](int channel) {
@@ -173,22 +187,15 @@ void ChangeSaturation(Picture& image, int amount) {
     });
 }
 
-void ChangeHue(Picture& image, int degrees) {
+bool TurnHues(ProgressDoor* door, Picture& image, int degrees) {
     const double turn = std::clamp(degrees, 0, 360) % 360 / 60.0;
-    if (turn > 0) {
-        ForEachPixel(image, [turn](Colour pixel) { return TurnHue(pixel, turn); });
-    }
+    return turn <= 0 ||
+           ForEachPixel(door, image, [turn](Colour pixel) { return TurnHue(pixel, turn); });
 }
 
-void ChangeGamma(Picture& image, int hundredths) {
-    const double power = 100.0 / std::clamp(hundredths, 10, 200);
-    MapChannels(image,
-                TableOf([power](double level) { return 255 * std::pow(level / 255, power); }));
-}
-
-void EqualizeHistogram(Picture& image) {
+bool Equalize(ProgressDoor* door, Picture& image) {
     const std::array<int, 256> levels = EqualizedLightness(image);
-    ForEachPixel(image, [&levels](Colour pixel) {
+    return ForEachPixel(door, image, [&levels](Colour pixel) {
         const Channels channels = ChannelsOf(pixel);
         const int lightness = LightnessOf(channels);
         const int shift = levels[static_cast<std::size_t>(lightness)] - lightness;
@@ -196,7 +203,7 @@ void EqualizeHistogram(Picture& image) {
     });
 }
 
-void StretchIntensity(Picture& image) {
+bool Stretch(ProgressDoor* door, Picture& image) {
     int low = 255;
     int high = 0;
     for (const Colour pixel : image.Pixels()) {
@@ -206,23 +213,24 @@ void StretchIntensity(Picture& image) {
             high = std::max({high, channels.Red, channels.Green, channels.Blue});
         }
     }
-    if (low < high) {
-        MapChannels(image, TableOf([low, high](double level) {
-                        return (level - low) * 255 / (high - low);
-                    }));
-    }
+    return low >= high || MapChannels(door, image, TableOf([low, high](double level) {
+                                          return (level - low) * 255 / (high - low);
+                                      }));
 }
 
-void ConvertToGrey(Picture& image) {
-    ForEachPixel(image, [](Colour pixel) {
+bool TurnGrey(ProgressDoor* door, Picture& image) {
+    return ForEachPixel(door, image, [](Colour pixel) {
         const int grey = LightnessOf(ChannelsOf(pixel));
         return ColourOf({grey, grey, grey});
     });
 }
 
-void EnhanceEdges(Picture& image) {
+bool FindEdges(ProgressDoor* door, Picture& image) {
     Picture edges = image;
     for (int y = 0; y < image.ImageHeight(); ++y) {
+        if (door != nullptr && !door->MayGoOn()) {
+            return false;
+        }
         for (int x = 0; x < image.ImageWidth(); ++x) {
             if (image.ImagePixel(x, y) != EraseColor) {
                 edges.SetImagePixel(x, y, EdgeAt(image, x, y));
@@ -230,6 +238,45 @@ void EnhanceEdges(Picture& image) {
         }
     }
     image = std::move(edges);
+    return true;
+}
+
+} // namespace
+
+void ChangeBrightness(Picture& image, int amount) {
+    MapChannels(nullptr, image, BrightnessTable(amount));
+}
+
+void ChangeContrast(Picture& image, int amount) {
+    MapChannels(nullptr, image, ContrastTable(amount));
+}
+
+void ChangeSaturation(Picture& image, int amount) {
+    Saturate(nullptr, image, amount);
+}
+
+void ChangeHue(Picture& image, int degrees) {
+    TurnHues(nullptr, image, degrees);
+}
+
+void ChangeGamma(Picture& image, int hundredths) {
+    MapChannels(nullptr, image, GammaTable(hundredths));
+}
+
+void EqualizeHistogram(Picture& image) {
+    Equalize(nullptr, image);
+}
+
+void StretchIntensity(Picture& image) {
+    Stretch(nullptr, image);
+}
+
+void ConvertToGrey(Picture& image) {
+    TurnGrey(nullptr, image);
+}
+
+void EnhanceEdges(Picture& image) {
+    FindEdges(nullptr, image);
 }
 
 void AddBitmap(Picture& image, const Picture& other) {
@@ -262,31 +309,39 @@ const Item& ItemOf(Kind kind) {
 }
 
 void Apply(Picture& image, Kind kind, int slider) {
+    static_cast<void>(ApplyWhile(nullptr, image, kind, slider));
+}
+
+bool ApplyWhile(ProgressDoor* progress, Picture& image, Kind kind, int slider) {
     constexpr int amountOfSlider = 10;
     switch (kind) {
     case Kind::Brightness:
-        return ChangeBrightness(image, slider * amountOfSlider);
+        return MapChannels(progress, image, BrightnessTable(slider * amountOfSlider));
     case Kind::Contrast:
-        return ChangeContrast(image, slider * amountOfSlider);
+        return MapChannels(progress, image, ContrastTable(slider * amountOfSlider));
     case Kind::Saturation:
-        return ChangeSaturation(image, slider * amountOfSlider);
+        return Saturate(progress, image, slider * amountOfSlider);
     case Kind::Hue:
-        return ChangeHue(image, slider);
+        return TurnHues(progress, image, slider);
     case Kind::HistoEqualize:
-        return EqualizeHistogram(image);
+        return Equalize(progress, image);
     case Kind::GrayScale:
-        return ConvertToGrey(image);
+        return TurnGrey(progress, image);
     case Kind::EdgeEnhance: {
         // The edges alone would be a dark picture: they are added to what was there.
         Picture edges = image;
-        EnhanceEdges(edges);
-        return AddBitmap(image, edges);
+        if (!FindEdges(progress, edges)) {
+            return false;
+        }
+        AddBitmap(image, edges);
+        return true;
     }
     case Kind::StretchIntensity:
-        return Adjustments::StretchIntensity(image);
+        return Stretch(progress, image);
     case Kind::GammaCorrect:
-        return ChangeGamma(image, slider);
+        return MapChannels(progress, image, GammaTable(slider));
     }
+    return true;
 }
 
 } // namespace zol::Adjustments

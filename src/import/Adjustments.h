@@ -11,6 +11,8 @@
 
 namespace zol {
 
+class ProgressDoor;
+
 /// Changes of a picture's colours before the matching. All of them leave erased pixels (pure
 /// white) alone; what they make pure white is erased from then on. Values outside a range are
 /// taken as its nearest end.
@@ -65,6 +67,9 @@ struct Item {
 
 /// Carries out an item at a position of its slider (without a slider it does not matter).
 void Apply(Picture& image, Kind kind, int slider);
+/// The same, band by band: the door (which may be null) is asked between them. False, with the
+/// picture half-way, if it stopped the work.
+[[nodiscard]] bool ApplyWhile(ProgressDoor* progress, Picture& image, Kind kind, int slider);
 
 } // namespace Adjustments
 } // namespace zol

@@ -16,6 +16,7 @@ void ImportCandidates::Clear() {
     m_lockedColors = 0;
     ColorUsed.assign(1, OutOfPlay);
     ColorPixels.assign(1, 0);
+    Stitches.assign(1, 0);
     ColorRGB.assign(1, 0);
 }
 
@@ -44,6 +45,7 @@ void ImportCandidates::Add(Colour colour) {
     }
     ColorUsed.push_back(OutOfPlay);
     ColorPixels.push_back(0);
+    Stitches.push_back(0);
     ColorRGB.push_back(colour & 0x00FFFFFFU);
 }
 
@@ -58,6 +60,7 @@ int ImportCandidates::ColorsLeft() const {
 void ImportCandidates::TakeOutOfPlay() {
     std::fill(ColorUsed.begin() + 1 + m_lockedColors, ColorUsed.end(), OutOfPlay);
     std::fill(ColorPixels.begin() + 1 + m_lockedColors, ColorPixels.end(), 0);
+    std::fill(Stitches.begin(), Stitches.end(), 0);
 }
 
 } // namespace zol

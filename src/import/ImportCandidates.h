@@ -45,7 +45,8 @@ public:
     void TakeOutOfPlay();
 
     std::vector<std::int16_t> ColorUsed;
-    std::vector<std::int32_t> ColorPixels; ///< pixels won
+    std::vector<std::int32_t> ColorPixels; ///< pixels won in the first matching
+    std::vector<std::int32_t> Stitches;    ///< squares of the preview
     std::vector<Colour> ColorRGB;
 
 private:

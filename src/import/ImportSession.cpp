@@ -7,17 +7,28 @@
 #include <utility>
 
 #include "import/ImportMessages.h"
-#include "import/Recolor.h"
 #include "model/Pattern.h"
 #include "model/ProgramContext.h"
 
 namespace zol {
 
-ImportSession::ImportSession(ProgramContext& context) : m_context(&context) {}
+ImportSession::ImportSession(ProgramContext& context)
+    : m_context(&context),
+      m_image(std::make_shared<const Picture>()),
+      m_preview(m_image) {}
+
+void ImportSession::SetImage(SharedPicture image) {
+    m_image = image != nullptr ? std::move(image) : std::make_shared<const Picture>();
+    DropPreview();
+}
 
 void ImportSession::SetImage(Picture image) {
-    m_image = std::move(image);
-    m_preview = {};
+    SetImage(std::make_shared<const Picture>(std::move(image)));
+}
+
+void ImportSession::DropPreview() {
+    m_preview = std::make_shared<const Picture>();
+    ++m_choices;
 }
 
 void ImportSession::UseEditBox(int left, int top, const Palette& patternPalette) {
@@ -54,8 +65,15 @@ void ImportSession::ChoosePalette(const Palette& palette) {
     BuildCandidates();
 }
 
+void ImportSession::ChooseNothing() {
+    m_from = FlossSource::Kind::None;
+    m_flossList.reset();
+    m_sourcePalette.reset();
+    BuildCandidates();
+}
+
 void ImportSession::BuildCandidates() {
-    m_preview = {};
+    DropPreview();
     m_candidates.Clear();
     if (m_lockedPalette) {
         m_candidates.AddLocked(*m_lockedPalette);
@@ -102,16 +120,64 @@ ImportStatus ImportSession::RecolorImage(int maxColors) {
     if (const auto message = ValidateMapping(maxColors, true)) {
         return {ImportStatus::Outcome::Invalid, *message};
     }
-    return RecolorPicture(m_image, m_candidates, maxColors, m_context->ColorWord(),
-                          m_context->Progress, m_preview);
+    ImportPreview preview = PreparePreview(maxColors).Run(m_context->Progress);
+    ImportStatus status = preview.Status;
+    TakePreview(std::move(preview));
+    return status;
+}
+
+PreviewWork ImportSession::PreparePreview(int maxColors) const {
+    return {m_image, m_candidates, maxColors, m_context->ColorWord(), m_choices};
+}
+
+bool ImportSession::TakePreview(ImportPreview preview) {
+    if (!preview.Status.IsDone() || preview.Choices != m_choices) {
+        return false;
+    }
+    m_preview = std::move(preview.Squares);
+    m_candidates = std::move(preview.Candidates);
+    m_previewColors = preview.MaxColors;
+    return true;
+}
+
+void ImportSession::DropPreviewUnlessOf(int maxColors) {
+    if (m_previewColors != maxColors) {
+        DropPreview();
+    }
+}
+
+std::vector<PreviewFloss> ImportSession::PreviewFlosses() const {
+    std::vector<PreviewFloss> flosses;
+    if (m_preview->IsEmpty()) {
+        return flosses;
+    }
+    const int locked = m_candidates.LockedColors();
+    for (int i = 1; i <= m_candidates.NumColors(); ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        if (m_candidates.Stitches[at] == 0) {
+            continue;
+        }
+        PreviewFloss floss{m_candidates.ColorRGB[at], {}, {}, m_candidates.Stitches[at]};
+        if (i > locked && m_from == FlossSource::Kind::FlossList) {
+            floss.Number = m_flossList->GetFlossManuID(i - locked);
+            floss.Name = m_flossList->GetFlossDesc(i - locked);
+        } else {
+            const Palette& palette = i <= locked ? *m_lockedPalette : *m_sourcePalette;
+            const int entry = i <= locked ? i : i - locked;
+            floss.Number = palette.GetManufID(entry);
+            floss.Name = palette.GetFlossShortDesc(entry);
+        }
+        flosses.push_back(std::move(floss));
+    }
+    return flosses;
 }
 
 ImportStatus ImportSession::CreateThePattern(Pattern& pattern, int maxColors, int clothCountX,
                                              int clothCountY) {
-    if (m_image.IsEmpty()) {
+    if (m_image->IsEmpty()) {
         return {ImportStatus::Outcome::Invalid, std::string(ImportMessages::NoImage)};
     }
-    if (m_preview.IsEmpty()) {
+    if (m_preview->IsEmpty()) {
         ImportStatus status = RecolorImage(maxColors);
         if (!status.IsDone()) {
             return status;
@@ -119,7 +185,7 @@ ImportStatus ImportSession::CreateThePattern(Pattern& pattern, int maxColors, in
     }
     m_target.ClothCountX = clothCountX;
     m_target.ClothCountY = clothCountY;
-    return WritePattern(m_preview, m_candidates, Source(), m_target, m_context->Progress, pattern,
+    return WritePattern(*m_preview, m_candidates, Source(), m_target, m_context->Progress, pattern,
                         m_figures);
 }
 

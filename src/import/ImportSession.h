@@ -5,10 +5,12 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "flosses/AvailColors.h"
 #include "flosses/Palette.h"
 #include "import/ImportCandidates.h"
+#include "import/ImportPreview.h"
 #include "import/ImportStatus.h"
 #include "import/PatternFromPicture.h"
 #include "import/Picture.h"
@@ -27,8 +29,9 @@ public:
 
     /// The picture to match: one pixel a stitch, pure white where it is erased. A preview of an
     /// earlier one is dropped.
+    void SetImage(SharedPicture image);
     void SetImage(Picture image);
-    [[nodiscard]] const Picture& Image() const { return m_image; }
+    [[nodiscard]] const Picture& Image() const { return *m_image; }
 
     /// The square of the pattern (from 0) that the picture's first pixel falls on, and the
     /// pattern's palette, whose flosses are locked. Drops the preview; flosses chosen already are
@@ -39,6 +42,8 @@ public:
     void ChooseCatalogue(const AvailColors& catalogue);
     void ChooseCurrentPalette(const Palette& patternPalette);
     void ChoosePalette(const Palette& palette);
+    /// No flosses are chosen any more.
+    void ChooseNothing();
 
     [[nodiscard]] const ImportCandidates& Candidates() const { return m_candidates; }
     /// What the number of colours becomes when flosses have been chosen.
@@ -48,22 +53,38 @@ public:
     [[nodiscard]] std::optional<std::string> ValidateMapping(int maxColors, bool flossList) const;
 
     [[nodiscard]] ImportStatus RecolorImage(int maxColors);
+    /// The same in two steps, so that the work between them may run on another thread: it has a
+    /// copy of all it reads, and the session stays on its own thread, whatever happens to it
+    /// meanwhile. The choices are to be validated first.
+    [[nodiscard]] PreviewWork PreparePreview(int maxColors) const;
+    /// Takes over what that work came to. False, with all as it was, if it was not done or if
+    /// picture or candidates are others now.
+    bool TakePreview(ImportPreview preview);
+    /// A preview of another number of colours does not count any more.
+    void DropPreviewUnlessOf(int maxColors);
     /// Makes the preview first if there is none. Cloth counts are those of a new pattern.
     [[nodiscard]] ImportStatus CreateThePattern(Pattern& pattern, int maxColors, int clothCountX,
                                                 int clothCountY);
 
     /// Empty until RecolorImage has run for the flosses chosen.
-    [[nodiscard]] const Picture& Preview() const { return m_preview; }
+    [[nodiscard]] const Picture& Preview() const { return *m_preview; }
+    /// The same, to be shown.
+    [[nodiscard]] const SharedPicture& PreviewPicture() const { return m_preview; }
+    /// The flosses of the preview that have stitches, by their candidates.
+    [[nodiscard]] std::vector<PreviewFloss> PreviewFlosses() const;
     /// Of the last CreateThePattern that was done.
     [[nodiscard]] const ImportFigures& Figures() const { return m_figures; }
 
 private:
     void BuildCandidates();
+    void DropPreview();
     [[nodiscard]] FlossSource Source() const;
 
     ProgramContext* m_context;
-    Picture m_image;
-    Picture m_preview;
+    SharedPicture m_image;   ///< never null
+    SharedPicture m_preview; ///< never null
+    int m_previewColors = 0; ///< asked for when the preview was made
+    int m_choices = 0;       ///< counts changes of picture and candidates
     ImportTarget m_target;
     std::optional<Palette> m_lockedPalette;
     FlossSource::Kind m_from = FlossSource::Kind::None;

@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <memory>
 #include <optional>
 
 #include "import/ImportSession.h"
@@ -12,9 +11,6 @@
 #include "model/ZOLTypes.h"
 
 namespace zol {
-
-/// A picture that several screens show and none of them changes: who changes one makes a new one.
-using SharedPicture = std::shared_ptr<const Picture>;
 
 /// What the screens of one import hand on to each other. Lives as long as the wizard, so that an
 /// import that was left goes on where it stood.

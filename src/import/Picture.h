@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 #include "model/ZOLTypes.h"
@@ -69,5 +70,8 @@ private:
     int m_height = 0;
     std::vector<Colour> m_pixels;
 };
+
+/// A picture that several screens show and none of them changes: who changes one makes a new one.
+using SharedPicture = std::shared_ptr<const Picture>;
 
 } // namespace zol

@@ -141,7 +141,7 @@ void FillByColumns(const DistinctColours& colours, const std::vector<Colour>& sh
 }
 
 /// The second matching, among the survivors.
-bool MatchAgain(const DistinctColours& colours, const ImportCandidates& candidates,
+bool MatchAgain(const DistinctColours& colours, ImportCandidates& candidates,
                 std::string_view colorWord, ProgressDoor* door, Picture& picture) {
     ImportProgress progress(door, ImportMessages::Reducing(colorWord),
                             static_cast<std::int64_t>(colours.Places.size()));
@@ -150,7 +150,10 @@ bool MatchAgain(const DistinctColours& colours, const ImportCandidates& candidat
         return false;
     }
     for (const std::uint32_t place : colours.Places) {
-        static_cast<void>(matches.MatchOf(place));
+        const int match = matches.MatchOf(place);
+        if (match != ColourMatches::Erased) {
+            ++candidates.Stitches[static_cast<std::size_t>(match)];
+        }
         if (!progress.Step()) {
             return false;
         }
