@@ -62,7 +62,13 @@ void KeyPages::PrintTitle() {
     }
     m_canvas.Fill({m_left, y + 50, FrameWidth(), 30}, Qt::black);
     m_canvas.Rule(m_left, y + 150, m_usableW, y + 150, m_canvas.Hairline());
-    m_currentY = y + 150 + 50;
+    m_freshY = y + 150 + 50;
+    m_currentY = m_freshY;
+}
+
+void KeyPages::GoOnAt(int page) {
+    m_pageNo = page - 1;
+    NewKeyPage();
 }
 
 void KeyPages::NeedRoom(double height) {

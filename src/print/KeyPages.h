@@ -19,6 +19,8 @@ public:
 
     /// Starts the next page: copyright at its foot, title and rules at its head.
     void NewKeyPage();
+    /// Leaves the pages before it out: the next page is `page`.
+    void GoOnAt(int page);
     /// A row of the cover's table with a hairline under it; a label without a value takes the
     /// whole width. Long texts wrap, and flow over pages.
     void PrintInfoRow(const QString& label, const QString& value);
@@ -35,6 +37,9 @@ public:
     [[nodiscard]] double Right() const { return m_usableW; }
     [[nodiscard]] double Bottom() const { return m_usableH; }
     [[nodiscard]] double FrameWidth() const { return m_usableW - m_left; }
+    /// Below the title of a page on which nothing stands yet.
+    [[nodiscard]] double FreshHeight() const { return m_usableH - m_freshY; }
+    [[nodiscard]] int WantedPage() const { return m_wantedPage; }
 
 private:
     void PrintTitle();
@@ -49,6 +54,7 @@ private:
     double m_top = 0;
     double m_usableW = 0; ///< right limit of rows
     double m_usableH = 0; ///< bottom limit of rows
+    double m_freshY = 0;  ///< where a page's content begins
     double m_currentY = 0;
 };
 

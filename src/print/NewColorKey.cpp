@@ -6,11 +6,9 @@
 #include <algorithm>
 
 #include "model/Rounding.h"
-#include "model/RunTimeError.h"
+#include "print/KeyInstructions.h"
 #include "print/KeySectionPainter.h"
 #include "print/PageText.h"
-#include "print/RTFFuncs.h"
-#include "print/TextFormatter.h"
 
 namespace zol {
 
@@ -71,7 +69,7 @@ void NewColorKey::PrintColorKey(PageDevice* target, ProgressDoor* progress, bool
         }
     }
     if (wantsMore()) {
-        PrintInstructions(pages);
+        KeyInstructions(*m_job, pages).Print(countOnly);
     }
     if (countOnly) {
         m_job->SetKeyPages(pages.PageNo());
@@ -108,36 +106,6 @@ void NewColorKey::PrintKeySection(KeyPages& pages, const KeyRows& rows, const Ke
     KeySectionPainter painter(*m_job, pages, section,
                               rows.MeasureKeyColumns(section, pages.Font()));
     painter.Print();
-}
-
-void NewColorKey::PrintInstructions(KeyPages& pages) {
-    const PlainTextFormatter text(
-        RTFFuncs::PrintableInstructions(m_job->PrintPattern()->Instructions), pages.Font());
-    if (text.Length() == 0) {
-        return;
-    }
-    const double lineHeight = pages.Font().TextHeight();
-    const double air = lineHeight / 2;
-    pages.NeedRoom(4 * lineHeight);
-    pages.PrintInfoRow(QStringLiteral("Instructions:"), QString());
-    int position = 0;
-    for (;;) {
-        if (pages.PageNo() + 1 > LastNotePosition) {
-            throw RunTimeError(ErrSubscript);
-        }
-        const double top = pages.CurrentY() + air;
-        const QRectF room(pages.Left() + air, top + air, pages.FrameWidth() - 2 * air,
-                          pages.Bottom() - top - 2 * air);
-        const TextFormatter::Piece piece = text.FormatRange(pages.Canvas(), room, position);
-        pages.Canvas().Frame({pages.Left(), top, pages.FrameWidth(), piece.Height + 2 * air},
-                             pages.Canvas().Hairline());
-        position = piece.Next;
-        if (position >= text.Length()) {
-            pages.MoveDown(piece.Height + 3 * air);
-            return;
-        }
-        pages.NewKeyPage();
-    }
 }
 
 } // namespace zol

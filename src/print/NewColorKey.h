@@ -14,9 +14,6 @@ namespace zol {
 /// flosses, and the pattern's instructions. Also counts them.
 class NewColorKey {
 public:
-    /// Instructions end by this key page, or the key fails.
-    static constexpr int LastNotePosition = 100;
-
     /// The job must outlive this.
     explicit NewColorKey(PrintFuncs& job);
 
@@ -29,7 +26,6 @@ private:
     bool Step(ProgressDoor* progress, int percent);
     void PrintPatternInfo(KeyPages& pages);
     void PrintKeySection(KeyPages& pages, const KeyRows& rows, const KeySection& section);
-    void PrintInstructions(KeyPages& pages);
 
     PrintFuncs* m_job;
 };

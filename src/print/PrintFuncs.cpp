@@ -53,12 +53,19 @@ void PrintFuncs::SetPrinter(PageDevice* printer) {
     InitPrinter();
 }
 
+void PrintFuncs::SetOptions(PrintOptions options) {
+    m_options = std::move(options);
+    m_keyNotePositions = {};
+}
+
 void PrintFuncs::SetPattern(Pattern& pattern) {
+    m_keyNotePositions = {};
     m_pattern = &pattern;
     m_numberOffset = {};
 }
 
 void PrintFuncs::SetSelection(Pattern& selection, SquarePos corner) {
+    m_keyNotePositions = {};
     m_pattern = &selection;
     m_numberOffset = {corner.X - 1, corner.Y - 1};
 }

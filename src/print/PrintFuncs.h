@@ -4,10 +4,13 @@
 #pragma once
 
 #include <QPointF>
+#include <QSizeF>
 #include <QString>
 #include <QStringList>
 
 #include <memory>
+#include <utility>
+#include <vector>
 
 #include "grid/painting/GridPainter.h"
 #include "model/Doors.h"
@@ -23,6 +26,13 @@ struct PageRange {
     SquareRect Squares{1, 1, 0, 0}; ///< empty if there is no such page
     double OriginX = 0;
     double OriginY = 0;
+};
+
+/// Where the instructions go on, page by page, as counting the key has found it.
+struct KeyNotes {
+    QSizeF Room;                ///< of a fresh page in twips, for which the positions hold
+    int FirstPage = 0;          ///< key page on which the instructions begin
+    std::vector<int> Positions; ///< at the start of that page and of those behind it
 };
 
 /// Frame of the colour key's pages, in twips from the paper's edges.
@@ -52,7 +62,8 @@ public:
     bool InitPrinter();
 
     [[nodiscard]] const PrintOptions& Options() const { return m_options; }
-    void SetOptions(PrintOptions options) { m_options = std::move(options); }
+    /// The key is to be counted again.
+    void SetOptions(PrintOptions options);
     [[nodiscard]] PageDevice* Printer() const { return m_printer; }
     /// Takes the paper's measures from another device; may be null, and must outlive this. Pages
     /// are to be counted again if its paper has another size.
@@ -95,6 +106,8 @@ public:
     [[nodiscard]] int PatternPages() const { return m_patternPages; }
     [[nodiscard]] int KeyPages() const { return m_keyPages; }
     void SetKeyPages(int pages) { m_keyPages = pages; }
+    [[nodiscard]] const KeyNotes& KeyNotePositions() const { return m_keyNotePositions; }
+    void SetKeyNotePositions(KeyNotes notes) { m_keyNotePositions = std::move(notes); }
     [[nodiscard]] bool PrintCancelled() const { return m_printCancelled; }
     void SetPrintCancelled(bool cancelled) { m_printCancelled = cancelled; }
     [[nodiscard]] bool PreviewMode() const { return m_previewMode; }
@@ -143,6 +156,7 @@ private:
     int m_printPage = 0;
     int m_patternPages = 0;
     int m_keyPages = 0;
+    KeyNotes m_keyNotePositions;
     bool m_printCancelled = false;
     bool m_previewMode = false;
     bool m_printerPresent = false;

@@ -3,7 +3,6 @@
 
 #include "print/RTFFuncs.h"
 
-#include <QTextBlock>
 #include <QTextDocument>
 
 #include <string_view>
@@ -18,19 +17,6 @@ namespace RTFFuncs {
 namespace {
 
 constexpr std::string_view RtfStart = "{\\rtf";
-
-QString WordsOf(const QTextDocument& document) {
-    QString words;
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        if (block.textList() != nullptr) {
-            words += QStringLiteral("\u2022 ");
-        }
-        words += block.text();
-        words += QLatin1Char('\n');
-    }
-    words.replace(QChar(QChar::LineSeparator), QLatin1Char('\n'));
-    return words.trimmed();
-}
 
 } // namespace
 
@@ -64,15 +50,6 @@ std::string SaveInstructions(const QTextDocument& document, const std::string& b
         return before;
     }
     return document.isEmpty() ? std::string() : SaveRichText(document);
-}
-
-QString PrintableInstructions(const std::string& instructions) {
-    if (!IsRichText(instructions)) {
-        return QString::fromStdString(instructions);
-    }
-    QTextDocument document;
-    LoadRichText(document, instructions);
-    return WordsOf(document);
 }
 
 } // namespace RTFFuncs

@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include <QString>
-
 #include <string>
 
 class QTextDocument;
@@ -30,10 +28,6 @@ void LoadInstructions(QTextDocument& document, const std::string& instructions);
 /// so that nothing is lost by looking; then rich text, or an empty text if nothing is left.
 [[nodiscard]] std::string SaveInstructions(const QTextDocument& document,
                                            const std::string& before);
-
-/// The instructions as they are printed while formatting is not: plain text as it stands; rich text
-/// by its words, paragraphs as lines, items of lists behind a bullet.
-[[nodiscard]] QString PrintableInstructions(const std::string& instructions);
 
 } // namespace RTFFuncs
 

@@ -76,6 +76,10 @@ PlainTextFormatter::PlainTextFormatter(QString text, PageFont font)
     m_text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
 }
 
+double PlainTextFormatter::FirstLineHeight(double /*width*/) const {
+    return m_font.TextHeight();
+}
+
 TextFormatter::Piece PlainTextFormatter::FormatRange(const PageCanvas& canvas, const QRectF& room,
                                                      int from) const {
     const double lineHeight = m_font.TextHeight();

@@ -41,6 +41,8 @@ public:
     TextFormatter& operator=(const TextFormatter&) = delete;
 
     [[nodiscard]] virtual int Length() const = 0;
+    /// Twips that the text's first line takes in a room of that width.
+    [[nodiscard]] virtual double FirstLineHeight(double width) const = 0;
     /// `room` in twips of the canvas. A piece always moves on, by a line if nothing fits.
     virtual Piece FormatRange(const PageCanvas& canvas, const QRectF& room, int from) const = 0;
 };
@@ -50,6 +52,7 @@ public:
     PlainTextFormatter(QString text, PageFont font);
 
     [[nodiscard]] int Length() const override { return static_cast<int>(m_text.size()); }
+    [[nodiscard]] double FirstLineHeight(double width) const override;
     Piece FormatRange(const PageCanvas& canvas, const QRectF& room, int from) const override;
 
 private:
