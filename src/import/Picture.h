@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "model/ZOLTypes.h"
@@ -36,6 +37,16 @@ public:
     Picture() = default;
     /// A picture of pure white.
     Picture(int width, int height) { NewBitmap(width, height); }
+    /// Rows of that width, one after the other; their pixels are taken over. A last row that is
+    /// not whole is dropped.
+    Picture(int width, std::vector<Colour> pixels) {
+        if (width > 0 && pixels.size() >= static_cast<std::size_t>(width)) {
+            m_width = width;
+            m_height = static_cast<int>(pixels.size() / static_cast<std::size_t>(width));
+            m_pixels = std::move(pixels);
+            m_pixels.resize(static_cast<std::size_t>(m_width) * static_cast<std::size_t>(m_height));
+        }
+    }
 
     /// Starts over at that size, all pure white. A side below 1 gives the empty picture.
     void NewBitmap(int width, int height) {

@@ -30,6 +30,16 @@ TEST(PictureOps, NewBitmapIsPureWhite) {
     EXPECT_EQ(Picture(0, 5).ImageHeight(), 0);
 }
 
+TEST(PictureOps, TakesWholeRowsOver) {
+    const Picture picture(2, std::vector<Colour>{1, 2, 3, 4, 5});
+    EXPECT_EQ(picture.ImageWidth(), 2);
+    EXPECT_EQ(picture.ImageHeight(), 2);
+    EXPECT_EQ(picture.ImagePixel(1, 1), 4U);
+    EXPECT_EQ(picture.Pixels().size(), 4U);
+    EXPECT_TRUE(Picture(3, std::vector<Colour>{1, 2}).IsEmpty());
+    EXPECT_TRUE(Picture(0, std::vector<Colour>{1, 2}).IsEmpty());
+}
+
 TEST(PictureOps, DepthKeepsFiveBitsAndRepeatsTheUpperThree) {
     Picture picture(1, 1);
     for (unsigned c = 0; c < 256; ++c) {
