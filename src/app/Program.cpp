@@ -62,8 +62,9 @@ void Program::CreatePattern() {
 }
 
 Workshop Program::GetWorkshop() {
-    return {m_context, m_store, m_options, m_doors.Messages, m_doors.Files, m_doors.Printers,
-            m_pattern, m_open,  m_steps,   m_recentFiles,    m_autoSave};
+    return {m_context,     m_store,          m_options,        m_doors.Messages,
+            m_doors.Files, m_doors.Printers, m_doors.Scanners, m_pattern,
+            m_open,        m_steps,          m_recentFiles,    m_autoSave};
 }
 
 void Program::End() {

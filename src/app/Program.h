@@ -18,6 +18,7 @@ struct UserDoors {
     MessageDoor& Messages;
     FileDoor& Files;
     PrinterDoor& Printers;
+    ScannerDoor& Scanners;
     basAutoSave::Clock Clock = &std::chrono::steady_clock::now; ///< what auto-save goes by
 };
 

@@ -10,6 +10,7 @@
 #include "app/Arguments.h"
 #include "app/basMain.h"
 #include "grid/windows/frmDesignGrid.h"
+#include "import/scan/SaneScanner.h"
 #include "print/windows/SystemPrinter.h"
 #include "windowkit/IconFamily.h"
 #include "windowkit/QtUserDoor.h"
@@ -49,7 +50,8 @@ int Run(int argc, char** argv) {
     zol::Theme::Apply(app);
     zol::QtUserDoor user;
     zol::SystemPrinter printers;
-    zol::basMain program(arguments, {user, user, printers});
+    zol::SaneScanner scanners;
+    zol::basMain program(arguments, {user, user, printers, scanners});
     if (!program.Start()) {
         return program.ExitCode();
     }

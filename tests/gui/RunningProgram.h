@@ -23,6 +23,7 @@
 #include "grid/windows/frmDesignGrid.h"
 #include "support/DialogHands.h"
 #include "support/ScriptedPrinter.h"
+#include "support/ScriptedScanner.h"
 #include "support/ScriptedUser.h"
 #include "support/TestPaths.h"
 
@@ -86,7 +87,8 @@ public:
         : RunningProgram(home.CalledWith(commandLine)) {}
     explicit RunningProgram(const Arguments& arguments,
                             const basAutoSave::Clock& clock = &std::chrono::steady_clock::now)
-        : m_main(std::make_unique<basMain>(arguments, UserDoors{User, User, Printers, clock})) {}
+        : m_main(std::make_unique<basMain>(arguments,
+                                           UserDoors{User, User, Printers, Scanners, clock})) {}
 
     /// Shown at a size that tests can rely on.
     [[nodiscard]] bool Start() {
@@ -143,6 +145,7 @@ public:
 
     ScriptedUser User;
     ScriptedPrinter Printers;
+    ScriptedScanner Scanners;
 
 private:
     std::unique_ptr<basMain> m_main;

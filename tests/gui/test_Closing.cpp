@@ -33,6 +33,7 @@ private Q_SLOTS:
 
 private:
     ScriptedPrinter m_printers;
+    ScriptedScanner m_scanners;
 };
 
 void ClosingTest::UnchangedClosesWithoutAQuestion() {
@@ -163,7 +164,7 @@ void ClosingTest::MaximizedComesBackMaximized() {
         program.End();
     }
     ScriptedUser nobody;
-    basMain second(home.CalledWith(), UserDoors{nobody, nobody, m_printers});
+    basMain second(home.CalledWith(), UserDoors{nobody, nobody, m_printers, m_scanners});
     QVERIFY(second.Start());
     QTRY_VERIFY(second.MainWindow().isMaximized());
     second.End();
@@ -174,7 +175,7 @@ void ClosingTest::PlaceOutsideEveryScreenComesBack() {
     WriteText(home / "settings.ini", "[Options]\nFormLeft=-30000\nFormTop=9000\n"
                                      "FormWidth=900\nFormHeight=700\nWinState=1\n");
     ScriptedUser nobody;
-    basMain program(home.CalledWith(), UserDoors{nobody, nobody, m_printers});
+    basMain program(home.CalledWith(), UserDoors{nobody, nobody, m_printers, m_scanners});
     QVERIFY(program.Start());
     QVERIFY(!program.MainWindow().isMinimized());
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
@@ -188,7 +189,7 @@ void ClosingTest::UnwritableSettingsAreToldOnce() {
     ScriptedUser user;
     Arguments arguments = home.CalledWith();
     arguments.Settings = home / "file" / "settings.ini";
-    basMain program(arguments, UserDoors{user, user, m_printers});
+    basMain program(arguments, UserDoors{user, user, m_printers, m_scanners});
     QVERIFY(program.Start());
     QVERIFY(program.MainWindow().isVisible());
     QVERIFY(user.told.empty());
@@ -201,7 +202,7 @@ void ClosingTest::UnwritableSettingsAreToldOnce() {
 void ClosingTest::RealMessageBoxAsks() {
     const ProgramHome home;
     QtUserDoor door;
-    basMain program(home.CalledWith(), UserDoors{door, door, m_printers});
+    basMain program(home.CalledWith(), UserDoors{door, door, m_printers, m_scanners});
     QVERIFY(program.Start());
     door.SetParent(&program.MainWindow());
     program.MainWindow().Modes().SetDrawMode(DrawStitches);

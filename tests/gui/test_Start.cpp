@@ -30,6 +30,7 @@ private Q_SLOTS:
 private:
     ScriptedUser m_nobody;
     ScriptedPrinter m_printers;
+    ScriptedScanner m_scanners;
 };
 
 void StartTest::StartsWithTheStartPattern() {
@@ -110,7 +111,7 @@ void StartTest::RemembersItsPlace() {
         QVERIFY(program.Window().close());
         program.End();
     }
-    basMain second(home.CalledWith(), UserDoors{m_nobody, m_nobody, m_printers});
+    basMain second(home.CalledWith(), UserDoors{m_nobody, m_nobody, m_printers, m_scanners});
     QVERIFY(second.Start());
     QTRY_COMPARE(second.MainWindow().geometry(), QRect(40, 60, 900, 620));
     second.End();

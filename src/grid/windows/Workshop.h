@@ -4,6 +4,7 @@
 #pragma once
 
 #include "grid/tools/Undo.h"
+#include "import/scan/ScannerDoor.h"
 #include "model/Doors.h"
 #include "model/OpenDesign.h"
 #include "model/ProgramContext.h"
@@ -23,6 +24,7 @@ struct Workshop {
     MessageDoor& Messages;
     FileDoor& Files;
     PrinterDoor& Printers;
+    ScannerDoor& Scanners;
     Pattern& CurrentPattern; ///< lives for the whole run; loads refill it
     DesignHolder& Open;
     Undo& Steps;
