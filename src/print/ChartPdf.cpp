@@ -21,7 +21,7 @@ std::string PrepareJob(PrintFuncs& functions, const ChartPdfOptions& options) {
         functions.FitToPage();
     }
     if (functions.ColumnsPerPage() <= 0 || functions.RowsPerPage() <= 0) {
-        return "A page with these margins holds no whole square.";
+        return NoSquareText;
     }
     if (options.Print.PrintColorKey) {
         functions.CountKeyPages();

@@ -26,6 +26,9 @@ struct PrintRequestFault {
 /// The first fault in the order of the checks; PrintField::None if the job may run.
 [[nodiscard]] PrintRequestFault CheckPrintRequest(const PrintRequest& request);
 
+/// What is said where the checks above find nothing and there is nothing to print all the same.
+inline constexpr char NoSquareText[] = "A page with these margins holds no whole square.";
+
 /// "All:   (1 Page)", "All:   (7 Pages)".
 [[nodiscard]] std::string AllPagesCaption(int pages);
 /// The last page that can be asked for: `pageCount` is GetPageCount's.

@@ -208,6 +208,19 @@ void SaveOptions(const Options& options, SettingsDoor& store) {
             }
         }
     }
+    SavePrintStyles(options, store);
+}
+
+void SaveOption(const Options& options, SettingsDoor& store, std::string_view section,
+                std::string_view name) {
+    for (const OptionRow& row : OptionRows(section)) {
+        if (name == row.Name) {
+            WriteIfOther(store, row.Section, row.Name, TextOf(options, row));
+        }
+    }
+}
+
+void SavePrintStyles(const Options& options, SettingsDoor& store) {
     WriteIfOther(store, printerSection, stitchStyle, std::to_string(options.StitchSymbol));
     WriteIfOther(store, printerSection, lineStyle, std::to_string(options.BackStitchSymbol));
 }

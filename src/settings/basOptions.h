@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <string_view>
+
 #include "model/Doors.h"
 #include "model/ProgramContext.h"
 #include "settings/Options.h"
@@ -20,6 +22,12 @@ namespace zol::basOptions {
 
 /// Writes the options that the options dialog edits, and no others, as defaults of later runs.
 void SaveOptions(const Options& options, SettingsDoor& store);
+
+/// Writes one of them by its section and name in the store.
+void SaveOption(const Options& options, SettingsDoor& store, std::string_view section,
+                std::string_view name);
+/// Writes the print styles of stitches and lines.
+void SavePrintStyles(const Options& options, SettingsDoor& store);
 
 /// What choices in the record lead to: colours by their indexes, the floss file's catalogue, the
 /// context.

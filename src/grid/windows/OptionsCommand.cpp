@@ -6,17 +6,20 @@
 #include <utility>
 
 #include "grid/windows/MainCommands.h"
-#include "settings/windows/frmOptions.h"
 
 namespace zol {
 
 OptionsCommand::OptionsCommand(MainCommands& commands, OptionsDesk desk, QWidget& window)
     : m_desk(std::move(desk)),
       m_window(window) {
-    commands.Connect("mnuViewOptions", &m_window, [this] {
-        frmOptions dialog(m_desk, &m_window);
-        dialog.exec();
-    });
+    commands.Connect("mnuViewOptions", &m_window,
+                     [this] { Open(frmOptions::DesignGridPage, &m_window); });
+}
+
+void OptionsCommand::Open(frmOptions::Page page, QWidget* parent) {
+    frmOptions dialog(m_desk, parent);
+    dialog.ShowPage(page);
+    dialog.exec();
 }
 
 } // namespace zol

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "settings/windows/OptionsDesk.h"
+#include "settings/windows/frmOptions.h"
 
 class QWidget;
 
@@ -15,6 +16,8 @@ class MainCommands;
 class OptionsCommand {
 public:
     OptionsCommand(MainCommands& commands, OptionsDesk desk, QWidget& window);
+
+    void Open(frmOptions::Page page, QWidget* parent);
 
 private:
     OptionsDesk m_desk;

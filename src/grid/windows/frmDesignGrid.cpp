@@ -27,6 +27,7 @@
 #include "grid/windows/PaletteCommands.h"
 #include "grid/windows/PaletteFileCommands.h"
 #include "grid/windows/PaletteStrip.h"
+#include "grid/windows/PrintCommands.h"
 #include "grid/windows/PropertiesCommands.h"
 #include "grid/windows/SizingCommands.h"
 #include "grid/windows/StatusLine.h"

@@ -34,6 +34,7 @@ class OptionsCommand;
 class PaletteCommands;
 class PaletteFileCommands;
 class PaletteStrip;
+class PrintCommands;
 class PropertiesCommands;
 class SizingCommands;
 class StatusLine;
@@ -86,6 +87,7 @@ private:
     void SetUpCommands();
     void SetUpZoomCommands();
     void SetUpOptions();
+    void SetUpPrinting();
     void ConnectGrid();
     void ConnectPalette();
     void OrderTabs();
@@ -127,6 +129,7 @@ private:
     std::unique_ptr<SizingCommands> m_sizing;
     std::unique_ptr<OptionsCommand> m_options;
     std::unique_ptr<PaletteFileCommands> m_paletteFiles;
+    std::unique_ptr<PrintCommands> m_print;
 };
 
 } // namespace zol

@@ -28,6 +28,7 @@
 #include "grid/windows/PaletteCommands.h"
 #include "grid/windows/PaletteFileCommands.h"
 #include "grid/windows/PaletteStrip.h"
+#include "grid/windows/PrintCommands.h"
 #include "grid/windows/PropertiesCommands.h"
 #include "grid/windows/SizingCommands.h"
 #include "grid/windows/StatusLine.h"
@@ -36,6 +37,7 @@
 #include "grid/windows/frmDesignGrid.h"
 #include "grid/windows/frmPopups.h"
 #include "grid/windows/frmZoom.h"
+#include "settings/windows/frmOptions.h"
 
 namespace zol {
 
@@ -153,6 +155,7 @@ void frmDesignGrid::SetUpCommands() {
     m_commands->Connect("mnuFileExit", this, [this] { close(); });
     SetUpZoomCommands();
     SetUpOptions();
+    SetUpPrinting();
 }
 
 void frmDesignGrid::SetUpOptions() {
@@ -173,6 +176,12 @@ void frmDesignGrid::SetUpOptions() {
         PaletteFileCommands::Followers{
             [this] { EndTool(); }, [this] { FollowDesign(); },
             [this](const std::string& text) { m_toolView->ShowSummary(text); }});
+}
+
+void frmDesignGrid::SetUpPrinting() {
+    m_print = std::make_unique<PrintCommands>(
+        *m_commands, m_workshop, m_modes->Box(), *this,
+        [this](QWidget* parent) { m_options->Open(frmOptions::PrintoutsPage, parent); });
 }
 
 void frmDesignGrid::SetUpZoomCommands() {

@@ -6,7 +6,6 @@
 #include <QDialogButtonBox>
 #include <QLocale>
 #include <QPageSetupDialog>
-#include <QPageSize>
 #include <QPrintDialog>
 #include <QPrintEngine>
 #include <QPrinter>
@@ -15,6 +14,8 @@
 
 #include <algorithm>
 
+#include "print/Paper.h"
+
 namespace zol {
 
 namespace {
@@ -22,13 +23,6 @@ namespace {
 /// Under this key the print engine keeps what was chosen among the options of the print server, as
 /// a list of names and values by turns. Qt gives it no public name.
 constexpr auto CupsOptionsKey = static_cast<QPrintEngine::PrintEnginePropertyKey>(0xfe00);
-
-/// The paper of PDFs where no printer says another one.
-QPageLayout DefaultPaper() {
-    const bool letter = QLocale().measurementSystem() == QLocale::ImperialUSSystem;
-    return {QPageSize(letter ? QPageSize::Letter : QPageSize::A4), QPageLayout::Portrait,
-            QMarginsF(), QPageLayout::Point};
-}
 
 QByteArray SidesOf(const QPrinter& printer) {
     const bool portrait = printer.pageLayout().orientation() == QPageLayout::Portrait;
@@ -55,7 +49,7 @@ QMarginsF OutsideBorder(const QMarginsF& margins, const QMarginsF& border) {
 
 SystemPrinter::SystemPrinter()
     : m_pages([this](const std::filesystem::path& pdf) { return HandOver(pdf); }) {
-    m_pages.SetPaper(DefaultPaper());
+    m_pages.SetPaper(zol::Paper(QLocale()).Layout());
 }
 
 SystemPrinter::~SystemPrinter() = default;
