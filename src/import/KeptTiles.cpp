@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#include "import/KeptTiles.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "import/PictureOps.h"
+
+namespace zol {
+
+namespace {
+
+constexpr int Side = 64;
+
+} // namespace
+
+PixelRect KeptTiles::RectOf(const Picture& image, Place place) {
+    return ClipToPicture({place.Column * Side, place.Row * Side, Side, Side}, image.ImageWidth(),
+                         image.ImageHeight());
+}
+
+void KeptTiles::Keep(const Picture& image, const PixelRect& rect) {
+    if (rect.Width < 1 || rect.Height < 1) {
+        return;
+    }
+    for (int row = rect.Top / Side; row <= (rect.Top + rect.Height - 1) / Side; ++row) {
+        for (int column = rect.Left / Side; column <= (rect.Left + rect.Width - 1) / Side;
+             ++column) {
+            const auto [tile, isNew] = m_tiles.try_emplace(Place{row, column});
+            if (isNew) {
+                const PixelRect part = RectOf(image, tile->first);
+                for (int y = part.Top; y < part.Top + part.Height; ++y) {
+                    const Colour* from = image.Row(y) + part.Left;
+                    tile->second.insert(tile->second.end(), from, from + part.Width);
+                }
+            }
+        }
+    }
+}
+
+PixelRect KeptTiles::PutBack(Picture& image) const {
+    int left = std::numeric_limits<int>::max();
+    int top = left;
+    int right = 0;
+    int bottom = 0;
+    for (const auto& [place, pixels] : m_tiles) {
+        const PixelRect part = RectOf(image, place);
+        auto from = pixels.begin();
+        for (int y = part.Top; y < part.Top + part.Height; ++y) {
+            std::copy_n(from, part.Width, image.Row(y) + part.Left);
+            from += part.Width;
+        }
+        left = std::min(left, part.Left);
+        top = std::min(top, part.Top);
+        right = std::max(right, part.Left + part.Width);
+        bottom = std::max(bottom, part.Top + part.Height);
+    }
+    return m_tiles.empty() ? PixelRect{} : PixelRect{left, top, right - left, bottom - top};
+}
+
+} // namespace zol
