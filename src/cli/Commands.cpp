@@ -28,10 +28,12 @@ constexpr std::array commands{
             "    [--margins L,R,T,B] [--no-grid] [--no-key] [--no-page-numbers] [--pages A-B]",
             "print chart pages and colour key to a PDF"},
     Command{"render", RunRender, true,
-            "render FILE -o OUT.png|.bmp [--style 1..6] [--pixels-per-square N] [--grid]\n"
-            "    [--area X1,Y1,X2,Y2]",
+            "render FILE -o OUT.png|.bmp|.svg|.pdf [--style 1..6]\n"
+            "    [--pixels-per-square N] [--grid] [--area X1,Y1,X2,Y2]",
             "paint a pattern as a picture"},
     Command{"usage", RunUsage, false, "usage FILE [--json | --csv]", "the floss usage report"},
+    Command{"legend", RunLegend, true, "legend FILE -o OUT.rtf",
+            "a pattern's facts and key as rich text"},
     Command{"catalogue", RunCatalogue, false,
             "catalogue build IN.csv -o OUT.col --name N --short-name S --base-id B",
             "make a floss catalogue from a table"},

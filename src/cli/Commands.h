@@ -24,6 +24,7 @@ void RunImport(Environment& environment, const CommandWords& words);
 void RunChart(Environment& environment, const CommandWords& words);
 void RunRender(Environment& environment, const CommandWords& words);
 void RunUsage(Environment& environment, const CommandWords& words);
+void RunLegend(Environment& environment, const CommandWords& words);
 void RunCatalogue(Environment& environment, const CommandWords& words);
 
 struct Command {

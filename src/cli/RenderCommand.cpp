@@ -2,30 +2,30 @@
 // SPDX-License-Identifier: MIT
 
 #include <QBuffer>
-#include <QImage>
 
 #include "cli/CommandLine.h"
 #include "cli/Commands.h"
 #include "grid/GridOptions.h"
-#include "grid/painting/GridPainter.h"
 #include "model/CodePage.h"
-#include "model/RunTimeError.h"
+#include "model/SafeFile.h"
+#include "print/basExport.h"
 
 namespace zol {
 
 namespace {
 
-constexpr std::int64_t maxPictureBytes = 800'000'000;
 constexpr int maxPixelsPerSquare = 200;
 constexpr int defaultPixelsPerSquare = 10;
 
-const char* FormatOf(const std::string& fileName) {
+PictureFormat FormatOf(const std::string& fileName) {
     const std::string name = LowerCase(fileName);
-    if (name.ends_with(".bmp")) {
-        return "BMP";
+    for (const char* ending : {".bmp", ".png", ".svg", ".pdf"}) {
+        if (name.ends_with(ending)) {
+            return PictureFormatOf(PathOf(fileName));
+        }
     }
-    if (name.ends_with(".png") || fileName == "-") {
-        return "PNG";
+    if (fileName == "-") {
+        return PictureFormat::Png;
     }
     throw CommandFailed("no picture format is known by the ending of " + fileName);
 }
@@ -52,32 +52,6 @@ SquareRect AreaOf(const CommandLine& line, const Pattern& pattern) {
     return area;
 }
 
-PaintOptions OptionsFor(const Options& options, int style, bool gridLines) {
-    PaintOptions paint = GridPaintOptions(options, TargetPicture);
-    paint.StitchStyle = style;
-    paint.GridLines = gridLines;
-    return paint;
-}
-
-QImage PaintPicture(const GridView& view, const SquareRect& area) {
-    const int pixelsX = ToPixel(view.Scale.SquareTwipsX, view.Scale.TwipsPerPixelX);
-    const int pixelsY = ToPixel(view.Scale.SquareTwipsY, view.Scale.TwipsPerPixelY);
-    const std::int64_t width = std::int64_t{pixelsX} * (area.Right - area.Left + 1);
-    const std::int64_t height = std::int64_t{pixelsY} * (area.Bottom - area.Top + 1);
-    if (width * height * 4 > maxPictureBytes) {
-        throw RunTimeError(ErrOutOfMemory);
-    }
-    QImage image(static_cast<int>(width), static_cast<int>(height), QImage::Format_RGB32);
-    if (image.isNull()) {
-        throw RunTimeError(ErrOutOfMemory);
-    }
-    GridPainter painter;
-    painter.Symbols().SetFont(view.Source->GetPalette());
-    painter.PaintImage(image, QPoint((area.Left - 1) * pixelsX, (area.Top - 1) * pixelsY), view,
-                       area);
-    return image;
-}
-
 } // namespace
 
 void RunRender(Environment& environment, const CommandWords& words) {
@@ -90,22 +64,23 @@ void RunRender(Environment& environment, const CommandWords& words) {
     const std::string output = line.Required("-o");
     const auto style = line.Integer("--style", ShowColorSquares, ShowVStitches);
     const auto pixels = line.Integer("--pixels-per-square", 1, maxPixelsPerSquare);
-    const char* format = FormatOf(output);
+    const PictureFormat format = FormatOf(output);
 
     Pattern pattern(environment.Context());
     environment.LoadPattern(pattern, line.Files()[0]);
-    const SquareRect area = AreaOf(line, pattern);
-    GridView view;
-    view.Source = &pattern;
-    view.Scale =
-        GridScale::ForPicture(static_cast<int>(pixels.value_or(defaultPixelsPerSquare)),
-                              pattern.GetPatternClothCountX(), pattern.GetPatternClothCountY());
-    view.Options =
-        OptionsFor(environment.GetOptions(), static_cast<int>(style.value_or(ShowColorSquares)),
-                   line.Has("--grid"));
-    const QImage image = PaintPicture(view, area);
+    PatternPicture picture;
+    picture.Source = &pattern;
+    picture.Squares = AreaOf(line, pattern);
+    picture.PixelsPerSquare = static_cast<int>(pixels.value_or(defaultPixelsPerSquare));
+    picture.Paint = GridPaintOptions(environment.GetOptions(), TargetPicture);
+    picture.Paint.StitchStyle = static_cast<int>(style.value_or(ShowColorSquares));
+    picture.Paint.GridLines = line.Has("--grid");
+    if (!picture.IsPossible()) {
+        throw CommandFailed(ExportMemoryText);
+    }
     QBuffer buffer;
-    if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, format)) {
+    if (!buffer.open(QIODevice::WriteOnly) ||
+        !WritePicture(picture, {}, format, buffer, environment.Context().Progress)) {
         throw CommandFailed("the picture cannot be encoded");
     }
     const QByteArray& bytes = buffer.data();

@@ -6,7 +6,7 @@
 #include "cli/CommandLine.h"
 #include "cli/Commands.h"
 #include "cli/JsonWriter.h"
-#include "print/FlossUsage.h"
+#include "print/FlossUsageText.h"
 
 namespace zol {
 
@@ -34,17 +34,6 @@ void AsJson(const std::vector<FlossUsageRow>& rows, bool inches) {
     std::cout << '\n';
 }
 
-std::string CsvField(const std::string& text) {
-    if (text.find_first_of(",\"\r\n") == std::string::npos) {
-        return text;
-    }
-    std::string quoted = "\"";
-    for (const char c : text) {
-        quoted += c == '"' ? std::string("\"\"") : std::string(1, c);
-    }
-    return quoted + '"';
-}
-
 using Texts = std::array<std::string, FlossUsageRow::ColumnCount>;
 
 Texts TextsOf(const FlossUsageRow& row) {
@@ -55,20 +44,12 @@ Texts TextsOf(const FlossUsageRow& row) {
     return texts;
 }
 
-void PrintCsvLine(const Texts& texts) {
-    for (std::size_t column = 0; column < texts.size(); ++column) {
-        std::cout << (column > 0 ? "," : "") << CsvField(texts[column]);
-    }
-    std::cout << '\n';
-}
-
 /// Characters of a UTF-8 text, for columns of equal width.
 std::size_t WidthOf(const std::string& text) {
     return CodePage::Decode(text).size();
 }
 
 void AsTable(const Texts& headings, const std::vector<FlossUsageRow>& rows) {
-    constexpr std::size_t firstNumber = 2;
     std::vector<Texts> lines{headings};
     for (const FlossUsageRow& row : rows) {
         lines.push_back(TextsOf(row));
@@ -84,7 +65,8 @@ void AsTable(const Texts& headings, const std::vector<FlossUsageRow>& rows) {
         for (std::size_t column = 0; column < widths.size(); ++column) {
             const std::string gap(widths[column] - WidthOf(line[column]), ' ');
             text += column > 0 ? "  " : "";
-            text += column < firstNumber ? line[column] + gap : gap + line[column];
+            text += column < FlossUsageRow::FirstNumericColumn ? line[column] + gap
+                                                               : gap + line[column];
         }
         std::cout << text << '\n';
     }
@@ -106,15 +88,11 @@ void RunUsage(Environment& environment, const CommandWords& words) {
         AsJson(rows, inches);
         return;
     }
-    const Texts headings = FlossUsageHeadings(inches);
     if (line.Has("--csv")) {
-        PrintCsvLine(headings);
-        for (const FlossUsageRow& row : rows) {
-            PrintCsvLine(TextsOf(row));
-        }
+        std::cout << FlossUsageCsv(rows, inches);
         return;
     }
-    AsTable(headings, rows);
+    AsTable(FlossUsageHeadings(inches), rows);
 }
 
 } // namespace zol

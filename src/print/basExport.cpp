@@ -75,12 +75,12 @@ PatternPicture basExport::PictureOf(const Pattern& source, const SquareRect& squ
     return picture;
 }
 
-std::vector<PrintStyleEntry> ExportStyles(const std::string& colorWord) {
-    return {{PrintColorBlocks, colorWord + "ed Squares"},
-            {PrintVirtualStitches, colorWord + "ed Stitches"},
-            {PrintBlackSymbols, "B&W Symbols"},
-            {PrintColorSymbols, colorWord + "ed Symbols"},
-            {PrintBlocksAndSymbols, "Blocks & Symbols"}};
+std::vector<OptionItem> ExportStyles(const std::string& colorWord) {
+    return {{colorWord + "ed Squares", PrintColorBlocks},
+            {colorWord + "ed Stitches", PrintVirtualStitches},
+            {"B&W Symbols", PrintBlackSymbols},
+            {colorWord + "ed Symbols", PrintColorSymbols},
+            {"Blocks & Symbols", PrintBlocksAndSymbols}};
 }
 
 std::string ExportProposal(const std::filesystem::path& patternFile) {

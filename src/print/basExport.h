@@ -12,6 +12,7 @@
 #include "print/PatternPicture.h"
 #include "print/PrintOptions.h"
 #include "print/WholeFile.h"
+#include "settings/OptionLists.h"
 
 namespace zol {
 
@@ -31,7 +32,7 @@ struct basExport {
 };
 
 /// The styles of pictures in the order of their list. `colorWord` is "Color" or "Colour".
-[[nodiscard]] std::vector<PrintStyleEntry> ExportStyles(const std::string& colorWord);
+[[nodiscard]] std::vector<OptionItem> ExportStyles(const std::string& colorWord);
 
 /// The name that a file is proposed for a pattern: its own up to the first point.
 [[nodiscard]] std::string ExportProposal(const std::filesystem::path& patternFile);

@@ -102,5 +102,29 @@ TEST_F(FlossCommands, UsageComesAsTableCsvAndJson) {
     EXPECT_EQ(cli.Run({"usage", file, "--csv", "--json"}).exitCode, 2);
 }
 
+TEST_F(FlossCommands, LegendIsRichTextOfFactsAndKey) {
+    const std::string file = cli.Pattern(
+        "p.pat", "Initialize 28 14 14 14\nSetTitle \"Caf\u00e9\"\nSetStitch 1 1 1 3 0\n");
+    const CliResult result = cli.Run({"legend", file, "-o", cli.File("out.rtf")});
+    ASSERT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_EQ(result.out + result.err, "");
+    const std::string rtf = cli.Read("out.rtf");
+    EXPECT_THAT(rtf, StartsWith("{\\rtf1\\ansi"));
+    EXPECT_THAT(rtf, HasSubstr("\\b \\tab Title:\\b0 \\tab Caf\\'e9\\par"));
+    EXPECT_THAT(rtf, HasSubstr("28 W  x  14 H"));
+    EXPECT_THAT(rtf, HasSubstr(" Key\\par"));
+    EXPECT_EQ(cli.Run({"legend", file, "-o", "-"}).out, rtf);
+}
+
+TEST_F(FlossCommands, WrongLegendRequestsAreRefused) {
+    const std::string file = cli.Pattern("p.pat", "SetStitch 1 1 1 3 0\n");
+    EXPECT_EQ(cli.Run({"legend", file}).exitCode, 2);
+    EXPECT_EQ(cli.Run({"legend", "-o", cli.File("x.rtf")}).exitCode, 2);
+    EXPECT_EQ(cli.Run({"legend", cli.File("none.pat"), "-o", cli.File("x.rtf")}).exitCode, 1);
+    EXPECT_EQ(cli.Run({"legend", file, "-o", "/dev/full"}).exitCode, 1);
+    EXPECT_EQ(cli.Run({"legend", file, "-o", cli.File("none/x.rtf")}).exitCode, 1);
+    EXPECT_FALSE(cli.Exists("x.rtf"));
+}
+
 } // namespace
 } // namespace zol

@@ -172,6 +172,24 @@ TEST_F(PictureCommands, RenderOfAnOblongClothHasOblongSquares) {
     EXPECT_EQ(Rendered("a.png").size(), QSize(18, 14));
 }
 
+TEST_F(PictureCommands, RenderWritesDrawingsToo) {
+    const std::string file = cli.Pattern("p.pat", "Initialize 3 2 14 14\nSetStitch 1 1 1 3 0\n");
+    ASSERT_EQ(cli.Run({"render", file, "-o", cli.File("a.svg")}).exitCode, 0);
+    EXPECT_THAT(cli.Read("a.svg"), HasSubstr("viewBox=\"0 0 30 20\""));
+    ASSERT_EQ(cli.Run({"render", file, "-o", cli.File("a.pdf")}).exitCode, 0);
+    EXPECT_THAT(cli.Read("a.pdf"), StartsWith("%PDF-"));
+}
+
+TEST_F(PictureCommands, WhatNoMemoryHoldsIsToldAsTheWindowTellsIt) {
+    const std::string file = cli.Pattern("p.pat", "Initialize 999 999 14 14\n");
+    const CliResult result =
+        cli.Run({"render", file, "-o", cli.File("a.png"), "--pixels-per-square", "200"});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.err, StartsWith("korvanta-cli: There is not enough Memory to export the "
+                                       "current pattern at the current zoom level.  "));
+    EXPECT_FALSE(cli.Exists("a.png"));
+}
+
 TEST_F(PictureCommands, WrongRenderRequestsAreRefused) {
     const std::string file = cli.Pattern("p.pat", "Initialize 3 2 14 14\n");
     const std::string out = cli.File("a.png");
