@@ -14,7 +14,6 @@
 #include <utility>
 
 #include "import/windows/PictureView.h"
-#include "settings/Margins.h"
 #include "settings/basCommonFunctions.h"
 #include "windowkit/IconFamily.h"
 #include "windowkit/NumericFilter.h"
@@ -136,7 +135,7 @@ void ZoomBox::TakeText() {
     if (text == m_shown) {
         return; // what is shown is rounded
     }
-    const double percent = Margins::Val(text);
+    const double percent = basCommonFunctions::FieldValue(text);
     if (text.compare(FitText(), Qt::CaseInsensitive) == 0) {
         ZoomToFit();
     } else if (percent > 0) {
