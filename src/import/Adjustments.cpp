@@ -291,15 +291,15 @@ void AddBitmap(Picture& image, const Picture& other) {
 
 const std::array<Item, 9>& Items() {
     static const std::array<Item, 9> items{{
-        {Kind::Brightness, "Brightness", true, -100, 100, 0},
-        {Kind::Contrast, "Contrast", true, -100, 100, 0},
-        {Kind::Saturation, "Saturation", true, -100, 100, 0},
-        {Kind::Hue, "Hue", true, 0, 360, 0},
-        {Kind::HistoEqualize, "Histo Equalize", false, 0, 0, 0},
-        {Kind::GrayScale, "Gray Scale", false, 0, 0, 0},
-        {Kind::EdgeEnhance, "Edge Enhance", false, 0, 0, 0},
-        {Kind::StretchIntensity, "Stretch Intensity", false, 0, 0, 0},
-        {Kind::GammaCorrect, "Gamma Correct", true, 10, 200, 100},
+        {Kind::Brightness, "Brightness", true, -100, 100, 0, 20, 1, 10},
+        {Kind::Contrast, "Contrast", true, -100, 100, 0, 20, 1, 10},
+        {Kind::Saturation, "Saturation", true, -100, 100, 0, 20, 1, 10},
+        {Kind::Hue, "Hue", true, 0, 360, 0, 20, 1, 20},
+        {Kind::HistoEqualize, "Histo Equalize", false, 0, 0, 0, 1, 1, 1},
+        {Kind::GrayScale, "Gray Scale", false, 0, 0, 0, 1, 1, 1},
+        {Kind::EdgeEnhance, "Edge Enhance", false, 0, 0, 0, 1, 1, 1},
+        {Kind::StretchIntensity, "Stretch Intensity", false, 0, 0, 0, 1, 1, 1},
+        {Kind::GammaCorrect, "Gamma Correct", true, 10, 200, 100, 20, 10, 50},
     }};
     return items;
 }

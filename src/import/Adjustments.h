@@ -60,6 +60,9 @@ struct Item {
     int Minimum;
     int Maximum;
     int Start;
+    int Ticks;     ///< between two marks of the scale
+    int SmallStep; ///< of an arrow key
+    int LargeStep; ///< of Page Up and Down, or a click beside the handle
 };
 
 [[nodiscard]] const std::array<Item, 9>& Items();

@@ -34,6 +34,10 @@ TEST(Adjustments, TheListHasTheWizardsItemsAndSliders) {
     EXPECT_EQ(items[8].Minimum, 10);
     EXPECT_EQ(items[8].Maximum, 200);
     EXPECT_EQ(items[8].Start, 100);
+    EXPECT_EQ(items[3].Ticks, 20);
+    EXPECT_EQ(items[8].Ticks, 20);
+    EXPECT_EQ(items[8].SmallStep, 10);
+    EXPECT_EQ(items[8].LargeStep, 50);
     for (std::size_t i = 0; i < items.size(); ++i) {
         EXPECT_EQ(static_cast<std::size_t>(items[i].What), i);
         EXPECT_EQ(items[i].HasSlider, i < 4 || i == 8) << items[i].Text;
