@@ -106,6 +106,10 @@ int ImportSession::ProposedMaxColors() const {
     return beforeAnyChoice;
 }
 
+int ImportSession::LeastMaxColors() const {
+    return std::max(1, m_candidates.LockedColors());
+}
+
 std::optional<std::string> ImportSession::ValidateMapping(int maxColors, bool flossList) const {
     if (m_from == FlossSource::Kind::None) {
         return std::string(flossList ? ImportMessages::NoFlossFamily

@@ -48,6 +48,8 @@ public:
     [[nodiscard]] const ImportCandidates& Candidates() const { return m_candidates; }
     /// What the number of colours becomes when flosses have been chosen.
     [[nodiscard]] int ProposedMaxColors() const;
+    /// As few colours as may be asked for: with an edit box those of the pattern's palette stay.
+    [[nodiscard]] int LeastMaxColors() const;
     /// What is wrong with the mapping screen; nothing if it will do. `flossList` says which of
     /// the two lists the user was to choose from.
     [[nodiscard]] std::optional<std::string> ValidateMapping(int maxColors, bool flossList) const;

@@ -17,6 +17,7 @@
 #include "import/windows/ColorScreen.h"
 #include "import/windows/DeskKit.h"
 #include "import/windows/PictureViewKit.h"
+#include "import/windows/WizardStatus.h"
 #include "support/DialogHands.h"
 
 using namespace zol;
@@ -313,8 +314,8 @@ void TestColorScreen::CancelPutsTheSliderBackToWhatIsShown() {
     QTRY_VERIFY(Shown("lpicNewColor") != Sample);
     const Colour shown = Shown("lpicNewColor");
     QTest::keyClick(&slider, Qt::Key_PageUp);
-    auto& status = PartOf<QWidget>(*m_window, "picStatus");
-    status.show(); // as it comes up by itself when the work takes longer
+    auto& status = PartOf<WizardStatus>(*m_window, "picStatus");
+    status.StartStatus({}, 0); // as it comes up by itself when the work takes longer
     QTest::mouseClick(&PartOf<QPushButton>(*m_window, "cmdCancelStatus"), Qt::LeftButton);
     QCOMPARE(Shown("lpicNewColor"), shown);
     QCOMPARE(slider.value(), 20);
