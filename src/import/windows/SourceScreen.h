@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <filesystem>
+#include <memory>
+
+#include "import/Imaging.h"
+#include "import/windows/ImportDesk.h"
+#include "import/windows/WizardScreen.h"
+#include "windowkit/LatestJob.h"
+
+class QComboBox;
+class QPushButton;
+
+namespace Ui {
+class SourceScreen;
+}
+
+namespace zol {
+
+class WizardStatus;
+
+/// Screen 0: where the picture comes from. A file, the clipboard, a scanner, or the picture of the
+/// last import. Files are decoded beside the window.
+class SourceScreen : public WizardScreen {
+    Q_OBJECT
+
+public:
+    SourceScreen(ImportDesk& desk, QWidget* parent);
+    ~SourceScreen() override;
+
+    [[nodiscard]] QString Instruction() const override;
+    void DisplayScreen(bool keepPicture) override;
+    /// A file name that was typed is loaded only here.
+    [[nodiscard]] bool ValidateScreen() override;
+
+    /// A file from outside, such as one that was dropped; it becomes the source.
+    void TakeFile(const std::filesystem::path& file);
+    /// Shows a picture as the one to import, brought to the depth of an imported one.
+    void TakePicture(Picture picture);
+    [[nodiscard]] bool HasPicture() const { return m_picture != nullptr; }
+
+    /// For whoever works scanners: the lists and buttons below `optScan`.
+    [[nodiscard]] QComboBox& ScanSources();
+    [[nodiscard]] QPushButton& AcquireButton();
+
+Q_SIGNALS:
+    /// `optScan` was chosen.
+    void ScanChosen();
+    void AcquireRequested();
+
+private:
+    void ConnectOptions();
+    void ChooseSource();
+    void EnableFields();
+    void Empty();
+    void Browse();
+    void PasteImage();
+    void Load(const std::filesystem::path& file);
+    void TakeLoaded(ImagingResult& result);
+    void TellFailure(const ImagingResult& result);
+    void Show(SharedPicture picture);
+    void SaveLastImport();
+
+    ImportDesk& m_desk;
+    std::unique_ptr<Ui::SourceScreen> m_ui;
+    WizardStatus* m_status = nullptr;
+    SharedPicture m_picture; ///< what LPicPreview shows
+    std::filesystem::path m_lastImportFile;
+    SharedPicture m_saved; ///< what that file holds
+    std::filesystem::path m_loading;
+    LatestJob m_loadJob;
+    LatestJob m_saveJob;
+};
+
+} // namespace zol
