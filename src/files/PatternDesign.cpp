@@ -25,7 +25,8 @@ std::filesystem::path BackupOf(const std::string& fileName) {
 } // namespace
 
 std::string PatternDesign::WindowTitle() const {
-    return m_displayName.empty() ? "Unsaved Pattern" : m_displayName;
+    const bool lostFile = m_hadFile && m_pattern.FileName.empty();
+    return lostFile || m_displayName.empty() ? "Unsaved Pattern" : m_displayName;
 }
 
 OpenDesign::Question PatternDesign::SaveQuestion() const {

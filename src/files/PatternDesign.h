@@ -16,7 +16,8 @@ public:
     /// `displayName` is the file's name as the title shows it; empty while there is no file.
     PatternDesign(Pattern& pattern, std::string displayName)
         : m_pattern(pattern),
-          m_displayName(std::move(displayName)) {}
+          m_displayName(std::move(displayName)),
+          m_hadFile(!pattern.FileName.empty()) {}
 
     [[nodiscard]] Pattern& GetPattern() override { return m_pattern; }
     [[nodiscard]] const Pattern& GetPattern() const override { return m_pattern; }
@@ -33,6 +34,7 @@ public:
 private:
     Pattern& m_pattern;
     std::string m_displayName;
+    bool m_hadFile; ///< a pattern begun anew in its place is no longer that file's
 };
 
 } // namespace zol

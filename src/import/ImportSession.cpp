@@ -45,6 +45,19 @@ void ImportSession::UseWholePattern() {
     BuildCandidates();
 }
 
+bool ImportSession::IsLockedTo(const Palette& patternPalette) const {
+    if (!m_lockedPalette ||
+        m_lockedPalette->GetEntriesCount() != patternPalette.GetEntriesCount()) {
+        return false;
+    }
+    for (int i = 1; i <= patternPalette.GetEntriesCount(); ++i) {
+        if (m_lockedPalette->GetFlossRGB(i) != patternPalette.GetFlossRGB(i)) {
+            return false;
+        }
+    }
+    return true;
+}
+
 void ImportSession::ChooseCatalogue(const AvailColors& catalogue) {
     m_from = FlossSource::Kind::FlossList;
     m_flossList = catalogue;
@@ -177,7 +190,8 @@ std::vector<PreviewFloss> ImportSession::PreviewFlosses() const {
 }
 
 ImportStatus ImportSession::CreateThePattern(Pattern& pattern, int maxColors, int clothCountX,
-                                             int clothCountY) {
+                                             int clothCountY,
+                                             const std::function<void()>& beforeChange) {
     if (m_image->IsEmpty()) {
         return {ImportStatus::Outcome::Invalid, std::string(ImportMessages::NoImage)};
     }
@@ -190,7 +204,7 @@ ImportStatus ImportSession::CreateThePattern(Pattern& pattern, int maxColors, in
     m_target.ClothCountX = clothCountX;
     m_target.ClothCountY = clothCountY;
     return WritePattern(*m_preview, m_candidates, Source(), m_target, m_context->Progress, pattern,
-                        m_figures);
+                        m_figures, beforeChange);
 }
 
 } // namespace zol

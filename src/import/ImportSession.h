@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -38,6 +39,8 @@ public:
     /// chosen anew.
     void UseEditBox(int left, int top, const Palette& patternPalette);
     void UseWholePattern();
+    /// Whether the flosses that are locked for the edit box are those of a palette, in its order.
+    [[nodiscard]] bool IsLockedTo(const Palette& patternPalette) const;
 
     void ChooseCatalogue(const AvailColors& catalogue);
     void ChooseCurrentPalette(const Palette& patternPalette);
@@ -65,8 +68,10 @@ public:
     /// A preview of another number of colours does not count any more.
     void DropPreviewUnlessOf(int maxColors);
     /// Makes the preview first if there is none. Cloth counts are those of a new pattern.
+    /// `beforeChange` is called once nothing can come between any more, for the undo step.
     [[nodiscard]] ImportStatus CreateThePattern(Pattern& pattern, int maxColors, int clothCountX,
-                                                int clothCountY);
+                                                int clothCountY,
+                                                const std::function<void()>& beforeChange = {});
 
     /// Empty until RecolorImage has run for the flosses chosen.
     [[nodiscard]] const Picture& Preview() const { return *m_preview; }

@@ -186,7 +186,8 @@ void BuildImportPalette(const ProgramContext& context, const ImportCandidates& c
 
 ImportStatus WritePattern(const Picture& preview, const ImportCandidates& candidates,
                           const FlossSource& source, const ImportTarget& target,
-                          ProgressDoor* progress, Pattern& pattern, ImportFigures& figures) {
+                          ProgressDoor* progress, Pattern& pattern, ImportFigures& figures,
+                          const std::function<void()>& beforeChange) {
     const ImportStatusScope status(progress);
     try {
         ProgramContext& context = pattern.Context();
@@ -199,12 +200,17 @@ ImportStatus WritePattern(const Picture& preview, const ImportCandidates& candid
             return {ImportStatus::Outcome::Cancelled, {}};
         }
         figures = FiguresOf(counts, palette);
+        if (beforeChange) {
+            beforeChange();
+        }
         if (!target.UseEditBox) {
             pattern.Initialize(preview.ImageWidth(), preview.ImageHeight(), target.ClothCountX,
                                target.ClothCountY);
         }
         pattern.GetPalette() = std::move(palette);
         SetSquares(preview, colours, flosses, target, pattern);
+        // Also with no stitch at all: what was there before is gone.
+        pattern.SetChanged(true);
     } catch (const RunTimeError& error) {
         return {ImportStatus::Outcome::Failed, error.what()};
     } catch (const std::bad_alloc&) {

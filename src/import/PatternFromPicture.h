@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <vector>
 
 #include "flosses/AvailColors.h"
@@ -58,10 +59,11 @@ void BuildImportPalette(const ProgramContext& context, const ImportCandidates& c
                         const FlossSource& source, bool useEditBox, Palette& palette);
 
 /// Writes a recoloured picture as full stitches. Nothing of the pattern changes unless it is
-/// done: all squares are worked out before the first is set.
+/// done: all squares are worked out before the first is set, and `beforeChange` is called.
 [[nodiscard]] ImportStatus WritePattern(const Picture& preview, const ImportCandidates& candidates,
                                         const FlossSource& source, const ImportTarget& target,
                                         ProgressDoor* progress, Pattern& pattern,
-                                        ImportFigures& figures);
+                                        ImportFigures& figures,
+                                        const std::function<void()>& beforeChange = {});
 
 } // namespace zol

@@ -169,7 +169,7 @@ int Undo::WriteSnapshot() {
     const QuietScope quiet(design.Context());
     ByteWriter stream;
     int number = m_open.Get().WriteTo(stream);
-    m_keptFlags = {design.GetHeader(), design.AllowFlossMapping()};
+    m_keptFlags = {design.GetHeader(), design.AllowFlossMapping(), design.FileName};
     if (number == ErrNone) {
         number = SafeFile::ReplaceUnsynced(m_snapshotFile, stream.Bytes());
         m_wroteFile = m_wroteFile || number == ErrNone;
@@ -200,6 +200,11 @@ void Undo::PutSnapshotBack() {
         design.GetPalette().Sort(order);
         m_keptFlags.AllowFlossMapping ? design.ClearNoMapping() : design.SetNoMapping();
         design.Setheader(m_keptFlags.Header);
+        // A step that began the design anew took its file's name away. A name that it was saved
+        // under since then stays.
+        if (design.FileName.empty()) {
+            design.FileName = m_keptFlags.FileName;
+        }
         design.SetChanged(true);
         if (m_view != nullptr) {
             m_view->DesignChanged();

@@ -103,6 +103,7 @@ private:
     struct KeptFlags {
         PatternHeader Header;
         bool AllowFlossMapping = true;
+        std::string FileName;
     };
 
     [[nodiscard]] int WriteSnapshot();
