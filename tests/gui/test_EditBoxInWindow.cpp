@@ -29,6 +29,7 @@ private Q_SLOTS:
     void TurnsByMenu();
     void DragTurnDragAndUndo();
     void ArrowsAndEnter();
+    void ArrowsWithoutABoxScroll();
     void SelectAllByKey();
     void EscapeDropsWhatFloats();
     void SquareUndoRefreshesASelection();
@@ -378,6 +379,45 @@ void EditBoxInWindowTest::ArrowsAndEnter() {
     COMPARE_TWIN(program, after);
     program.Key(Qt::Key_Z, Qt::ControlModifier);
     COMPARE_TWIN(program, before);
+    program.End();
+}
+
+void EditBoxInWindowTest::ArrowsWithoutABoxScroll() {
+    const ProgramHome home;
+    DrawnProgram program(home);
+    QVERIFY(program.Open());
+    program.Take(100, 100, 600);
+    program.Area().ScrollGrid(4, 5, true);
+    for (const char* tool : {"DRAWMODE_STITCHES", "DRAWMODE_EDITBOX"}) {
+        program.Tool(tool);
+        program.Grid().setFocus();
+        const Twin design(program.Design());
+        program.Key(Qt::Key_Right);
+        QCOMPARE(SquarePos({program.Area().FirstColumn(), program.Area().FirstRow()}),
+                 SquarePos({5, 5}));
+        program.Key(Qt::Key_Down);
+        QCOMPARE(SquarePos({program.Area().FirstColumn(), program.Area().FirstRow()}),
+                 SquarePos({5, 6}));
+        program.Key(Qt::Key_Left);
+        program.Key(Qt::Key_Up);
+        QCOMPARE(SquarePos({program.Area().FirstColumn(), program.Area().FirstRow()}),
+                 SquarePos({4, 5}));
+        COMPARE_TWIN(program, design);
+        QTRY_COMPARE(program.WrongPixels(), 0);
+    }
+    // The pattern's corner is the end of the way.
+    program.Area().ScrollGrid(1, 1, true);
+    program.Key(Qt::Key_Up);
+    program.Key(Qt::Key_Left);
+    QCOMPARE(SquarePos({program.Area().FirstColumn(), program.Area().FirstRow()}),
+             SquarePos({1, 1}));
+    // A box keeps the keys, also where an edge stops it.
+    program.DragOver({{1, 1}, {3, 2}});
+    program.Key(Qt::Key_Left);
+    program.Key(Qt::Key_Right);
+    QCOMPARE(SquarePos({program.Area().FirstColumn(), program.Area().FirstRow()}),
+             SquarePos({1, 1}));
+    QCOMPARE(Box(program).GetEditBoxRect(), (SquareRect{2, 1, 4, 2}));
     program.End();
 }
 

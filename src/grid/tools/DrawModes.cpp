@@ -240,12 +240,12 @@ void DrawModes::Escape() {
     }
 }
 
-void DrawModes::Nudge(int columns, int rows) {
-    Current().Nudge(columns, rows);
+bool DrawModes::Nudge(int columns, int rows) {
+    return Current().Nudge(columns, rows);
 }
 
-void DrawModes::Confirm() {
-    Current().Confirm();
+bool DrawModes::Confirm() {
+    return Current().Confirm();
 }
 
 void DrawModes::ShowStatus(int column, int row) {

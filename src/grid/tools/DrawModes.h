@@ -75,10 +75,10 @@ public:
     void Release(const PointerEvent& event);
     /// Escape: ends what the tool has under way, or a mode other than stitches and lines.
     void Escape();
-    /// An arrow key: moves what the tool holds by a square.
-    void Nudge(int columns, int rows);
-    /// Enter: what the tool holds is done with.
-    void Confirm();
+    /// An arrow key: moves what the tool holds by a square. False if it holds nothing.
+    bool Nudge(int columns, int rows);
+    /// Enter: what the tool holds is done with. False if it holds nothing.
+    bool Confirm();
 
     [[nodiscard]] Overlay GetOverlay() const;
     [[nodiscard]] GridCursor Cursor() const;

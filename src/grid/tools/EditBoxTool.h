@@ -21,7 +21,10 @@ public:
     /// A drag or a selection under way is called off; a box that stands is dropped, and what it
     /// holds lands in the design.
     bool Cancel() override;
-    bool Nudge(int columns, int rows) override { return m_box.Nudge(columns, rows); }
+    /// A box that an edge stops keeps the key all the same.
+    bool Nudge(int columns, int rows) override {
+        return m_box.Nudge(columns, rows) || m_box.IsActive();
+    }
     bool Confirm() override;
     [[nodiscard]] GridCursor Cursor() const override;
 

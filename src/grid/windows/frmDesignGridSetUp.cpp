@@ -232,7 +232,9 @@ void frmDesignGrid::ConnectGrid() {
     connect(m_area, &GridArea::PointerLeft, this, [this] { m_toolView->PointerLeft(); });
     connect(m_area, &GridArea::EscapePressed, this, [this] { m_modes->Escape(); });
     connect(m_area, &GridArea::ArrowPressed, this, [this](int columns, int rows) {
-        m_modes->Nudge(columns, rows);
+        if (!m_modes->Nudge(columns, rows)) {
+            m_area->ScrollGrid(m_area->FirstColumn() + columns, m_area->FirstRow() + rows, false);
+        }
         m_design->RefreshEnabling();
     });
     connect(m_area, &GridArea::EnterPressed, this, [this] { m_modes->Confirm(); });
