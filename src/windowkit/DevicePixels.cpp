@@ -3,6 +3,8 @@
 
 #include "windowkit/DevicePixels.h"
 
+#include <QBackingStore>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QTransform>
 #include <QWidget>
@@ -37,6 +39,29 @@ DevicePixels::DevicePixels(QPainter& painter) {
 QRect DevicePixels::Covering(const QRect& rect) const {
     const QRectF scaled(QPointF(rect.topLeft()) * m_ratio + m_shift, QSizeF(rect.size()) * m_ratio);
     return scaled.toAlignedRect();
+}
+
+QImage DevicePixels::PixelsOf(const QWidget& widget, const QPainter& painter,
+                              const QRect& rect) const {
+    QBackingStore* store = widget.backingStore();
+    QPaintDevice* device = painter.paintEngine()->paintDevice();
+    // A picture that somebody makes of the widget may be cut in ways that only the painter knows.
+    auto* window = store != nullptr && store->paintDevice() == device
+                       ? dynamic_cast<QImage*>(device)
+                       : nullptr;
+    const QTransform& place = painter.deviceTransform();
+    if (window == nullptr || !window->isDetached() || !IsWhole(m_ratio) ||
+        place.type() > QTransform::TxTranslate ||
+        (window->format() != QImage::Format_RGB32 &&
+         window->format() != QImage::Format_ARGB32_Premultiplied)) {
+        return {};
+    }
+    const QRect pixels = rect.translated(QPointF(place.dx(), place.dy()).toPoint());
+    if (rect.isEmpty() || !window->rect().contains(pixels)) {
+        return {};
+    }
+    return {window->scanLine(pixels.top()) + qsizetype{pixels.left()} * 4, pixels.width(),
+            pixels.height(), window->bytesPerLine(), QImage::Format_RGB32};
 }
 
 QPointF DevicePixels::At(const QWidget& widget, QPointF place) {

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QImage>
 #include <QPoint>
 #include <QPointF>
 #include <QRect>
@@ -23,6 +24,12 @@ public:
     [[nodiscard]] double Ratio() const { return m_ratio; }
     /// The device's pixels that a rectangle of the widget touches.
     [[nodiscard]] QRect Covering(const QRect& rect) const;
+    /// Device pixels of a widget that is being painted, where they lie in its window's memory: as a
+    /// picture of Format_RGB32 that is painted into without being copied. `rect` has to be exposed,
+    /// since nothing is cut. A null picture where the window has no such memory, or its pixels and
+    /// the widget's do not meet.
+    [[nodiscard]] QImage PixelsOf(const QWidget& widget, const QPainter& painter,
+                                  const QRect& rect) const;
 
     /// The device pixel of a place in a widget on the screen.
     [[nodiscard]] static QPointF At(const QWidget& widget, QPointF place);

@@ -7,7 +7,6 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
-#include <QPainter>
 
 #include <algorithm>
 #include <cmath>
@@ -35,37 +34,6 @@ Qt::MouseButton QtButtonOf(PointerButton button) {
     return button == PointerButton::Left    ? Qt::LeftButton
            : button == PointerButton::Right ? Qt::RightButton
                                             : Qt::NoButton;
-}
-
-/// Rectangles that hold the region, few of them: each has its cost beside its pixels. They hold at
-/// most about twice the region's pixels; what is too much is cut off by the painter.
-std::vector<QRect> FewRectsOf(const QRegion& region) {
-    struct Part {
-        QRect Rect;
-        double Wanted; ///< pixels of the region in it
-    };
-    const auto areaOf = [](const QRect& rect) {
-        return static_cast<double>(rect.width()) * rect.height();
-    };
-    std::vector<Part> parts;
-    for (const QRect& rect : region) {
-        const double area = areaOf(rect);
-        const auto near = std::find_if(parts.begin(), parts.end(), [&](const Part& part) {
-            return areaOf(part.Rect | rect) <= 2 * (part.Wanted + area);
-        });
-        if (near == parts.end()) {
-            parts.push_back({rect, area});
-        } else {
-            near->Rect |= rect;
-            near->Wanted += area;
-        }
-    }
-    std::vector<QRect> rects;
-    rects.reserve(parts.size());
-    for (const Part& part : parts) {
-        rects.push_back(part.Rect);
-    }
-    return rects;
 }
 
 } // namespace
@@ -220,90 +188,6 @@ void GridCanvas::paintEvent(QPaintEvent* event) {
         // Memory ran out, say: the window stays as it is and the program goes on.
     }
     m_pass.reset();
-}
-
-void GridCanvas::PaintExposed(const QRegion& region) {
-    QPainter painter(this);
-    const DevicePixels device(painter);
-    QRegion exposed;
-    for (const QRect& rect : region) {
-        exposed += device.Covering(rect);
-    }
-    const OverlayPainter overlay = OverlayOf(m_pattern != nullptr ? m_overlay : Overlay{});
-    const QRegion covered = overlay.Covered();
-    if (m_pattern != nullptr) {
-        m_pass = m_painter.BeginImages(View(), m_geometry.Everything(), exposed.boundingRect());
-    }
-    const QRect shown = device.Covering(visibleRegion().boundingRect());
-    for (const QRect& part : FewRectsOf(exposed)) {
-        for (const QRect& band : BandsOf(part)) {
-            QImage image = PaintBand(band, shown);
-            if (covered.intersects(band)) {
-                QPainter over(&image);
-                over.translate(-band.topLeft());
-                over.setClipRect(band);
-                overlay.Paint(over);
-            }
-            ShowBand(painter, band, image, exposed);
-        }
-    }
-}
-
-std::vector<QRect> GridCanvas::BandsOf(const QRect& part) const {
-    const int rows = std::max(8, BandBytes / (part.width() * static_cast<int>(sizeof(QRgb))));
-    std::vector<QRect> bands;
-    for (int top = part.top(); top <= part.bottom();) {
-        int end = std::min(top + rows, part.bottom() + 1);
-        if (end <= part.bottom() && m_pattern != nullptr) {
-            // No row of squares is painted twice, if it has room.
-            const int edge = m_geometry.TopOf(m_geometry.RowAt(end));
-            end = edge > top ? edge : end;
-        }
-        bands.emplace_back(part.left(), top, part.width(), end - top);
-        top = end;
-    }
-    return bands;
-}
-
-QImage GridCanvas::PaintBand(const QRect& pixels, const QRect& shown) {
-    const auto count =
-        static_cast<std::size_t>(pixels.width()) * static_cast<std::size_t>(pixels.height());
-    m_band.resize(std::max(count, m_band.size()));
-    QImage image(reinterpret_cast<uchar*>(m_band.data()), pixels.width(), pixels.height(),
-                 static_cast<qsizetype>(pixels.width()) * 4, QImage::Format_RGB32);
-    if (m_pattern != nullptr && m_overlay.Content) {
-        const QImage& cloth = m_behind.Picture(
-            pixels, shown, [this](QImage& part, QPoint corner) { PaintCloth(part, corner); });
-        m_floating.PaintOver(cloth, m_behind.Corner(), image, pixels.topLeft(), *m_overlay.Content,
-                             m_geometry, m_options);
-    } else {
-        PaintCloth(image, pixels.topLeft());
-    }
-    return image;
-}
-
-void GridCanvas::PaintCloth(QImage& image, QPoint corner) {
-    const bool whole =
-        m_pattern != nullptr &&
-        QRect(QPoint(0, 0), m_geometry.GridSize()).contains(QRect(corner, image.size()));
-    if (!whole) {
-        image.fill(ToRgb(m_options.ClothColor));
-    }
-    if (m_pass) {
-        m_pass->Paint(image, corner);
-    }
-}
-
-void GridCanvas::ShowBand(QPainter& painter, const QRect& band, const QImage& image,
-                          const QRegion& exposed) {
-    // A rectangle that lies wholly in what is exposed is copied as it is; one that the system had
-    // to cut would go to the screen in little pieces, handed from thread to thread.
-    for (const QRect& rect : exposed) {
-        const QRect shown = rect & band;
-        if (!shown.isEmpty()) {
-            painter.drawImage(shown.topLeft(), image, shown.translated(-band.topLeft()));
-        }
-    }
 }
 
 PointerEvent GridCanvas::EventOf(const QMouseEvent& event, PointerButton button) const {

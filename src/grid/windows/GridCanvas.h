@@ -20,7 +20,9 @@
 
 namespace zol {
 
+class DevicePixels;
 class GridPainter;
+class OverlayPainter;
 class ViewPass;
 
 /// The design as a widget, `picGrid`: as large as the whole grid at the present zoom, and moved
@@ -93,15 +95,22 @@ private:
     /// A rectangle of device pixels from top to bottom in pieces that stay in the cache until they
     /// are on the screen.
     [[nodiscard]] std::vector<QRect> BandsOf(const QRect& part) const;
-    /// The design and what floats over it; `shown` is all of the grid that shows. The image is good
-    /// until the next one.
-    [[nodiscard]] QImage PaintBand(const QRect& pixels, const QRect& shown);
+    /// An image for a band, good until the next one.
+    [[nodiscard]] QImage BandImage(const QSize& size);
+    /// What a paint puts over the design, and where.
+    struct Layers {
+        const OverlayPainter& Over;
+        QRegion Covered; ///< by the overlay
+        QRect Shown;     ///< all of the grid that shows
+    };
+    /// The design and all that lies over it, into all of an image that shows these pixels.
+    void PaintPart(QImage& image, const QRect& pixels, const Layers& layers);
     /// The design into all of an image; its upper left pixel is `corner` of the grid.
     void PaintCloth(QImage& image, QPoint corner);
-    static void ShowBand(QPainter& painter, const QRect& band, const QImage& image,
-                         const QRegion& exposed);
+    void ShowBand(QPainter& painter, const DevicePixels& device, const QRect& band,
+                  const QImage& image, const QRegion& exposed) const;
     void UpdatePixels(const QRegion& pixels);
-    [[nodiscard]] class OverlayPainter OverlayOf(const Overlay& overlay) const;
+    [[nodiscard]] OverlayPainter OverlayOf(const Overlay& overlay) const;
     [[nodiscard]] PointerEvent EventOf(const QMouseEvent& event, PointerButton button) const;
     void ShowCursor();
 
