@@ -91,7 +91,7 @@ void MoveBox(benchmark::State& state) {
     window.Float(0);
     window.Float(1);
     int columns = 1;
-    zol::Ratio(state, 5).Measure(floor, [&] {
+    zol::Ratio(state, 5, zol::Timing::Wall).Measure(floor, [&] {
         columns = 1 - columns;
         window.Float(columns);
     });

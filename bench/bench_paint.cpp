@@ -103,7 +103,7 @@ void PaintView(benchmark::State& state) {
     const QPoint position(37, 53);
     const auto paint = [&] { painter.PaintImage(image, position, view, view.Everything()); };
     QRgb colour = 0xFF000000U;
-    zol::Ratio(state, GoalOf(view.Options.StitchStyle, pixels))
+    zol::Ratio(state, GoalOf(view.Options.StitchStyle, pixels), zol::Timing::Wall)
         .Measure([&] { Fill(image, ++colour); }, paint);
 }
 
@@ -120,7 +120,7 @@ void PaintLines(benchmark::State& state) {
     QImage image(Width, Height, QImage::Format_RGB32);
     const double goal = (pixels < 5 ? 25 : 12) + (lines - 2000) / 1000 * 2;
     QRgb colour = 0xFF000000U;
-    zol::Ratio(state, goal)
+    zol::Ratio(state, goal, zol::Timing::Wall)
         .Measure([&] { Fill(image, ++colour); },
                  [&] {
                      painter.PaintImage(image, {0, 0}, view, view.Everything());
@@ -142,17 +142,18 @@ void PaintStroke(benchmark::State& state) {
                            {x - 1, y - 1, x + 1, y + 1});
     };
     int turn = 0;
-    zol::Ratio(state, 1).Measure([&] { Fill(whole, ++colour); }, [&] { turn = (turn + 1) % 200; },
-                                 [&] {
-                                     for (int i = 0; i < 20; ++i) {
-                                         const int x = 30 + turn + i;
-                                         const int y = 500 + i;
-                                         pattern.SetStitch(x, y, zol::StitchWhole, 1 + turn, 5);
-                                         pattern.SetStitch(999 - x, y, zol::StitchWhole, 1, 5);
-                                         square(x, y);
-                                         square(999 - x, y);
-                                     }
-                                 });
+    zol::Ratio(state, 1, zol::Timing::Wall)
+        .Measure([&] { Fill(whole, ++colour); }, [&] { turn = (turn + 1) % 200; },
+                 [&] {
+                     for (int i = 0; i < 20; ++i) {
+                         const int x = 30 + turn + i;
+                         const int y = 500 + i;
+                         pattern.SetStitch(x, y, zol::StitchWhole, 1 + turn, 5);
+                         pattern.SetStitch(999 - x, y, zol::StitchWhole, 1, 5);
+                         square(x, y);
+                         square(999 - x, y);
+                     }
+                 });
 }
 
 /// Pixels wide and high, lines of the pattern: what comes into sight when the view scrolls by a
@@ -166,11 +167,11 @@ void PaintStrip(benchmark::State& state) {
                  QImage::Format_RGB32);
     QRgb colour = 0xFF000000U;
     int turn = 0;
-    zol::Ratio(state, 1).Measure(
-        [&] { Fill(whole, ++colour); }, [&] { turn = (turn + 1) % 400; },
-        [&] {
-            painter.PaintImage(strip, {turn * 20, turn * 20}, view, view.Everything());
-        });
+    zol::Ratio(state, 1, zol::Timing::Wall)
+        .Measure([&] { Fill(whole, ++colour); }, [&] { turn = (turn + 1) % 400; },
+                 [&] {
+                     painter.PaintImage(strip, {turn * 20, turn * 20}, view, view.Everything());
+                 });
 }
 
 /// Lines of the pattern: one more is drawn, and its squares are repainted.
@@ -186,15 +187,16 @@ void PaintNewLine(benchmark::State& state) {
         painter.PaintImage(piece, {499 * 20, 499 * 20}, view, {500, 500, 507, 507});
     };
     pattern.SetBackstitchLine(line);
-    zol::Ratio(state, 1).Measure([&] { Fill(whole, ++colour); },
-                                 [&] {
-                                     pattern.RemoveBackStitchLine(pattern.GetBackStitchCount());
-                                     paint(); // without it, so that the painter has seen it go
-                                 },
-                                 [&] {
-                                     pattern.SetBackstitchLine(line);
-                                     paint();
-                                 });
+    zol::Ratio(state, 1, zol::Timing::Wall)
+        .Measure([&] { Fill(whole, ++colour); },
+                 [&] {
+                     pattern.RemoveBackStitchLine(pattern.GetBackStitchCount());
+                     paint(); // without it, so that the painter has seen it go
+                 },
+                 [&] {
+                     pattern.SetBackstitchLine(line);
+                     paint();
+                 });
 }
 
 } // namespace

@@ -74,7 +74,7 @@ void RepaintWindow(benchmark::State& state) {
     const int pixels = static_cast<int>(state.range(0));
     Window window(pixels);
     Floor floor;
-    zol::Ratio(state, pixels < 5 ? 25 : 12).Measure(floor, [&] {
+    zol::Ratio(state, pixels < 5 ? 25 : 12, zol::Timing::Wall).Measure(floor, [&] {
         // What lies on the area without covering it is painted with it.
         window.Area().update();
         for (QWidget* part : window.Area().findChildren<QWidget*>()) {
@@ -91,7 +91,7 @@ void ScrollOneSquare(benchmark::State& state) {
     Window window(20);
     Floor floor;
     int column = 100;
-    zol::Ratio(state, 1).Measure(floor, [&] {
+    zol::Ratio(state, 1, zol::Timing::Wall).Measure(floor, [&] {
         column = column == 100 ? 101 : 100;
         window.Area().ScrollGrid(column, 53, false);
         Window::Paint();
@@ -106,7 +106,7 @@ void MoveOneSquare(benchmark::State& state) {
     Floor floor;
     constexpr int square = 20;
     int turn = 0;
-    zol::Ratio(state, 0).Measure(floor, [&] {
+    zol::Ratio(state, 0, zol::Timing::Wall).Measure(floor, [&] {
         turn = 1 - turn;
         for (int y = 0; y < Height; ++y) {
             auto* line = reinterpret_cast<QRgb*>(view.scanLine(y));
@@ -122,7 +122,7 @@ void StrokeMove(benchmark::State& state) {
     Window window(20);
     Floor floor;
     int floss = 1;
-    zol::Ratio(state, 1).Measure(floor, [&] {
+    zol::Ratio(state, 1, zol::Timing::Wall).Measure(floor, [&] {
         floss = floss % 200 + 1;
         for (int i = 0; i < 20; ++i) {
             for (const int column : {45 + i, 125 - i}) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "grid/painting/BackStitchLines.h"
+#include "grid/painting/Cores.h"
 #include "grid/painting/GridLines.h"
 #include "grid/painting/LineIndex.h"
 #include "grid/painting/LineMasks.h"
@@ -47,7 +48,8 @@ GridPainter::GridPainter()
       m_symbols(std::make_unique<SymbolText>()),
       m_lines(std::make_unique<LineIndex>()),
       m_lineMasks(std::make_unique<LineMasks>()),
-      m_tiles(std::make_unique<TileCache>(*m_images, *m_symbols)) {}
+      m_tiles(std::make_unique<TileCache>(*m_images, *m_symbols)),
+      m_workers(Cores::Count()) {}
 
 GridPainter::~GridPainter() = default;
 
@@ -64,8 +66,8 @@ void GridPainter::PaintImage(QImage& image, QPoint position, const GridView& vie
 
 std::unique_ptr<ViewPass> GridPainter::BeginImages(const GridView& view, const SquareRect& rect,
                                                    const QRect& pixels) {
-    return std::make_unique<ViewPass>(view, CutToPattern(view, rect), pixels, *m_tiles, *m_lines,
-                                      *m_lineMasks);
+    return std::make_unique<ViewPass>(view, CutToPattern(view, rect), pixels,
+                                      ViewPass::Stock{*m_tiles, *m_lines, *m_lineMasks, m_workers});
 }
 
 void GridPainter::DrawGridLines(QPainter& painter, const GridView& view, const SquareRect& rect) {

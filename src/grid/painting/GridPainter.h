@@ -47,6 +47,10 @@ public:
     [[nodiscard]] std::unique_ptr<ViewPass>
     BeginImages(const GridView& view, const SquareRect& rect, const QRect& pixels);
 
+    /// How many threads may paint one image at once, the caller among them; as many as there are
+    /// cores unless it is said. The picture is the same.
+    void SetWorkers(int workers) { m_workers = workers; }
+
     void DrawGridLines(QPainter& painter, const GridView& view, const SquareRect& rect);
     /// Stitches, then the knots that touch the squares.
     void DrawSquares(QPainter& painter, const GridView& view, const SquareRect& rect);
@@ -75,6 +79,7 @@ private:
     std::unique_ptr<LineIndex> m_lines;
     std::unique_ptr<LineMasks> m_lineMasks;
     std::unique_ptr<TileCache> m_tiles;
+    int m_workers;
 };
 
 } // namespace zol

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "grid/painting/Capsule.h"
+#include "grid/painting/Cores.h"
 #include "grid/painting/LineMasks.h"
 #include "grid/painting/PaintColors.h"
 #include "grid/painting/StyledLine.h"
@@ -78,7 +79,7 @@ void PixelCanvas::Line(QPoint start, QPoint end, const LinePen& pen) {
 }
 
 std::vector<std::vector<std::uint32_t>> PixelCanvas::LinesOfBands() const {
-    std::vector<std::vector<std::uint32_t>> lines(m_bands.size() - 1);
+    std::vector<std::vector<std::uint32_t>> lines(m_bands.Rows.size() - 1);
     for (std::size_t i = 0; i < m_placed.size(); ++i) {
         const auto [top, bottom] = RowsOf(*m_placed[i].Mask);
         const int from = std::max(0, m_placed[i].Place.y() + top);
@@ -86,9 +87,9 @@ std::vector<std::vector<std::uint32_t>> PixelCanvas::LinesOfBands() const {
         if (from > to) {
             continue;
         }
-        auto band = std::upper_bound(m_bands.begin(), m_bands.end(), from) - 1;
-        for (; band != m_bands.end() - 1 && *band <= to; ++band) {
-            lines[static_cast<std::size_t>(band - m_bands.begin())].push_back(
+        auto band = std::upper_bound(m_bands.Rows.begin(), m_bands.Rows.end(), from) - 1;
+        for (; band != m_bands.Rows.end() - 1 && *band <= to; ++band) {
+            lines[static_cast<std::size_t>(band - m_bands.Rows.begin())].push_back(
                 static_cast<std::uint32_t>(i));
         }
     }
@@ -96,24 +97,28 @@ std::vector<std::vector<std::uint32_t>> PixelCanvas::LinesOfBands() const {
 }
 
 void PixelCanvas::Flush() {
-    if (m_placed.empty() && !m_behind) {
+    if (m_placed.empty() && !m_bands.Behind) {
         return;
     }
     const std::vector<std::vector<std::uint32_t>> lines = LinesOfBands();
-    for (std::size_t band = 0; band < lines.size(); ++band) {
-        const int top = m_bands[band];
-        const int bottom = m_bands[band + 1] - 1;
-        if (m_behind) {
-            m_behind(top, bottom);
-        }
-        for (const std::uint32_t i : lines[band]) {
-            const Placed& line = m_placed[i];
-            BlendSpans(m_target, top, bottom, line.Place, line.Mask->Under, ToRgb(line.Ground));
-            BlendSpans(m_target, top, bottom, line.Place, line.Mask->Over, ToRgb(line.Floss));
-        }
-    }
-    m_behind = nullptr;
+    Cores::Run(m_bands.Workers, static_cast<int>(lines.size()), [&](int worker, int band) {
+        const auto at = static_cast<std::size_t>(band);
+        PaintBand(worker, m_bands.Rows[at], m_bands.Rows[at + 1] - 1, lines[at]);
+    });
+    m_bands.Behind = nullptr;
     m_placed.clear();
+}
+
+void PixelCanvas::PaintBand(int worker, int top, int bottom,
+                            const std::vector<std::uint32_t>& lines) {
+    if (m_bands.Behind) {
+        m_bands.Behind(worker, top, bottom);
+    }
+    for (const std::uint32_t i : lines) {
+        const Placed& line = m_placed[i];
+        BlendSpans(m_target, top, bottom, line.Place, line.Mask->Under, ToRgb(line.Ground));
+        BlendSpans(m_target, top, bottom, line.Place, line.Mask->Over, ToRgb(line.Floss));
+    }
 }
 
 void PixelCanvas::Piece(const QLine& line, int width, Colour colour) {

@@ -19,29 +19,17 @@ constexpr std::size_t ColumnsAhead = 12;
 
 } // namespace
 
-RasterPass::RasterPass(const GridView& view, const SquareRect& rect, const QRect& pixels,
-                       TileCache& tiles)
-    : m_view(view),
-      m_tiles(tiles),
-      m_all(ShownIn(rect, pixels)) {
-    if (!m_all.IsEmpty()) {
-        m_x = SquareSpans::Columns(m_view, m_all.Left, m_all.Right);
-        m_y = SquareSpans::Rows(m_view, m_all.Top, m_all.Bottom);
-    }
-}
-
 void RasterPass::Paint(QImage& image, QPoint position) {
     m_position = position;
     m_buffer = {reinterpret_cast<QRgb*>(image.bits()),
                 image.bytesPerLine() / static_cast<std::ptrdiff_t>(sizeof(QRgb)), image.width(),
                 image.height()};
-    const Painted piece = Find(image.size(), position);
+    const RasterPlan::Painted piece = m_plan.Find(image.size(), position);
     m_area = piece.Area;
     m_rect = piece.Squares;
     if (m_area.isEmpty()) {
         return;
     }
-    BeginTiles();
     FindTiles();
     // Squares lie behind their lines, so lines may be painted row by row with them.
     std::size_t next = 0;
@@ -61,14 +49,14 @@ std::vector<QRgb> RasterPass::TemplateRow(QRgb ground, bool normalColumns) const
         return row;
     }
     for (int number = m_rect.Left; number <= m_rect.Right + 1; ++number) {
-        if (!m_x->IsBold(number) && !normalColumns) {
+        if (!m_plan.Columns().IsBold(number) && !normalColumns) {
             continue;
         }
-        const int from = m_x->Edge(number) - m_position.x() - m_area.left();
-        const int to = std::min(from + m_x->LineWidth(number), m_area.width());
+        const int from = m_plan.Columns().Edge(number) - m_position.x() - m_area.left();
+        const int to = std::min(from + m_plan.Columns().LineWidth(number), m_area.width());
         if (to > std::max(0, from)) {
-            const Colour colour =
-                m_x->IsBold(number) ? m_view.Options.BoldGLColor : m_view.Options.NormalGLColor;
+            const Colour colour = m_plan.Columns().IsBold(number) ? m_view.Options.BoldGLColor
+                                                                  : m_view.Options.NormalGLColor;
             std::fill(row.begin() + std::max(0, from), row.begin() + to, ToRgb(colour));
         }
     }
@@ -84,12 +72,12 @@ void RasterPass::CopyTemplate(const QRgb* row, int fromPixel, int toPixel) {
 }
 
 void RasterPass::PaintLineAbove(int row) {
-    const int width = m_y->LineWidth(row);
-    const int top = m_y->Edge(row) - m_position.y();
+    const int width = m_plan.Rows().LineWidth(row);
+    const int top = m_plan.Rows().Edge(row) - m_position.y();
     if (width == 0 || top + width <= m_area.top() || top > m_area.bottom()) {
         return;
     }
-    const Colour colour = RowLineColour(m_view.Options, row, m_y->IsBold(row));
+    const Colour colour = RowLineColour(m_view.Options, row, m_plan.Rows().IsBold(row));
     auto known = std::find_if(m_lineRows.begin(), m_lineRows.end(),
                               [colour](const auto& entry) { return entry.first == colour; });
     if (known == m_lineRows.end()) {

@@ -12,9 +12,9 @@
 #include <utility>
 #include <vector>
 
-#include "grid/painting/GridLines.h"
 #include "grid/painting/GridView.h"
 #include "grid/painting/RasterAxis.h"
+#include "grid/painting/RasterPlan.h"
 #include "grid/painting/SquareContent.h"
 #include "grid/painting/TileCache.h"
 #include "grid/painting/TileCopy.h"
@@ -23,23 +23,16 @@ namespace zol {
 
 /// Paints ground, grid lines, stitches and knots of a view straight into the pixels of images,
 /// which are pieces of one picture: lines and solid squares a scan line at a time, other squares as
-/// copies of tiles. What the pieces share is worked out once.
+/// copies of tiles. One paints one piece after the other; several may be at work at once.
 class RasterPass {
 public:
-    /// `pixels` are all of the device that pieces will show; `rect` lies in the pattern. Pattern
-    /// and tiles outlive the pass.
-    RasterPass(const GridView& view, const SquareRect& rect, const QRect& pixels, TileCache& tiles);
+    /// The plan outlives the pass.
+    explicit RasterPass(RasterPlan& plan)
+        : m_plan(plan),
+          m_view(plan.View()),
+          m_tiles(plan.Tiles()) {}
 
-    struct Painted {
-        QRect Area;         ///< of the image
-        SquareRect Squares; ///< those of the rectangle that the image shows, and a few around
-    };
-    /// What Paint() would paint of a piece whose upper left pixel is the device's pixel `position`.
-    /// An empty area if it shows nothing of the rectangle.
-    [[nodiscard]] Painted Find(const QSize& size, QPoint position) const;
-    /// An area's pixel rows from which bands of squares go, each about so many rows high and at
-    /// least one row of squares, and the end of the last band. Counted from the area's first row.
-    [[nodiscard]] std::vector<int> BandsOf(const Painted& piece, QPoint position, int rows) const;
+    /// Paints a piece whose upper left pixel is the device's pixel `position`. The plan is begun.
     void Paint(QImage& image, QPoint position);
 
 private:
@@ -61,9 +54,6 @@ private:
     /// reading them row by row would wait for memory at each.
     static constexpr std::size_t BandRows = 16;
 
-    /// The squares of a rectangle that may show something in these pixels.
-    [[nodiscard]] SquareRect ShownIn(const SquareRect& rect, const QRect& pixels) const;
-    void BeginTiles();
     void FindTiles();
     void FindColumns();
     [[nodiscard]] std::vector<QRgb> TemplateRow(QRgb ground, bool normalColumns) const;
@@ -81,11 +71,12 @@ private:
     void PaintTile(const Stretch& column, const Stretch& row, const StitchCell& cell);
     void CopyTile(const Stretch& column, const Stretch& row, const QRgb* tile);
     void PaintMixedSquares();
-    void SortMixedSquares();
     void PaintMixedSquare(const Stretch& column, const Stretch& row, const DupStitch* dup);
     void PaintKnots();
     void FindKnots();
-    [[nodiscard]] bool IsMuchOfAll(std::size_t work, std::size_t table) const;
+    [[nodiscard]] std::size_t CountSquares() const {
+        return m_rows.Shown.size() * m_columns.Shown.size();
+    }
     void PaintKnot(const PlacedKnot& placed);
 
     [[nodiscard]] QRgb* Pixel(int x, int y) { return m_buffer.Row(y) + x; }
@@ -93,18 +84,13 @@ private:
         return *m_sizes[row.Size * m_columns.Sizes.size() + column.Size];
     }
 
-    const GridView m_view;
+    RasterPlan& m_plan;
+    const GridView& m_view;
     TileCache& m_tiles;
-    std::uint64_t m_paint = 0; ///< of the tiles, that the next are true for
-    SquareRect m_all;          ///< squares that any piece may show
-    std::optional<SquareSpans> m_x;
-    std::optional<SquareSpans> m_y;
-    std::vector<const DupStitch*> m_dups; ///< squares with more than one stitch, row by row
-    std::vector<std::size_t> m_dupsOfRow; ///< where each row of m_all begins; empty if not sorted
-    std::optional<std::vector<PlacedKnot>> m_allKnots; ///< in painting order, once looked for
 
     // The columns, and what is made of them, stay while pieces lie one below the other.
     struct Across {
+        std::uint64_t Paint;
         int Position, Left, Right, First, Last;
         friend bool operator==(const Across&, const Across&) = default;
     };

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
-#include <numeric>
 
 #include "grid/painting/PaintColors.h"
 
@@ -31,55 +30,21 @@ void RasterPass::NoteFlags(const Stretch& column, const Stretch& row, const Stit
     }
 }
 
-bool RasterPass::IsMuchOfAll(std::size_t work, std::size_t table) const {
-    const auto rows = static_cast<std::size_t>(m_all.Bottom - m_all.Top) + 1;
-    const auto columns = static_cast<std::size_t>(m_all.Right - m_all.Left) + 1;
-    const std::size_t here = m_rows.Shown.size() * m_columns.Shown.size();
-    // The other pieces will ask for as much.
-    return here > 0 && table <= work * (rows * columns / here);
-}
-
-void RasterPass::SortMixedSquares() {
-    const KeyedTable<DupStitch>& table = m_view.Source->DupStitches();
-    const auto isHere = [this](const DupStitch& dup) {
-        return dup.X >= m_all.Left && dup.X <= m_all.Right && dup.Y >= m_all.Top &&
-               dup.Y <= m_all.Bottom;
-    };
-    const auto rowOf = [this](const DupStitch& dup) {
-        return static_cast<std::size_t>(dup.Y - m_all.Top);
-    };
-    m_dupsOfRow.assign(static_cast<std::size_t>(m_all.Bottom - m_all.Top) + 3, 0);
-    std::vector<const DupStitch*> found;
-    table.ForEach([&](const DupStitch& dup) {
-        if (isHere(dup)) {
-            found.push_back(&dup);
-            ++m_dupsOfRow[rowOf(dup) + 2];
-        }
-    });
-    std::partial_sum(m_dupsOfRow.begin(), m_dupsOfRow.end(), m_dupsOfRow.begin());
-    m_dups.resize(found.size());
-    for (const DupStitch* dup : found) {
-        m_dups[m_dupsOfRow[rowOf(*dup) + 1]++] = dup;
-    }
-}
-
 void RasterPass::PaintMixedSquares() {
     const KeyedTable<DupStitch>& table = m_view.Source->DupStitches();
     // Whichever is less work: walking the table, or looking each square up in it.
-    if (m_dupsOfRow.empty() && IsMuchOfAll(m_mixed.size() * RecordsPerLookUp, table.Count())) {
-        SortMixedSquares();
-    }
-    if (m_dupsOfRow.empty()) {
+    const bool sorted = m_plan.HasDups() || m_plan.IsMuchOfAll(m_mixed.size() * RecordsPerLookUp,
+                                                               CountSquares(), table.Count());
+    if (!sorted) {
         for (const SquarePos& square : m_mixed) {
             PaintMixedSquare(*m_columns.At(square.X), *m_rows.At(square.Y),
                              table.Find(KeyedTable<DupStitch>::KeyOf(square.Y, square.X)));
         }
     } else if (!m_mixed.empty()) {
         for (const Stretch& row : m_rows.Shown) {
-            const auto at = static_cast<std::size_t>(row.Number - m_all.Top);
-            for (std::size_t i = m_dupsOfRow[at]; i < m_dupsOfRow[at + 1]; ++i) {
-                if (const Stretch* column = m_columns.At(m_dups[i]->X); column != nullptr) {
-                    PaintMixedSquare(*column, row, m_dups[i]);
+            for (const DupStitch* dup : m_plan.DupsOf(row.Number)) {
+                if (const Stretch* column = m_columns.At(dup->X); column != nullptr) {
+                    PaintMixedSquare(*column, row, dup);
                 }
             }
         }
@@ -119,18 +84,18 @@ void RasterPass::FindKnots() {
     const double down = s.SquareTwipsY / s.TwipsPerPixelY;
     const int reach =
         KnotShapes::PenWidth(m_view) + static_cast<int>(std::abs(across - down) / 2) + 2;
-    const std::vector<int> columns = m_columns.Around(*m_x, m_position.x() + m_area.left() - reach,
-                                                      m_position.x() + m_area.right() + reach);
-    const std::vector<int> rows = m_rows.Around(*m_y, m_position.y() + m_area.top() - reach,
-                                                m_position.y() + m_area.bottom() + reach);
+    const std::vector<int> columns =
+        m_columns.Around(m_plan.Columns(), m_position.x() + m_area.left() - reach,
+                         m_position.x() + m_area.right() + reach);
+    const std::vector<int> rows =
+        m_rows.Around(m_plan.Rows(), m_position.y() + m_area.top() - reach,
+                      m_position.y() + m_area.bottom() + reach);
     const std::size_t beside =
         columns.size() * (rows.size() + m_rows.Shown.size()) + rows.size() * m_columns.Shown.size();
-    if (m_allKnots ||
-        IsMuchOfAll(m_knotted.size() * RecordsPerSquare + beside, pattern.FrenchKnots().Count())) {
-        if (!m_allKnots) {
-            m_allKnots = KnotsOf(pattern, m_all);
-        }
-        std::copy_if(m_allKnots->begin(), m_allKnots->end(), std::back_inserter(m_knots),
+    if (m_plan.HasKnots() || m_plan.IsMuchOfAll(m_knotted.size() * RecordsPerSquare + beside,
+                                                CountSquares(), pattern.FrenchKnots().Count())) {
+        const std::vector<PlacedKnot>& all = m_plan.Knots();
+        std::copy_if(all.begin(), all.end(), std::back_inserter(m_knots),
                      [this](const PlacedKnot& knot) {
                          return knot.Square.Y >= m_rect.Top && knot.Square.Y <= m_rect.Bottom &&
                                 knot.Square.X >= m_rect.Left && knot.Square.X <= m_rect.Right;
@@ -173,8 +138,8 @@ void RasterPass::PaintKnot(const PlacedKnot& placed) {
     const std::uint8_t floss = placed.Knot.PaletteIndex;
     const KnotInk ink = KnotInkOf(m_view.Options, m_tiles.ColourOf(floss));
     const auto blend = [&](Colour colour, bool filled) {
-        const PixelMask& mask = m_tiles.Masks().Knot(placed.Knot.Orientation, box.Right - box.Left,
-                                                     box.Bottom - box.Top, pen, filled);
+        const PixelMask& mask = m_tiles.KnotMask(placed.Knot.Orientation, box.Right - box.Left,
+                                                 box.Bottom - box.Top, pen, filled);
         BlendMask(target, x + mask.Left, y + mask.Top, mask, ToRgb(colour));
     };
     if (ink.Body) {
@@ -186,8 +151,7 @@ void RasterPass::PaintKnot(const PlacedKnot& placed) {
     const int symbol = m_tiles.SymbolOf(floss);
     const PixelRect inner = KnotShapes::SymbolRect(box);
     if (ink.Symbol && symbol != 0 && placed.Knot.Orientation == KnotNormal && !inner.IsEmpty()) {
-        const PixelMask& mask =
-            m_tiles.Masks().Symbol(symbol, StitchFKnot, inner.Width(), inner.Height());
+        const PixelMask& mask = m_tiles.KnotSymbol(symbol, inner.Width(), inner.Height());
         BlendMask(target, x + inner.Left - box.Left + mask.Left, y + inner.Top - box.Top + mask.Top,
                   mask, ToRgb(*ink.Symbol));
     }

@@ -69,19 +69,25 @@ private:
 /// behind them.
 class PixelCanvas : public LineCanvas {
 public:
-    /// Paints the rows `top` to `bottom` of the buffer, before any line comes there.
-    using PaintBehind = std::function<void(int top, int bottom)>;
+    /// Paints the rows `top` to `bottom` of the buffer, before any line comes there. Called from
+    /// several threads at once, each a worker of its own.
+    using PaintBehind = std::function<void(int worker, int top, int bottom)>;
 
-    /// `origin` is the place of the buffer's first pixel on the device. `bands` are the rows where
-    /// bands begin, the first 0, and the end of the last.
+    /// How the buffer is painted.
+    struct Bands {
+        std::vector<int> Rows; ///< where bands begin, the first 0, and the end of the last
+        PaintBehind Behind;
+        int Workers = 1; ///< that may be at work at once
+    };
+
+    /// `origin` is the place of the buffer's first pixel on the device.
     PixelCanvas(const PixelBuffer& target, QPoint origin, LineMasks& masks, bool antialias,
-                std::vector<int> bands, PaintBehind behind)
+                Bands bands)
         : m_target(target),
           m_origin(origin),
           m_masks(masks),
           m_antialias(antialias),
-          m_bands(std::move(bands)),
-          m_behind(std::move(behind)) {}
+          m_bands(std::move(bands)) {}
     /// Most lines by masks, which are made once and blended wherever such a line lies.
     void Line(QPoint start, QPoint end, const LinePen& pen) override;
     void Piece(const QLine& line, int width, Colour colour) override;
@@ -102,14 +108,14 @@ private:
 
     /// Numbers of the placed lines, band by band.
     [[nodiscard]] std::vector<std::vector<std::uint32_t>> LinesOfBands() const;
+    void PaintBand(int worker, int top, int bottom, const std::vector<std::uint32_t>& lines);
     void CoverCurve(const std::vector<QPointF>& curve, int width, Colour colour);
 
     PixelBuffer m_target;
     QPoint m_origin;
     LineMasks& m_masks;
     bool m_antialias;
-    std::vector<int> m_bands;
-    PaintBehind m_behind; ///< null once all of it is painted
+    Bands m_bands; ///< Behind is null once all of it is painted
     PixelMask m_scratch;
     std::vector<Placed> m_placed;
 };

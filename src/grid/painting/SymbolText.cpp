@@ -135,6 +135,12 @@ const SymbolText::Glyph& SymbolText::GlyphOf(int symbol) {
     return *slot;
 }
 
+void SymbolText::Prepare(int symbol) {
+    if (ToUnicode(symbol) != 0) {
+        static_cast<void>(GlyphOf(symbol));
+    }
+}
+
 std::optional<SymbolText::PlacedGlyph> SymbolText::Place(const QRectF& rect, int symbol,
                                                          double scale) {
     const double height = rect.height() * scale;

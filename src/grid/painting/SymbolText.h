@@ -48,6 +48,10 @@ public:
     /// pixel borders, which keeps it crisp.
     [[nodiscard]] QPainterPath Outline(const QRectF& rect, int symbol, double scale, bool snap);
 
+    /// Takes a symbol's outline from the font. Once this is done, Outline() of that symbol may be
+    /// asked for from any one thread at a time.
+    void Prepare(int symbol);
+
     /// Where a symbol's glyph begins, and in which of the two fonts at which size.
     struct PlacedGlyph {
         quint32 Index = 0;

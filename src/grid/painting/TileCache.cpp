@@ -66,6 +66,16 @@ void TileCache::Begin(const GridView& view) {
             TakeFloss(static_cast<std::uint8_t>(floss), look);
         }
     }
+    PrepareSymbols();
+}
+
+void TileCache::PrepareSymbols() {
+    // Fonts belong to the thread that made them: those that paint find the outlines taken.
+    if (m_setting.style >= ShowBlackSymbols && m_setting.style <= ShowColorBlocksSymbols) {
+        for (const Look& look : m_looks) {
+            m_symbols.Prepare(look.Symbol);
+        }
+    }
 }
 
 void TileCache::Clear() {
@@ -80,13 +90,14 @@ void TileCache::TakeFloss(std::uint8_t floss, const Look& look) {
     m_flosses[floss] = ToRgb(look.Floss);
     for (auto& entry : m_sizes) {
         for (std::size_t kind = 0; kind < Size::Kinds; ++kind) {
-            entry.second->m_tiles[kind * 256 + floss] = nullptr;
-            entry.second->m_overlays[kind * 256 + floss] = nullptr;
+            entry.second->m_tiles[kind * 256 + floss].store(nullptr, std::memory_order_relaxed);
+            entry.second->m_overlays[kind * 256 + floss].store(nullptr, std::memory_order_relaxed);
         }
     }
 }
 
 TileCache::Size& TileCache::SizeOf(int width, int height) {
+    const std::lock_guard lock(m_making);
     const std::uint64_t key =
         (static_cast<std::uint64_t>(width) << 32U) | static_cast<std::uint32_t>(height);
     std::unique_ptr<Size>& size = m_sizes[key];
@@ -114,8 +125,37 @@ const QRgb* TileCache::Make(Size& size, std::uint8_t kind, std::uint8_t floss) {
     } else {
         AddStitch(target, size, {kind, floss});
     }
-    size.m_tiles[kind * std::size_t{256} + floss] = tile;
+    size.m_tiles[kind * std::size_t{256} + floss].store(tile, std::memory_order_release);
     return tile;
+}
+
+const QRgb* TileCache::MakeAlone(Size& size, std::uint8_t kind, std::uint8_t floss) {
+    const std::lock_guard lock(m_making);
+    // Another thread may have been faster.
+    const QRgb* tile = size.m_tiles[kind * std::size_t{256} + floss].load(Ready);
+    return tile != nullptr ? tile : Make(size, kind, floss);
+}
+
+const QRgb* TileCache::Overlay(Size& size, std::uint8_t kind, std::uint8_t floss) {
+    const std::atomic<const QRgb*>& place = size.m_overlays[kind * std::size_t{256} + floss];
+    const QRgb* overlay = place.load(Ready);
+    if (overlay == nullptr) {
+        const std::lock_guard lock(m_making);
+        overlay = place.load(Ready);
+        overlay = overlay != nullptr ? overlay : MakeOverlay(size, kind, floss);
+    }
+    return overlay;
+}
+
+const PixelMask& TileCache::KnotMask(int orientation, int width, int height, int penWidth,
+                                     bool filled) {
+    const std::lock_guard lock(m_making);
+    return m_masks.Knot(orientation, width, height, penWidth, filled);
+}
+
+const PixelMask& TileCache::KnotSymbol(int symbol, int width, int height) {
+    const std::lock_guard lock(m_making);
+    return m_masks.Symbol(symbol, StitchFKnot, width, height);
 }
 
 const QRgb* TileCache::MakeOverlay(Size& size, std::uint8_t kind, std::uint8_t floss) {
@@ -136,7 +176,7 @@ const QRgb* TileCache::MakeOverlay(Size& size, std::uint8_t kind, std::uint8_t f
         overlay[i] = qRgba(std::min(qRed(ink), alpha), std::min(qGreen(ink), alpha),
                            std::min(qBlue(ink), alpha), alpha);
     }
-    size.m_overlays[kind * std::size_t{256} + floss] = overlay;
+    size.m_overlays[kind * std::size_t{256} + floss].store(overlay, std::memory_order_release);
     return overlay;
 }
 
@@ -151,8 +191,7 @@ void TileCache::Compose(const PixelBuffer& target, Size& size, const SquareConte
     }
     while (++stitch != content.end()) {
         const std::uint8_t kind = kindOf(*stitch);
-        const QRgb* over = size.m_overlays[kind * std::size_t{256} + stitch->PaletteIndex];
-        over = over != nullptr ? over : MakeOverlay(size, kind, stitch->PaletteIndex);
+        const QRgb* over = Overlay(size, kind, stitch->PaletteIndex);
         for (int y = 0; y < target.Height; ++y, over += target.Width) {
             QRgb* row = target.Row(y);
             for (int x = 0; x < target.Width; ++x) {
@@ -220,8 +259,10 @@ void TileCache::AddImage(const PixelBuffer& target, Size& size, std::uint8_t kin
     if (region == nullptr) {
         region = &m_masks.ImageRegion(kind, size.m_width, size.m_height);
     }
-    const QRgb* from = Tile(size, kind, floss) +
-                       static_cast<std::ptrdiff_t>(region->Top) * target.Width + region->Left;
+    const QRgb* tile = size.m_tiles[kind * std::size_t{256} + floss].load(Ready);
+    tile = tile != nullptr ? tile : Make(size, kind, floss);
+    const QRgb* from =
+        tile + static_cast<std::ptrdiff_t>(region->Top) * target.Width + region->Left;
     for (int y = 0; y < region->Height; ++y, from += target.Width) {
         const std::uint8_t* cover = region->Row(y);
         QRgb* to = target.Row(region->Top + y) + region->Left;

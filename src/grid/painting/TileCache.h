@@ -6,8 +6,10 @@
 #include <QImage>
 
 #include <array>
+#include <atomic>
 #include <cstdint>
 #include <memory>
+#include <mutex>
 #include <unordered_map>
 #include <vector>
 
@@ -23,6 +25,9 @@ namespace zol {
 /// The pictures of single stitches, ground included. Squares of the same floss, kind and size look
 /// the same, so each is made once and copied. Kept between paints; what a change of floss, font or
 /// options makes stale goes when the next paint begins.
+///
+/// Begin() is for one thread alone; what else is public may be called from several at once, each
+/// with pixels of its own.
 class TileCache {
 public:
     TileCache(StitchImages& images, SymbolText& symbols);
@@ -40,9 +45,10 @@ public:
         static constexpr std::size_t Kinds = 13;
         int m_width;
         int m_height;
-        std::array<const QRgb*, Kinds * 256> m_tiles{};
+        using Pictures = std::array<std::atomic<const QRgb*>, Kinds * 256>;
+        Pictures m_tiles{};
         /// Without ground, premultiplied: what lies above another stitch.
-        std::array<const QRgb*, Kinds * 256> m_overlays{};
+        Pictures m_overlays{};
         // Masks of the store, so that squares with several stitches need not search for them.
         std::array<const PixelMask*, Kinds> m_shapes{};
         std::array<const PixelMask*, Kinds> m_outlines{};
@@ -63,8 +69,8 @@ public:
             kind = 0;
             floss = 0;
         }
-        const QRgb* tile = size.m_tiles[std::size_t{kind} * 256 + floss];
-        return tile != nullptr ? tile : Make(size, kind, floss);
+        const QRgb* tile = size.m_tiles[std::size_t{kind} * 256 + floss].load(Ready);
+        return tile != nullptr ? tile : MakeAlone(size, kind, floss);
     }
     /// Paints the stitches of a square that has some, ground included, into Width x Height pixels.
     void Compose(const PixelBuffer& target, Size& size, const SquareContent& content);
@@ -74,9 +80,15 @@ public:
     [[nodiscard]] const QRgb* Flosses() const { return m_flosses.data(); }
     [[nodiscard]] Colour ColourOf(std::uint8_t floss) const { return m_looks[floss].Floss; }
     [[nodiscard]] int SymbolOf(std::uint8_t floss) const { return m_looks[floss].Symbol; }
-    [[nodiscard]] MaskStore& Masks() { return m_masks; }
+    /// Masks of knots and of symbols in them; good for the paint.
+    [[nodiscard]] const PixelMask& KnotMask(int orientation, int width, int height, int penWidth,
+                                            bool filled);
+    [[nodiscard]] const PixelMask& KnotSymbol(int symbol, int width, int height);
 
 private:
+    /// What was written into a picture is seen by whoever finds it.
+    static constexpr auto Ready = std::memory_order_acquire;
+
     /// What a floss's tiles depend on.
     struct Look {
         Colour Floss = 0;
@@ -99,6 +111,11 @@ private:
 
     void Clear();
     void TakeFloss(std::uint8_t floss, const Look& look);
+    void PrepareSymbols();
+    /// Make() for any thread.
+    const QRgb* MakeAlone(Size& size, std::uint8_t kind, std::uint8_t floss);
+    [[nodiscard]] const QRgb* Overlay(Size& size, std::uint8_t kind, std::uint8_t floss);
+    // From here on the caller holds the lock.
     [[nodiscard]] QRgb* NewPicture(const Size& size);
     const QRgb* Make(Size& size, std::uint8_t kind, std::uint8_t floss);
     const QRgb* MakeOverlay(Size& size, std::uint8_t kind, std::uint8_t floss);
@@ -108,6 +125,7 @@ private:
     void AddImage(const PixelBuffer& target, Size& size, std::uint8_t kind, std::uint8_t floss);
     void MakeImage(QRgb* tile, Size& size, std::uint8_t kind, std::uint8_t floss);
 
+    std::mutex m_making; ///< held by whoever adds to what is kept, or looks into the mask store
     StitchImages& m_images;
     SymbolText& m_symbols;
     MaskStore m_masks;

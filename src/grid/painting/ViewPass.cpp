@@ -9,50 +9,55 @@
 #include "grid/painting/LineIndex.h"
 #include "grid/painting/LineMasks.h"
 #include "grid/painting/RasterPass.h"
+#include "grid/painting/RasterPlan.h"
 #include "grid/painting/StyledLine.h"
 
 namespace zol {
 
 ViewPass::ViewPass(const GridView& view, const SquareRect& rect, const QRect& pixels,
-                   TileCache& tiles, LineIndex& lines, LineMasks& lineMasks)
+                   const Stock& stock)
     : m_view(view),
-      m_lines(lines),
-      m_lineMasks(lineMasks),
-      m_squares(rect.IsEmpty() ? nullptr
-                               : std::make_unique<RasterPass>(view, rect, pixels, tiles)) {}
+      m_stock(stock) {
+    if (!rect.IsEmpty()) {
+        m_plan = std::make_unique<RasterPlan>(view, rect, pixels, stock.Tiles);
+        m_squares.resize(static_cast<std::size_t>(std::max(1, stock.Workers)));
+    }
+}
 
 ViewPass::~ViewPass() = default;
 
 void ViewPass::Paint(QImage& image, QPoint position) {
-    if (!m_squares || image.isNull()) {
+    if (!m_plan || image.isNull()) {
         return;
     }
-    const RasterPass::Painted piece = m_squares->Find(image.size(), position);
-    if (piece.Area.isEmpty()) {
-        return;
-    }
-    if (m_view.Source->Lines().empty()) {
-        m_squares->Paint(image, position);
-    } else {
-        PaintWithLines(image, position, piece.Area, piece.Squares);
+    const RasterPlan::Painted piece = m_plan->Find(image.size(), position);
+    if (!piece.Area.isEmpty()) {
+        m_plan->Begin();
+        PaintBands(image, position, piece.Area, piece.Squares);
     }
 }
 
-void ViewPass::PaintWithLines(QImage& image, QPoint position, const QRect& area,
-                              const SquareRect& squares) {
+void ViewPass::PaintBands(QImage& image, QPoint position, const QRect& area,
+                          const SquareRect& shown) {
     const auto stride = image.bytesPerLine() / static_cast<std::ptrdiff_t>(sizeof(QRgb));
     QRgb* first = reinterpret_cast<QRgb*>(image.scanLine(area.top())) + area.left();
     const QPoint corner = position + area.topLeft();
-    const auto paintSquares = [&](int top, int bottom) {
+    const auto paintSquares = [&](int worker, int top, int bottom) {
         QImage band(reinterpret_cast<uchar*>(first + top * stride), area.width(), bottom - top + 1,
                     image.bytesPerLine(), image.format());
-        m_squares->Paint(band, corner + QPoint(0, top));
+        auto& squares = m_squares[static_cast<std::size_t>(worker)];
+        if (!squares) {
+            squares = std::make_unique<RasterPass>(*m_plan);
+        }
+        squares->Paint(band, corner + QPoint(0, top));
     };
     const int rows = std::max(8, BandBytes / (area.width() * static_cast<int>(sizeof(QRgb))));
-    PixelCanvas canvas({first, stride, area.width(), area.height()}, corner, m_lineMasks,
+    const bool isMuch = qint64{area.width()} * area.height() >= WorthHelp;
+    PixelCanvas canvas({first, stride, area.width(), area.height()}, corner, m_stock.Masks,
                        m_view.Options.Antialias,
-                       m_squares->BandsOf({area, squares}, position, rows), paintSquares);
-    DrawBackStitchLines(canvas, m_view, squares, m_lines);
+                       {m_plan->BandsOf({area, shown}, position, rows), paintSquares,
+                        isMuch ? m_stock.Workers : 1});
+    DrawBackStitchLines(canvas, m_view, shown, m_stock.Lines);
     canvas.Flush();
 }
 

@@ -200,6 +200,29 @@ TEST_F(PartsOfWholeTest, BandsOfOnePaintAddUpThoughAnotherComesBetween) {
     }
 }
 
+TEST_F(PartsOfWholeTest, ManyWorkersPaintWhatOneDoes) {
+    // Each painter begins with nothing made yet, so that workers ask for the same things at once.
+    FillByChance(60, 200);
+    for (int style = ShowColorSquares; style <= ShowVStitches; ++style) {
+        const GridView view = Seen(looks[9 + static_cast<std::size_t>(style % 4)], style);
+        const QSize size(SquareSpans::Columns(view, 1, Side).Edge(Side + 1),
+                         SquareSpans::Rows(view, 1, Side).Edge(Side + 1));
+        ASSERT_GT(size.width() * size.height(), 128 * 1024);
+        painter.SetWorkers(1);
+        const QImage expected = PartOf(view, QRect(QPoint(0, 0), size));
+        for (const int workers : {2, 4, 7}) {
+            GridPainter fresh;
+            fresh.SetWorkers(workers);
+            for (const char* turn : {"first", "second"}) {
+                QImage image = BareCloth(view, QRect(QPoint(0, 0), size));
+                fresh.PaintImage(image, {0, 0}, view, view.Everything());
+                ASSERT_EQ(image, expected)
+                    << workers << " workers, style " << style << ", the " << turn << " paint";
+            }
+        }
+    }
+}
+
 TEST_F(PartsOfWholeTest, LinesThatCrossManyDoNotChangeEachOther) {
     // More lines than are walked one by one.
     FillByChance(20, 400);
