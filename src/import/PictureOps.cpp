@@ -50,6 +50,10 @@ void RemapWhite(Picture& image) {
     }
 }
 
+void MarkErased(Picture& image) {
+    std::replace(image.Pixels().begin(), image.Pixels().end(), EraseColor, TransparentPixel);
+}
+
 Picture ResampleNearest(const Picture& image, int width, int height) {
     if (image.IsEmpty()) {
         return {};

@@ -38,6 +38,9 @@ void ReduceDepth(Picture& image);
 /// pure white is left but what is to stay empty.
 void RemapWhite(Picture& image);
 
+/// Erased pixels get the mark of transparent ones, so that the next RemapWhite leaves them empty.
+void MarkErased(Picture& image);
+
 /// Each pixel takes the source pixel under its middle. A size below 1 becomes 1.
 [[nodiscard]] Picture ResampleNearest(const Picture& image, int width, int height);
 

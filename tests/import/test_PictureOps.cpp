@@ -116,6 +116,17 @@ TEST(PictureOps, NearestTakesThePixelUnderTheMiddle) {
     EXPECT_EQ(ResampleNearest(picture, 0, -3).Pixels().size(), 1U);
 }
 
+TEST(PictureOps, ErasedPixelsThatAreMarkedStayEmpty) {
+    Picture image(3, 1);
+    image.SetImagePixel(0, 0, WhiteStandIn);
+    image.SetImagePixel(2, 0, 0x00010203);
+    const Picture before = image;
+    MarkErased(image);
+    EXPECT_EQ(image.ImagePixel(1, 0), TransparentPixel);
+    RemapWhite(image);
+    EXPECT_EQ(image, before);
+}
+
 TEST(DistinctColours, EachColourOnceAndEveryPixelFindsIts) {
     Picture picture(130, 70);
     for (int y = 0; y < 70; ++y) {

@@ -165,6 +165,14 @@ void PictureView::UpdateOverlay(const QRectF& imageRect, int reach) {
     viewport()->update(DevicePixels::WindowRect(touched, m_place.Ratio));
 }
 
+void PictureView::UpdateOverlay(const QRegion& devicePixels) {
+    QRegion touched;
+    for (const QRect& rect : devicePixels& m_painted.rect()) {
+        touched += DevicePixels::WindowRect(rect, m_place.Ratio);
+    }
+    viewport()->update(touched);
+}
+
 QSize PictureView::ImageSize() const {
     return m_levels.HasPicture() ? QSize(Shown()->ImageWidth(), Shown()->ImageHeight()) : QSize();
 }
@@ -264,6 +272,8 @@ void PictureView::paintEvent(QPaintEvent* event) {
         painter.drawImage(exposed.topLeft(), m_painted, exposed);
     }
     if (m_overlay && !m_place.IsEmpty()) {
+        // Tells the overlay which part of it is wanted.
+        painter.setClipRect(pixels.Covering(event->rect()));
         m_overlay(painter, m_place);
     }
 }

@@ -36,7 +36,8 @@ public:
     static constexpr double MinZoom = 1;
     static constexpr double MaxZoom = 3200;
 
-    /// Paints what lies over the picture. The painter's unit is a pixel of the device.
+    /// Paints what lies over the picture. The painter's unit is a pixel of the device; what is
+    /// wanted lies within its clip.
     using OverlayPainter = std::function<void(QPainter&, const PicturePlace&)>;
 
     explicit PictureView(QWidget* parent = nullptr);
@@ -81,6 +82,8 @@ public:
     void SetOverlay(OverlayPainter paint);
     /// What lies over a rectangle of the picture has changed, and `reach` device pixels round it.
     void UpdateOverlay(const QRectF& imageRect, int reach = 2);
+    /// The same over pixels of the device.
+    void UpdateOverlay(const QRegion& devicePixels);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;

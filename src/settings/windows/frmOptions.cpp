@@ -3,7 +3,6 @@
 
 #include "settings/windows/frmOptions.h"
 
-#include <QGuiApplication>
 #include <QLayout>
 #include <QPushButton>
 #include <QScrollArea>
@@ -19,6 +18,7 @@
 #include "settings/windows/ui_frmOptions.h"
 #include "windowkit/DialogSize.h"
 #include "windowkit/Spelling.h"
+#include "windowkit/WaitCursor.h"
 
 namespace zol {
 
@@ -37,15 +37,6 @@ public:
         page.setAutoFillBackground(false);
     }
     [[nodiscard]] QSize sizeHint() const override { return widget()->sizeHint(); }
-};
-
-/// The wait cursor for as long as it lives.
-class WaitCursor {
-public:
-    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
-    WaitCursor(const WaitCursor&) = delete;
-    WaitCursor& operator=(const WaitCursor&) = delete;
 };
 
 } // namespace

@@ -1,0 +1,259 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#include <QDialog>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "DeskKit.h"
+#include "PictureViewKit.h"
+#include "import/PictureOps.h"
+#include "import/windows/CropScreen.h"
+#include "support/DialogHands.h"
+
+namespace zol {
+
+using test::Drag;
+using test::PartOf;
+using test::PlacePicture;
+using test::Shot;
+using test::ShownAt;
+
+/// The screen in a dialog, as in the wizard, with a picture of 300 by 200 that came from the
+/// first screen.
+class CropScene {
+public:
+    explicit CropScene(SharedPicture picture = PlacePicture(300, 200)) {
+        Kit.Work.TheImage = std::move(picture);
+        Screen = new CropScreen(Kit.Desk, &Dialog);
+        (new QVBoxLayout(&Dialog))->addWidget(Screen);
+        Screen->DisplayScreen(false);
+        Dialog.resize(800, 500);
+        Dialog.show();
+        Dialog.activateWindow();
+        if (!QTest::qWaitForWindowActive(&Dialog)) {
+            qFatal("the dialog does not come up");
+        }
+    }
+    [[nodiscard]] PictureView& View() { return PartOf<PictureView>(*Screen, "lpicCrop"); }
+    [[nodiscard]] const Picture& Shown() { return *View().Shown(); }
+    [[nodiscard]] QString Text(const char* label) { return PartOf<QLabel>(*Screen, label).text(); }
+    [[nodiscard]] QPushButton& CropButton() { return PartOf<QPushButton>(*Screen, "cmdCrop"); }
+    void Press(const char* button) {
+        QTest::mouseClick(&PartOf<QPushButton>(*Screen, button), Qt::LeftButton);
+    }
+
+    test::DeskKit Kit;
+    QDialog Dialog;
+    CropScreen* Screen = nullptr;
+};
+
+class test_CropScreen : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theInstructionIsAsTold();
+    void aBandIsDrawnAndCropped();
+    void aBandWithoutSizeIsDropped();
+    void theBandsSidesAndCornersAreDragged();
+    void whatLiesOutsideTheBandIsDimmed();
+    void arrowsNudgeAndStretchTheBand();
+    void escapeFreesTheBandFirst();
+    void resetBringsThePictureBack();
+    void leavingHandsOnThePictureWithoutPureWhite();
+    void transparentPixelsStayEmptyAndShowSo();
+    void goingBackKeepsThePictureGoingForwardTakesItAnew();
+    void erasedSquaresSurviveAResetAfterwards();
+    void cropsAtEachZoomAndPixel();
+    void withoutAPictureNothingHappens();
+};
+
+void test_CropScreen::theInstructionIsAsTold() {
+    CropScene scene;
+    QCOMPARE(scene.Screen->Instruction(),
+             QStringLiteral("Click and drag the mouse cursor to select the area of the image you "
+                            "wish to keep, and click the Crop button."));
+    QCOMPARE(PartOf<QPushButton>(*scene.Screen, "cmdResetCrop").text().remove(QLatin1Char('&')),
+             QStringLiteral("Reset Picture"));
+}
+
+void test_CropScreen::aBandIsDrawnAndCropped() {
+    CropScene scene;
+    const Picture before = scene.Shown();
+    QVERIFY(!scene.CropButton().isEnabled());
+    Drag(scene.View(), {40, 30}, {140, 90});
+    QCOMPARE(scene.Text("lblBandSize"), QStringLiteral("100 × 60 pixels"));
+    scene.Press("cmdCrop");
+    QCOMPARE(scene.Shown(), CropPicture(before, {40, 30, 100, 60}));
+    QCOMPARE(scene.Text("lblPictureSize"), QStringLiteral("100 × 60 pixels"));
+    QVERIFY(!scene.CropButton().isEnabled());
+    // The picture that travels is that of the screen before until this one is left.
+    QCOMPARE(*scene.Kit.Work.TheImage, before);
+}
+
+void test_CropScreen::aBandWithoutSizeIsDropped() {
+    CropScene scene;
+    Drag(scene.View(), {40, 30}, {140, 30});
+    QVERIFY(!scene.CropButton().isEnabled());
+    Drag(scene.View(), {40, 30}, {140, 90});
+    QVERIFY(scene.CropButton().isEnabled());
+    Drag(scene.View(), {250, 150}, {250, 150});
+    QVERIFY(!scene.CropButton().isEnabled());
+    QCOMPARE(scene.Text("lblBandSize"), QStringLiteral("Nothing is selected."));
+    QCOMPARE(scene.Shown().ImageWidth(), 300);
+}
+
+void test_CropScreen::theBandsSidesAndCornersAreDragged() {
+    CropScene scene;
+    const Picture before = scene.Shown();
+    Drag(scene.View(), {40, 30}, {140, 90});
+    test::MoveTo(scene.View(), {40, 30}, Qt::NoButton);
+    QCOMPARE(scene.View().viewport()->cursor().shape(), Qt::SizeFDiagCursor);
+    Drag(scene.View(), {40, 30}, {20, 10});
+    test::MoveTo(scene.View(), {140, 50}, Qt::NoButton);
+    QCOMPARE(scene.View().viewport()->cursor().shape(), Qt::SizeHorCursor);
+    Drag(scene.View(), {140, 50}, {400, 70});
+    QCOMPARE(scene.Text("lblBandSize"), QStringLiteral("280 × 80 pixels"));
+    test::MoveTo(scene.View(), {150, 50}, Qt::NoButton);
+    QCOMPARE(scene.View().viewport()->cursor().shape(), Qt::SizeAllCursor);
+    Drag(scene.View(), {150, 50}, {145, 60});
+    scene.Press("cmdCrop");
+    QCOMPARE(scene.Shown(), CropPicture(before, {15, 20, 280, 80}));
+}
+
+void test_CropScreen::whatLiesOutsideTheBandIsDimmed() {
+    CropScene scene;
+    const QImage plain = Shot(scene.View());
+    Drag(scene.View(), {40, 30}, {140, 90});
+    const QImage banded = Shot(scene.View());
+    QCOMPARE(ShownAt(scene.View(), banded, {90, 60}), ShownAt(scene.View(), plain, {90, 60}));
+    QVERIFY(qGreen(ShownAt(scene.View(), banded, {200, 120})) <
+            qGreen(ShownAt(scene.View(), plain, {200, 120})));
+    // What a further drag repaints is what a repaint of everything gives.
+    Drag(scene.View(), {140, 90}, {220, 50});
+    Drag(scene.View(), {100, 40}, {70, 120});
+    const QImage moved = Shot(scene.View());
+    scene.View().viewport()->update();
+    QCOMPARE(moved, Shot(scene.View()));
+    QCOMPARE(ShownAt(scene.View(), moved, {100, 120}), ShownAt(scene.View(), plain, {100, 120}));
+}
+
+void test_CropScreen::arrowsNudgeAndStretchTheBand() {
+    CropScene scene;
+    const Picture before = scene.Shown();
+    Drag(scene.View(), {40, 30}, {140, 90});
+    scene.View().setFocus();
+    QTest::keyClick(&scene.View(), Qt::Key_Right);
+    QTest::keyClick(&scene.View(), Qt::Key_Up, Qt::ControlModifier);
+    QTest::keyClick(&scene.View(), Qt::Key_Left, Qt::ShiftModifier);
+    QTest::keyClick(&scene.View(), Qt::Key_Down, Qt::ShiftModifier | Qt::ControlModifier);
+    QCOMPARE(scene.Text("lblBandSize"), QStringLiteral("99 × 70 pixels"));
+    scene.Press("cmdCrop");
+    QCOMPARE(scene.Shown(), CropPicture(before, {41, 20, 99, 70}));
+}
+
+void test_CropScreen::escapeFreesTheBandFirst() {
+    CropScene scene;
+    scene.View().setFocus();
+    QTest::keyClick(&scene.View(), Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(scene.Text("lblBandSize"), QStringLiteral("300 × 200 pixels"));
+    QTest::keyClick(&scene.View(), Qt::Key_Escape);
+    QVERIFY(!scene.CropButton().isEnabled());
+    QVERIFY(scene.Dialog.isVisible());
+    QTest::keyClick(&scene.View(), Qt::Key_Escape);
+    QVERIFY(!scene.Dialog.isVisible());
+}
+
+void test_CropScreen::resetBringsThePictureBack() {
+    CropScene scene;
+    const Picture before = scene.Shown();
+    Drag(scene.View(), {40, 30}, {140, 90});
+    scene.Press("cmdCrop");
+    Drag(scene.View(), {10, 10}, {50, 50});
+    scene.Press("cmdCrop");
+    QCOMPARE(scene.Shown().ImageWidth(), 40);
+    scene.Press("cmdResetCrop");
+    QCOMPARE(scene.Shown(), before);
+}
+
+void test_CropScreen::leavingHandsOnThePictureWithoutPureWhite() {
+    auto picture = PlacePicture(30, 20);
+    picture->SetImagePixel(5, 6, EraseColor);
+    picture->SetImagePixel(7, 8, TransparentPixel);
+    CropScene scene(picture);
+    QVERIFY(scene.Screen->ValidateScreen());
+    const Picture& handed = *scene.Kit.Work.TheImage;
+    QCOMPARE(handed.ImagePixel(5, 6), WhiteStandIn);
+    QCOMPARE(handed.ImagePixel(7, 8), EraseColor);
+    QCOMPARE(handed.ImagePixel(9, 9), picture->ImagePixel(9, 9));
+    QCOMPARE(picture->ImagePixel(5, 6), EraseColor);
+}
+
+void test_CropScreen::transparentPixelsStayEmptyAndShowSo() {
+    auto picture = test::PlainPicture(30, 20, EraseColor);
+    picture->SetImagePixel(7, 8, TransparentPixel);
+    CropScene scene(picture);
+    scene.View().SetCloth(QColor(10, 200, 30));
+    const QImage shot = Shot(scene.View());
+    QCOMPARE(ShownAt(scene.View(), shot, {7, 8}), qRgb(10, 200, 30));
+    QCOMPARE(ShownAt(scene.View(), shot, {3, 3}), qRgb(255, 255, 255));
+}
+
+void test_CropScreen::goingBackKeepsThePictureGoingForwardTakesItAnew() {
+    CropScene scene;
+    Drag(scene.View(), {40, 30}, {140, 90});
+    scene.Press("cmdCrop");
+    QVERIFY(scene.Screen->ValidateScreen());
+    QCOMPARE(scene.Kit.Work.TheImage->ImageWidth(), 100);
+    scene.Kit.Work.TheImage = PlacePicture(77, 55);
+    scene.Screen->DisplayScreen(true);
+    QCOMPARE(scene.Shown().ImageWidth(), 100);
+    scene.Screen->DisplayScreen(false);
+    QCOMPARE(scene.Shown().ImageWidth(), 77);
+}
+
+void test_CropScreen::erasedSquaresSurviveAResetAfterwards() {
+    CropScene scene;
+    QVERIFY(scene.Screen->ValidateScreen());
+    auto erased = std::make_shared<Picture>(*scene.Kit.Work.TheImage);
+    erased->SetImagePixel(50, 50, EraseColor);
+    scene.Kit.Work.TheImage = erased;
+    scene.Screen->DisplayScreen(true);
+    scene.Press("cmdResetCrop");
+    QVERIFY(scene.Screen->ValidateScreen());
+    QCOMPARE(*scene.Kit.Work.TheImage, *erased);
+}
+
+void test_CropScreen::cropsAtEachZoomAndPixel() {
+    CropScene scene;
+    const Picture before = scene.Shown();
+    for (const double zoom : {50.0, 100.0, 250.0}) {
+        scene.View().SetZoom(zoom);
+        QCoreApplication::processEvents();
+        Drag(scene.View(), {80, 60}, {121, 83});
+        scene.Press("cmdCrop");
+        // A pixel of the screen is two of the picture's at half the size.
+        QVERIFY(std::abs(scene.Shown().ImageWidth() - 41) <= (zoom < 100 ? 2 : 0));
+        QVERIFY(std::abs(scene.Shown().ImageHeight() - 23) <= (zoom < 100 ? 2 : 0));
+        scene.Press("cmdResetCrop");
+    }
+    QCOMPARE(scene.Shown(), before);
+}
+
+void test_CropScreen::withoutAPictureNothingHappens() {
+    CropScene scene(nullptr);
+    QTest::mouseClick(scene.View().viewport(), Qt::LeftButton);
+    scene.View().setFocus();
+    QTest::keyClick(&scene.View(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&scene.View(), Qt::Key_Right);
+    QVERIFY(!scene.CropButton().isEnabled());
+    QVERIFY(!PartOf<QPushButton>(*scene.Screen, "cmdResetCrop").isEnabled());
+    QVERIFY(scene.Screen->ValidateScreen());
+    QVERIFY(scene.Kit.Work.TheImage == nullptr);
+}
+
+} // namespace zol
+
+QTEST_MAIN(zol::test_CropScreen)
+#include "test_CropScreen.moc"
