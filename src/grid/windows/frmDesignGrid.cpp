@@ -29,6 +29,7 @@
 #include "grid/windows/PaletteStrip.h"
 #include "grid/windows/PrintCommands.h"
 #include "grid/windows/PropertiesCommands.h"
+#include "grid/windows/ReportCommands.h"
 #include "grid/windows/SizingCommands.h"
 #include "grid/windows/StatusLine.h"
 #include "grid/windows/ViewCommands.h"

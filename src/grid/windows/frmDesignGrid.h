@@ -36,6 +36,7 @@ class PaletteFileCommands;
 class PaletteStrip;
 class PrintCommands;
 class PropertiesCommands;
+class ReportCommands;
 class SizingCommands;
 class StatusLine;
 class ViewCommands;
@@ -130,6 +131,7 @@ private:
     std::unique_ptr<OptionsCommand> m_options;
     std::unique_ptr<PaletteFileCommands> m_paletteFiles;
     std::unique_ptr<PrintCommands> m_print;
+    std::unique_ptr<ReportCommands> m_reports;
 };
 
 } // namespace zol

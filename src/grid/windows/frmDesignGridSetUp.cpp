@@ -30,6 +30,7 @@
 #include "grid/windows/PaletteStrip.h"
 #include "grid/windows/PrintCommands.h"
 #include "grid/windows/PropertiesCommands.h"
+#include "grid/windows/ReportCommands.h"
 #include "grid/windows/SizingCommands.h"
 #include "grid/windows/StatusLine.h"
 #include "grid/windows/ViewCommands.h"
@@ -182,6 +183,7 @@ void frmDesignGrid::SetUpPrinting() {
     m_print = std::make_unique<PrintCommands>(
         *m_commands, m_workshop, m_modes->Box(), *this,
         [this](QWidget* parent) { m_options->Open(frmOptions::PrintoutsPage, parent); });
+    m_reports = std::make_unique<ReportCommands>(*m_commands, m_print->Desk(), *this);
 }
 
 void frmDesignGrid::SetUpZoomCommands() {

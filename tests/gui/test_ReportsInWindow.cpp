@@ -1,0 +1,148 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTreeView>
+
+#include "grid/painting/PaintColors.h"
+#include "grid/tools/EditBox.h"
+#include "gui/DrawnProgram.h"
+#include "print/FlossUsageText.h"
+#include "print/RtfLegend.h"
+#include "support/DialogDriver.h"
+
+namespace zol::test {
+
+/// Export and floss usage in the whole program.
+class ReportsInWindowTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void WhatIsDrawnIsExported();
+    void TheSelectedAreaIsExportedAsItFloats();
+    void WhatWasChosenHoldsForTheRun();
+    void WhatIsDrawnIsCountedAndPrinted();
+};
+
+namespace {
+
+void WaitForPicture(QDialog& wizard) {
+    ClickIn(wizard, "cmdExport");
+    QTRY_VERIFY(PartOf<QPushButton>(wizard, "cmdSaveImage").isEnabled());
+}
+
+void SaveImage(QDialog& wizard) {
+    ClickIn(wizard, "cmdSaveImage");
+    QTRY_VERIFY(PartOf<QPushButton>(wizard, "cmdSaveImage").isEnabled());
+}
+
+QImage Read(const std::filesystem::path& file) {
+    return QImage(QString::fromStdString(file.string())).convertToFormat(QImage::Format_RGB32);
+}
+
+} // namespace
+
+void ReportsInWindowTest::WhatIsDrawnIsExported() {
+    const ProgramHome home;
+    DrawnProgram program(home);
+    QVERIFY(program.Open());
+    program.Take(10, 10, 300);
+    program.ClickIn(2, 2);
+    program.ClickIn(3, 2);
+    const Colour floss = program.Design().GetPalette().GetFlossRGB(1);
+    program.User.files = {home / "out.png", home / "out.rtf"};
+    DialogDriver driver({[](QDialog& wizard) {
+        WaitForPicture(wizard);
+        SaveImage(wizard);
+        ClickIn(wizard, "cmdSaveInfo");
+        QTest::keyClick(&wizard, Qt::Key_Escape);
+    }});
+    program.Choose("mnuExport");
+    QVERIFY(driver.AllDone());
+    const QImage picture = Read(home / "out.png");
+    QCOMPARE(picture.size(), QSize(100, 100));
+    QCOMPARE(picture.pixel(15, 15), ToQColor(floss).rgb());
+    QCOMPARE(picture.pixel(25, 15), ToQColor(floss).rgb());
+    QVERIFY(picture.pixel(35, 15) != ToQColor(floss).rgb());
+    QCOMPARE(ReadText(home / "out.rtf"),
+             RtfLegend::Write(program.Design(), PrintOptionsOf(program.Parts().Settings)));
+    QVERIFY(program.User.told.empty());
+    program.End();
+}
+
+void ReportsInWindowTest::TheSelectedAreaIsExportedAsItFloats() {
+    const ProgramHome home;
+    DrawnProgram program(home);
+    QVERIFY(program.Open());
+    program.Take(10, 10, 300);
+    program.ClickIn(2, 2);
+    program.Tool("DRAWMODE_EDITBOX");
+    program.DragOver({{2, 2}, {4, 3}});
+    program.User.files = {home / "out.png"};
+    DialogDriver driver({[](QDialog& wizard) {
+        ClickIn(wizard, "chkSelectedOnly");
+        WaitForPicture(wizard);
+        SaveImage(wizard);
+        wizard.reject();
+    }});
+    program.Choose("mnuExport");
+    QVERIFY(driver.AllDone());
+    const QImage picture = Read(home / "out.png");
+    QCOMPARE(picture.size(), QSize(30, 20));
+    QVERIFY(picture.pixel(5, 5) != picture.pixel(15, 5));
+    QVERIFY(program.Window().Modes().Box().IsActive()); // the selection stays
+    program.End();
+}
+
+void ReportsInWindowTest::WhatWasChosenHoldsForTheRun() {
+    const ProgramHome home;
+    DrawnProgram program(home);
+    QVERIFY(program.Open());
+    DialogDriver driver({[](QDialog& wizard) {
+                             TypeIn(wizard, "txtPixelsPerSquare", QStringLiteral("3"));
+                             PartOf<QComboBox>(wizard, "cmbSDA").setCurrentIndex(2);
+                             wizard.reject();
+                         },
+                         [](QDialog& wizard) {
+                             QCOMPARE(PartOf<QLineEdit>(wizard, "txtPixelsPerSquare").text(),
+                                      QStringLiteral("3"));
+                             QCOMPARE(PartOf<QComboBox>(wizard, "cmbSDA").currentIndex(), 2);
+                             wizard.reject();
+                         }});
+    program.Choose("mnuExport");
+    program.Choose("mnuExport");
+    QVERIFY(driver.AllDone());
+    program.End();
+}
+
+void ReportsInWindowTest::WhatIsDrawnIsCountedAndPrinted() {
+    const ProgramHome home;
+    DrawnProgram program(home);
+    QVERIFY(program.Open());
+    program.Take(10, 10, 300);
+    program.ClickIn(2, 2);
+    program.ClickIn(3, 2);
+    program.User.files = {home / "out.csv"};
+    program.Printers.choices.push_back({QStringLiteral("Loom"), true});
+    DialogDriver driver({[](QDialog& window) {
+        QCOMPARE(PartOf<QTreeView>(window, "lvFlossUsage").model()->rowCount(), 1);
+        ClickIn(window, "cmdSave");
+        ClickIn(window, "cmdPrint");
+        QTest::keyClick(&window, Qt::Key_Escape);
+    }});
+    program.Choose("mnuToolsFlossUsage");
+    QVERIFY(driver.AllDone());
+    const bool inches = program.Parts().Settings.UsesInches();
+    QCOMPARE(ReadText(home / "out.csv"),
+             FlossUsageCsv(GetFlossUsages(program.Design(), inches), inches));
+    QCOMPARE(program.Printers.device.printed.size(), std::size_t{1});
+    QVERIFY(program.User.told.empty());
+    program.End();
+}
+
+} // namespace zol::test
+
+QTEST_MAIN(zol::test::ReportsInWindowTest)
+#include "test_ReportsInWindow.moc"
