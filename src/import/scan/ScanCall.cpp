@@ -68,7 +68,8 @@ void ScanCall::HandOver(ScanWatcher& watcher, std::unique_lock<std::mutex>& lock
 void ScanCall::Cancel(std::unique_lock<std::mutex>& lock, Duration toStop) {
     m_isCancelled = true;
     m_changed.notify_all();
-    if (m_hasBegun && !m_changed.wait_for(lock, toStop, [this] { return m_isDone; }) &&
+    // Without an interrupt there is nothing to wait for: the work ends when it next looks.
+    if (m_interrupt && !m_changed.wait_for(lock, toStop, [this] { return m_isDone; }) &&
         m_interrupt) {
         m_interrupt();
     }

@@ -27,8 +27,8 @@ public:
     // For the one that waits.
 
     /// Waits until the work is done, handing rows to the watcher. A work that does not begin
-    /// within `toBegin` is given up. One that is cancelled gets `toStop` to end by itself; then it
-    /// is interrupted and left to itself.
+    /// within `toBegin` is given up. One that is cancelled is left to itself at once; if it can
+    /// be interrupted, it is after it had `toStop` to end.
     [[nodiscard]] End Wait(ScanWatcher& watcher, Duration toBegin, Duration toStop);
 
     // For the one that works.

@@ -11,6 +11,7 @@
 namespace zol {
 
 class Pattern;
+class ScannerDoor;
 
 /// What the screens of the import wizard work with. Everything outlives the wizard, but for the
 /// work, which is the wizard's own. A screen is made with the desk and a parent.
@@ -22,6 +23,7 @@ struct ImportDesk {
     const Options& Settings;
     MessageDoor& Messages;
     FileDoor& Files;
+    ScannerDoor* Scanners = nullptr; ///< null: nothing can be scanned
 };
 
 } // namespace zol

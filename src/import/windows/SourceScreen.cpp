@@ -14,6 +14,7 @@
 #include "import/PictureFiles.h"
 #include "import/PictureOps.h"
 #include "import/windows/ImagePicture.h"
+#include "import/windows/ScannerList.h"
 #include "import/windows/WizardProgress.h"
 #include "import/windows/WizardStatus.h"
 #include "import/windows/ui_SourceScreen.h"
@@ -56,6 +57,7 @@ SourceScreen::SourceScreen(ImportDesk& desk, QWidget* parent)
     connect(&m_loadJob, &LatestJob::Failed, this, [this](const QString& text) {
         TellFailure({{}, ErrOutOfMemory, text.toStdString()});
     });
+    SetUpScanning();
     ConnectOptions();
     EnableFields();
 }
@@ -71,12 +73,32 @@ void SourceScreen::ConnectOptions() {
     // Also for the option that is chosen already: the clipboard may hold another image by now.
     connect(options, &QButtonGroup::buttonClicked, this, &SourceScreen::ChooseSource);
     connect(m_ui->cmdBrowse, &QPushButton::clicked, this, &SourceScreen::Browse);
-    connect(m_ui->cmdAcquire, &QPushButton::clicked, this, &SourceScreen::AcquireRequested);
     // What is typed names another picture than the one that is shown.
     connect(m_ui->txtFileName, &QLineEdit::textEdited, this, [this] {
         m_loadJob.Cancel();
         Show(nullptr);
     });
+}
+
+void SourceScreen::SetUpScanning() {
+    if (m_desk.Scanners != nullptr) {
+        m_scanners =
+            new ScannerList({*m_desk.Scanners, m_desk.Context, m_desk.Store, m_desk.Messages},
+                            *m_ui->cmbScanSource, *m_ui->cmdAcquire, this);
+        connect(m_ui->cmdAcquire, &QPushButton::clicked, this, &SourceScreen::Acquire);
+    }
+}
+
+void SourceScreen::LookForScanners() {
+    if (m_scanners != nullptr) {
+        m_scanners->Look();
+    }
+}
+
+void SourceScreen::Acquire() {
+    if (auto picture = m_scanners->Acquire(this)) {
+        TakePicture(std::move(*picture));
+    }
 }
 
 QString SourceScreen::Instruction() const {
@@ -125,7 +147,7 @@ void SourceScreen::ChooseSource() {
     } else if (m_ui->optClipboard->isChecked()) {
         PasteImage();
     } else if (m_ui->optScan->isChecked()) {
-        Q_EMIT ScanChosen();
+        LookForScanners();
     } else {
         Load(m_lastImportFile);
     }
@@ -137,11 +159,14 @@ void SourceScreen::EnableFields() {
     m_ui->cmdBrowse->setEnabled(file);
     const bool scan = m_ui->optScan->isChecked();
     m_ui->cmbScanSource->setEnabled(scan);
-    m_ui->cmdAcquire->setEnabled(scan);
+    m_ui->cmdAcquire->setEnabled(scan && m_scanners != nullptr && m_scanners->Chosen().has_value());
 }
 
 void SourceScreen::Empty() {
     m_loadJob.Cancel();
+    if (m_scanners != nullptr) {
+        m_scanners->Leave();
+    }
     Show(nullptr);
     m_ui->txtFileName->clear();
 }
@@ -238,14 +263,6 @@ void SourceScreen::SaveLastImport() {
     m_saveJob.Start([picture = m_picture, file = m_lastImportFile](
                         ProgressDoor& /*progress*/) { return SaveImage(*picture, file); },
                     [](int /*status*/) {});
-}
-
-QComboBox& SourceScreen::ScanSources() {
-    return *m_ui->cmbScanSource;
-}
-
-QPushButton& SourceScreen::AcquireButton() {
-    return *m_ui->cmdAcquire;
 }
 
 } // namespace zol

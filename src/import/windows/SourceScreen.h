@@ -11,15 +11,13 @@
 #include "import/windows/WizardScreen.h"
 #include "windowkit/LatestJob.h"
 
-class QComboBox;
-class QPushButton;
-
 namespace Ui {
 class SourceScreen;
 }
 
 namespace zol {
 
+class ScannerList;
 class WizardStatus;
 
 /// Screen 0: where the picture comes from. A file, the clipboard, a scanner, or the picture of the
@@ -42,17 +40,11 @@ public:
     void TakePicture(Picture picture);
     [[nodiscard]] bool HasPicture() const { return m_picture != nullptr; }
 
-    /// For whoever works scanners: the lists and buttons below `optScan`.
-    [[nodiscard]] QComboBox& ScanSources();
-    [[nodiscard]] QPushButton& AcquireButton();
-
-Q_SIGNALS:
-    /// `optScan` was chosen.
-    void ScanChosen();
-    void AcquireRequested();
-
 private:
     void ConnectOptions();
+    void SetUpScanning();
+    void LookForScanners();
+    void Acquire();
     void ChooseSource();
     void EnableFields();
     void Empty();
@@ -67,7 +59,8 @@ private:
     ImportDesk& m_desk;
     std::unique_ptr<Ui::SourceScreen> m_ui;
     WizardStatus* m_status = nullptr;
-    SharedPicture m_picture; ///< what LPicPreview shows
+    ScannerList* m_scanners = nullptr; ///< null where nothing can be scanned
+    SharedPicture m_picture;           ///< what LPicPreview shows
     std::filesystem::path m_lastImportFile;
     SharedPicture m_saved; ///< what that file holds
     std::filesystem::path m_loading;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdlib>
+#include <fstream>
 #include <initializer_list>
 #include <map>
 #include <string>
@@ -51,8 +52,10 @@ public:
         for (const auto& [name, value] : all) {
             text.append(name).append(" ").append(value).append("\n");
         }
-        WriteFile(Folder() / "test.conf", text);
-        WriteFile(Folder() / "dll.conf", "test\n");
+        // No assertion, as tests of windows know another kind: without its files there is no
+        // device, which every test notices.
+        std::ofstream(Folder() / "test.conf", std::ios::binary) << text;
+        std::ofstream(Folder() / "dll.conf", std::ios::binary) << "test\n";
     }
 
 private:

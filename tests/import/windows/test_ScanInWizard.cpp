@@ -1,0 +1,150 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+#include "import/PictureOps.h"
+#include "import/scan/SaneScanner.h"
+#include "import/scan/SaneTestDevice.h"
+#include "import/windows/DeskKit.h"
+#include "import/windows/PictureView.h"
+#include "import/windows/SourceScreen.h"
+#include "support/DialogDriver.h"
+#include "support/DialogHands.h"
+#include "support/ScriptedScanner.h"
+
+namespace zol::test {
+
+/// From the scanner to the picture that travels through the wizard.
+class ScanInWizardTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void AScanBecomesThePictureToImport();
+    void ACancelledScanKeepsThePictureOfBefore();
+    void AnotherSourceDropsWhatIsStillFound();
+    void TheTestDeviceGoesAllTheWay();
+
+private:
+    struct Shown {
+        explicit Shown(DeskKit& kit) : Screen(kit.Desk, nullptr) {
+            Screen.resize(800, 500);
+            Screen.DisplayScreen(false);
+            Screen.show();
+        }
+        [[nodiscard]] SharedPicture Picture() {
+            return PartOf<PictureView>(Screen, "LPicPreview").Shown();
+        }
+        [[nodiscard]] bool CanAcquire() {
+            return PartOf<QPushButton>(Screen, "cmdAcquire").isEnabled();
+        }
+        SourceScreen Screen;
+    };
+    /// What a user does with the window of the scanner.
+    static void ScanThere(QDialog& window) {
+        QTRY_VERIFY(PartOf<QPushButton>(window, "cmdScan").isEnabled());
+        ClickIn(window, "cmdScan");
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<ScriptedScanner> m_scanner;
+};
+
+void ScanInWizardTest::init() {
+    // One after the other, not one within the other.
+    m_folder.reset();
+    qunsetenv("TMPDIR");
+    const SaneTestDevice inNoFolderOfATest;
+    m_folder = std::make_unique<QTemporaryDir>();
+    qputenv("TMPDIR", m_folder->path().toUtf8());
+    m_scanner = std::make_unique<ScriptedScanner>();
+    m_scanner->found.Sources = {{"flatbed", "Maker Flatbed 9"}};
+    Picture scanned(7, 5);
+    scanned.SetImagePixel(3, 2, MakeColour(101, 67, 33));
+    m_scanner->scans = {{scanned, {}}};
+}
+
+void ScanInWizardTest::AScanBecomesThePictureToImport() {
+    DeskKit kit;
+    kit.Desk.Scanners = m_scanner.get();
+    Shown shown(kit);
+    QCOMPARE(m_scanner->Looks(), 0); // not before it is asked for
+    QVERIFY(!shown.CanAcquire());
+    ClickIn(shown.Screen, "optScan");
+    QTRY_VERIFY(shown.CanAcquire());
+    QCOMPARE(PartOf<QComboBox>(shown.Screen, "cmbScanSource").currentText(),
+             QStringLiteral("Maker Flatbed 9"));
+    DialogDriver driver({ScanThere});
+    ClickIn(shown.Screen, "cmdAcquire");
+    QVERIFY(driver.AllDone());
+    QVERIFY(shown.Picture() != nullptr);
+    QCOMPARE(shown.Picture()->ImageWidth(), 7);
+    // Brought to 16 bits a pixel, as a file is.
+    QCOMPARE(shown.Picture()->ImagePixel(3, 2),
+             MakeColour(DepthOf16Bits(101), DepthOf16Bits(67), DepthOf16Bits(33)));
+    QVERIFY(shown.Screen.ValidateScreen());
+    QCOMPARE(kit.Work.TheImage, shown.Picture());
+    QVERIFY(kit.User.told.empty());
+}
+
+void ScanInWizardTest::ACancelledScanKeepsThePictureOfBefore() {
+    DeskKit kit;
+    kit.Desk.Scanners = m_scanner.get();
+    Shown shown(kit);
+    ClickIn(shown.Screen, "optScan");
+    QTRY_VERIFY(shown.CanAcquire());
+    DialogDriver driver({ScanThere, [](QDialog& window) { ClickIn(window, "cmdCancel"); }});
+    ClickIn(shown.Screen, "cmdAcquire");
+    const SharedPicture first = shown.Picture();
+    QVERIFY(first != nullptr);
+    ClickIn(shown.Screen, "cmdAcquire");
+    QVERIFY(driver.AllDone());
+    QCOMPARE(shown.Picture(), first);
+}
+
+void ScanInWizardTest::AnotherSourceDropsWhatIsStillFound() {
+    DeskKit kit;
+    kit.Desk.Scanners = m_scanner.get();
+    m_scanner->Hold();
+    Shown shown(kit);
+    ClickIn(shown.Screen, "optScan");
+    QTRY_COMPARE(m_scanner->Looks(), 1);
+    ClickIn(shown.Screen, "optFile");
+    QTRY_VERIFY(m_scanner->IsCancelled());
+    m_scanner->LetGo();
+    QVERIFY(!shown.CanAcquire());
+    QVERIFY(!PartOf<QComboBox>(shown.Screen, "cmbScanSource").isEnabled());
+    ClickIn(shown.Screen, "optScan");
+    QTRY_VERIFY(shown.CanAcquire());
+}
+
+void ScanInWizardTest::TheTestDeviceGoesAllTheWay() {
+    const SaneTestDevice device({{"mode", "Color"}, {"test-picture", "\"Solid black\""}});
+    SaneScanner scanners;
+    DeskKit kit;
+    kit.Desk.Scanners = &scanners;
+    Shown shown(kit);
+    ClickIn(shown.Screen, "optScan");
+    QTRY_VERIFY(shown.CanAcquire());
+    DialogDriver driver({ScanThere});
+    ClickIn(shown.Screen, "cmdAcquire");
+    QVERIFY(driver.AllDone());
+    QVERIFY(shown.Picture() != nullptr);
+    QCOMPARE(shown.Picture()->ImageWidth(), 1181); // 200 mm at 150 dots an inch
+    QCOMPARE(shown.Picture()->ImagePixel(600, 600), Colour{0});
+    QVERIFY(shown.Screen.ValidateScreen());
+    QVERIFY(kit.Work.TheImage != nullptr);
+}
+
+} // namespace zol::test
+
+QTEST_MAIN(zol::test::ScanInWizardTest)
+#include "test_ScanInWizard.moc"
