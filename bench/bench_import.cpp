@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 // Matching a picture of 999 by 999 pixels to 489 flosses, reducing it to 50 and writing the
-// pattern, against one pass over its pixels that looks each one up in a table.
+// pattern, and the preview of a smaller one, against one pass over its pixels that looks each one
+// up in a table. A step of the slider that adjusts colours, against filling the picture.
 
 #include <benchmark/benchmark.h>
 
@@ -10,11 +11,13 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <random>
 #include <vector>
 
 #include "Ratio.h"
 #include "import/Adjustments.h"
+#include "import/ColorAdjusting.h"
 #include "import/ImportSession.h"
 #include "import/PictureOps.h"
 #include "model/Pattern.h"
@@ -29,11 +32,11 @@ constexpr int Flosses = 489;
 constexpr int MaxColors = 50;
 
 /// Soft shapes of many colours with grain, as a photo has.
-Picture Photo(bool ofDepth) {
+Picture Photo(bool ofDepth, int width = Side, int height = Side) {
     std::mt19937 random(1);
-    Picture picture(Side, Side);
-    for (int y = 0; y < Side; ++y) {
-        for (int x = 0; x < Side; ++x) {
+    Picture picture(width, height);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
             const auto channel = [&random, x, y](double fx, double fy, double phase) {
                 const double wave = std::sin(x * fx + phase) * std::cos(y * fy - phase);
                 const double grain = static_cast<double>(random() % 17) - 8;
@@ -108,14 +111,32 @@ void ImportPhoto(benchmark::State& state, bool ofDepth) {
             });
 }
 
-/// Without a goal of its own: what each step of the wizard costs.
+/// What the mapping screen works out at a press of its button: the picture is there and so are the
+/// candidates, 400 by 300 pixels as a photo comes out of the smoothing.
+void PreviewPhoto(benchmark::State& state, bool ofDepth) {
+    ProgramContext context;
+    const Picture picture = Photo(ofDepth, 400, 300);
+    ImportSession session(context);
+    session.SetImage(picture);
+    session.ChooseCatalogue(Catalogue(context));
+    Ratio(state, 200).Measure(Pass(picture), [&] {
+        benchmark::DoNotOptimize(session.PreparePreview(MaxColors).Run(nullptr));
+    });
+}
+
+/// A step of the slider: a new picture from the one last applied.
 void Adjust(benchmark::State& state) {
     const Adjustments::Item& item = Adjustments::Items()[static_cast<std::size_t>(state.range(0))];
-    const Picture picture = Photo(true);
-    Picture changed;
-    Ratio(state, 0).Measure(
-        Pass(picture), [&] { changed = picture; },
-        [&] { Adjustments::Apply(changed, item.What, (item.Start + item.Maximum) / 2); });
+    const auto picture = std::make_shared<const Picture>(Photo(false));
+    Picture filled(Side, Side);
+    Ratio(state, 40).Measure(
+        [&filled, colour = Colour{0}]() mutable {
+            std::fill_n(filled.Pixels().data(), filled.Pixels().size(), ++colour);
+        },
+        [&] {
+            benchmark::DoNotOptimize(ColorAdjusting::Adjusted(
+                picture, item.What, (item.Start + item.Maximum) / 2, nullptr));
+        });
     state.SetLabel(std::string(item.Text));
 }
 
@@ -123,5 +144,7 @@ void Adjust(benchmark::State& state) {
 
 BENCHMARK_CAPTURE(ImportPhoto, FiveBitsAChannel, true)->Apply(AsRatio);
 BENCHMARK_CAPTURE(ImportPhoto, Smoothed, false)->Apply(AsRatio);
+BENCHMARK_CAPTURE(PreviewPhoto, FiveBitsAChannel, true)->Apply(AsRatio);
+BENCHMARK_CAPTURE(PreviewPhoto, Smoothed, false)->Apply(AsRatio);
 BENCHMARK(Adjust)->DenseRange(0, 8)->Apply(AsRatio);
 BENCHMARK_MAIN();

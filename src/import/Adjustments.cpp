@@ -4,157 +4,45 @@
 #include "import/Adjustments.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
-#include <utility>
+#include <cstdint>
 #include <vector>
 
-#include "model/Doors.h"
+#include "import/EdgeEnhancing.h"
+#include "import/PixelBlocks.h"
 #include "model/Rounding.h"
 
 namespace zol::Adjustments {
 
 namespace {
 
-struct Channels {
-    int Red;
-    int Green;
-    int Blue;
-};
-
-Channels ChannelsOf(Colour colour) {
-    return {static_cast<int>(colour & 255U), static_cast<int>((colour >> 8U) & 255U),
-            static_cast<int>((colour >> 16U) & 255U)};
-}
-
-unsigned Clamped(int value) {
-    return static_cast<unsigned>(std::clamp(value, 0, 255));
-}
-
-Colour ColourOf(const Channels& channels) {
-    return MakeColour(Clamped(channels.Red), Clamped(channels.Green), Clamped(channels.Blue));
-}
-
-/// Lightness as the eye weighs the channels (Rec. 601), 0 to 255.
-int LightnessOf(const Channels& channels) {
-    return (channels.Red * 299 + channels.Green * 587 + channels.Blue * 114 + 500) / 1000;
-}
-
-/// Band by band; false if the door stopped it.
-template<typename Change>
-bool ForEachPixel(ProgressDoor* door, Picture& image, Change change) {
-    constexpr std::size_t band = 65536; // a fraction of a millisecond
-    std::vector<Colour>& pixels = image.Pixels();
-    for (std::size_t begin = 0; begin < pixels.size(); begin += band) {
-        if (door != nullptr && !door->MayGoOn()) {
-            return false;
-        }
-        const std::size_t end = std::min(begin + band, pixels.size());
-        for (std::size_t i = begin; i < end; ++i) {
-            if (pixels[i] != EraseColor) {
-                pixels[i] = change(pixels[i]);
-            }
-        }
-    }
-    return true;
-}
-
 using LevelTable = std::array<std::uint8_t, 256>;
 
-template<typename Level>
-LevelTable TableOf(Level level) {
+template<typename Mapping>
+LevelTable TableOf(Mapping mapping) {
     LevelTable table{};
     for (std::size_t i = 0; i < table.size(); ++i) {
         table[i] = static_cast<std::uint8_t>(
-            std::clamp(RoundHalfEven(level(static_cast<double>(i))), 0.0, 255.0));
+            std::clamp(RoundHalfEven(mapping(static_cast<double>(i))), 0.0, 255.0));
     }
     return table;
 }
 
 bool MapChannels(ProgressDoor* door, Picture& image, const LevelTable& table) {
-    return ForEachPixel(door, image, [&table](Colour pixel) {
-        return MakeColour(table[pixel & 255U], table[(pixel >> 8U) & 255U],
-                          table[(pixel >> 16U) & 255U]);
+    return ForEachBand(door, image, [&table](Colour* pixels, std::size_t count) {
+        for (std::size_t i = 0; i < count; ++i) {
+            const Colour pixel = pixels[i];
+            const Colour changed = MakeColour(table[pixel & 255U], table[(pixel >> 8U) & 255U],
+                                              table[(pixel >> 16U) & 255U]);
+            pixels[i] = pixel == EraseColor ? EraseColor : changed;
+        }
     });
 }
 
 double ThousandthsOf(int amount) {
     return std::clamp(amount, -1000, 1000) / 1000.0;
-}
-
-/// A colour with its hue turned by `turn` sixths of the circle; lightest and darkest channel stay.
-Colour TurnHue(Colour colour, double turn) {
-    const Channels channels = ChannelsOf(colour);
-    const auto [low, high] = std::minmax({channels.Red, channels.Green, channels.Blue});
-    const int span = high - low;
-    if (span == 0) {
-        return colour;
-    }
-    double hue = 0;
-    if (channels.Red == high) {
-        hue = static_cast<double>(channels.Green - channels.Blue) / span;
-    } else if (channels.Green == high) {
-        hue = 2 + static_cast<double>(channels.Blue - channels.Red) / span;
-    } else {
-        hue = 4 + static_cast<double>(channels.Red - channels.Green) / span;
-    }
-    const double turned = hue + turn + 6;
-    // A channel is full within a sixth of its own hue and gone beyond two sixths.
-    const auto channelAt = [turned, low = low, span](double own) {
-        const double away = std::fabs(std::fmod(turned - own + 9, 6.0) - 3);
-        return RoundToInt(low + span * std::clamp(2 - away, 0.0, 1.0));
-    };
-    return ColourOf({channelAt(0), channelAt(2), channelAt(4)});
-}
-
-/// Where lightness goes so that its share of darker pixels matches its place in the scale.
-std::array<int, 256> EqualizedLightness(const Picture& image) {
-    std::array<std::int64_t, 256> counts{};
-    std::int64_t total = 0;
-    for (const Colour pixel : image.Pixels()) {
-        if (pixel != EraseColor) {
-            ++counts[static_cast<std::size_t>(LightnessOf(ChannelsOf(pixel)))];
-            ++total;
-        }
-    }
-    std::array<int, 256> levels{};
-    std::int64_t darker = 0;
-    const std::int64_t darkest =
-        *std::find_if(counts.begin(), counts.end() - 1, [](std::int64_t n) { return n > 0; });
-    for (std::size_t i = 0; i < levels.size(); ++i) {
-        darker += counts[i];
-        levels[i] =
-            total > darkest
-                ? RoundToInt(static_cast<double>(std::max<std::int64_t>(darker - darkest, 0)) *
-                             255.0 / static_cast<double>(total - darkest))
-                : static_cast<int>(i);
-    }
-    return levels;
-}
-
-/// How much brighter a channel is than the mean of its neighbours that are not erased.
-Colour EdgeAt(const Picture& image, int x, int y) {
-    Channels sum{0, 0, 0};
-    int neighbours = 0;
-    const int left = std::max(x - 1, 0);
-    const int right = std::min(x + 1, image.ImageWidth() - 1);
-    for (int row = std::max(y - 1, 0); row <= std::min(y + 1, image.ImageHeight() - 1); ++row) {
-        const Colour* pixels = image.Row(row);
-        for (int column = left; column <= right; ++column) {
-            if (pixels[column] == EraseColor) {
-                continue;
-            }
-            const Channels channels = ChannelsOf(pixels[column]);
-            sum.Red += channels.Red;
-            sum.Green += channels.Green;
-            sum.Blue += channels.Blue;
-            ++neighbours;
-        }
-    }
-    // The pixel itself is in the sum: it takes nothing away from the differences.
-    const Channels own = ChannelsOf(image.ImagePixel(x, y));
-    return ColourOf({own.Red - sum.Red / neighbours, own.Green - sum.Green / neighbours,
-                     own.Blue - sum.Blue / neighbours});
 }
 
 LevelTable BrightnessTable(int amount) {
@@ -174,71 +62,186 @@ LevelTable GammaTable(int hundredths) {
     return TableOf([power](double level) { return 255 * std::pow(level / 255, power); });
 }
 
+/// A level whose distance from grey is multiplied by a factor in 32768ths, up to 2, and rounded.
+Level AwayFromGrey(Level level, Level grey, std::uint16_t factor) {
+    const Level distance = LevelOf(level - grey);
+    const Level sign = LevelOf(distance >> 15);
+    const auto size = static_cast<std::uint16_t>((distance ^ sign) - sign);
+    // In 64ths, of which the last counts for rounding only.
+    const std::uint16_t fine = UpperProduct(static_cast<std::uint16_t>(size << 7U), factor);
+    const Level scaled = LevelOf(static_cast<std::uint16_t>(fine + 32U) >> 6U);
+    return InRange(LevelOf(grey + ((scaled ^ sign) - sign)));
+}
+
 bool Saturate(ProgressDoor* door, Picture& image, int amount) {
-    const int factor = 1000 + std::clamp(amount, -1000, 1000);
-    return ForEachPixel(door, image, [factor](Colour pixel) {
-        const Channels channels = ChannelsOf(pixel);
-        const int grey = LightnessOf(channels);
-        const auto away = [grey, factor](int channel) {
-            const int scaled = (channel - grey) * factor;
-            return grey + (scaled >= 0 ? scaled + 500 : scaled - 500) / 1000;
-        };
-        return ColourOf({away(channels.Red), away(channels.Green), away(channels.Blue)});
-    });
+    constexpr int most = 65535;
+    const int thousandths = 1000 + std::clamp(amount, -1000, 1000);
+    const auto factor =
+        static_cast<std::uint16_t>(std::min((thousandths * 32768 + 999) / 1000, most));
+    return ForEachBlock(
+        door, image, [factor](PixelBlock& block, Colour* pixels, std::size_t count) {
+            for (std::size_t i = 0; i < PixelBlock::Size; ++i) {
+                const Level grey = LightnessOf(block.Red[i], block.Green[i], block.Blue[i]);
+                block.Red[i] = AwayFromGrey(block.Red[i], grey, factor);
+                block.Green[i] = AwayFromGrey(block.Green[i], grey, factor);
+                block.Blue[i] = AwayFromGrey(block.Blue[i], grey, factor);
+            }
+            block.Join(pixels, count);
+        });
+}
+
+/// How far hues turn: whole sixths of the circle, and 65536ths of the next.
+struct HueTurn {
+    Level Sixths;
+    std::uint16_t Rest;
+};
+
+/// Turns the hues of a block; the lightest and the darkest channel of each pixel stay as light.
+/// The circle is measured in the pixel's own span of levels, six of them around, so that a
+/// channel is full within one span of its own hue and gone beyond two.
+void TurnBlock(PixelBlock& block, HueTurn turn) {
+    for (std::size_t i = 0; i < PixelBlock::Size; ++i) {
+        const Level red = block.Red[i];
+        const Level green = block.Green[i];
+        const Level blue = block.Blue[i];
+        const Level high = MostOf(MostOf(red, green), blue);
+        const Level low = LeastOf(LeastOf(red, green), blue);
+        const Level span = LevelOf(high - low);
+        const Level two = LevelOf(2 * span);
+        const Level circle = LevelOf(6 * span);
+        const std::uint16_t rest =
+            UpperProduct(static_cast<std::uint16_t>(span << 7U), turn.Rest); // in 128ths
+        const Level turned =
+            LevelOf(span * turn.Sixths + LevelOf(static_cast<std::uint16_t>(rest + 64U) >> 7U));
+        const Level ofGreen = LevelOf(two + blue - red);
+        const Level ofBlue = LevelOf(two + two + red - green);
+        const Level behindRed = green == high ? ofGreen : ofBlue;
+        const Level own = red == high ? LevelOf(green - blue) : behindRed;
+        const Level beyond = LevelOf(own + turned);
+        const Level positive = beyond < 0 ? LevelOf(beyond + circle) : beyond;
+        const Level hue = positive >= circle ? LevelOf(positive - circle) : positive;
+        const Level fromRed = LeastOf(hue, LevelOf(circle - hue));
+        const Level pastGreen = LevelOf(hue - two);
+        const Level fromGreen = MostOf(pastGreen, LevelOf(-pastGreen));
+        const Level pastBlue = LevelOf(pastGreen - two);
+        const Level fromBlue = MostOf(pastBlue, LevelOf(-pastBlue));
+        block.Red[i] = LevelOf(low + LeastOf(MostOf(LevelOf(two - fromRed), 0), span));
+        block.Green[i] = LevelOf(low + LeastOf(MostOf(LevelOf(two - fromGreen), 0), span));
+        block.Blue[i] = LevelOf(low + LeastOf(MostOf(LevelOf(two - fromBlue), 0), span));
+    }
 }
 
 bool TurnHues(ProgressDoor* door, Picture& image, int degrees) {
-    const double turn = std::clamp(degrees, 0, 360) % 360 / 60.0;
-    return turn <= 0 ||
-           ForEachPixel(door, image, [turn](Colour pixel) { return TurnHue(pixel, turn); });
-}
-
-bool Equalize(ProgressDoor* door, Picture& image) {
-    const std::array<int, 256> levels = EqualizedLightness(image);
-    return ForEachPixel(door, image, [&levels](Colour pixel) {
-        const Channels channels = ChannelsOf(pixel);
-        const int lightness = LightnessOf(channels);
-        const int shift = levels[static_cast<std::size_t>(lightness)] - lightness;
-        return ColourOf({channels.Red + shift, channels.Green + shift, channels.Blue + shift});
+    constexpr int sixth = 60;
+    const int turn = std::clamp(degrees, 0, 360) % 360;
+    const HueTurn hues{LevelOf(turn / sixth),
+                       static_cast<std::uint16_t>((turn % sixth * 65536 + sixth - 1) / sixth)};
+    return ForEachBlock(door, image, [hues](PixelBlock& block, Colour* pixels, std::size_t count) {
+        TurnBlock(block, hues);
+        block.Join(pixels, count);
     });
-}
-
-bool Stretch(ProgressDoor* door, Picture& image) {
-    int low = 255;
-    int high = 0;
-    for (const Colour pixel : image.Pixels()) {
-        if (pixel != EraseColor) {
-            const Channels channels = ChannelsOf(pixel);
-            low = std::min({low, channels.Red, channels.Green, channels.Blue});
-            high = std::max({high, channels.Red, channels.Green, channels.Blue});
-        }
-    }
-    return low >= high || MapChannels(door, image, TableOf([low, high](double level) {
-                                          return (level - low) * 255 / (high - low);
-                                      }));
 }
 
 bool TurnGrey(ProgressDoor* door, Picture& image) {
-    return ForEachPixel(door, image, [](Colour pixel) {
-        const int grey = LightnessOf(ChannelsOf(pixel));
-        return ColourOf({grey, grey, grey});
+    return ForEachBlock(door, image, [](PixelBlock& block, Colour* pixels, std::size_t count) {
+        for (std::size_t i = 0; i < PixelBlock::Size; ++i) {
+            const Level grey = LightnessOf(block.Red[i], block.Green[i], block.Blue[i]);
+            block.Red[i] = grey;
+            block.Green[i] = grey;
+            block.Blue[i] = grey;
+        }
+        block.Join(pixels, count);
     });
 }
 
-bool FindEdges(ProgressDoor* door, Picture& image) {
-    Picture edges = image;
-    for (int y = 0; y < image.ImageHeight(); ++y) {
-        if (door != nullptr && !door->MayGoOn()) {
-            return false;
-        }
-        for (int x = 0; x < image.ImageWidth(); ++x) {
-            if (image.ImagePixel(x, y) != EraseColor) {
-                edges.SetImagePixel(x, y, EdgeAt(image, x, y));
+using LevelCounts = std::array<std::int64_t, 256>;
+
+/// How many pixels are how light.
+bool CountLightness(ProgressDoor* door, Picture& image, LevelCounts& counts) {
+    // Neighbours are often alike: two tables, so that one count does not wait for the other.
+    LevelCounts others{};
+    const bool whole =
+        ForEachBlock(door, image, [&](const PixelBlock& block, Colour* pixels, std::size_t count) {
+            PixelBlock::Plane light{};
+            for (std::size_t i = 0; i < PixelBlock::Size; ++i) {
+                light[i] = LightnessOf(block.Red[i], block.Green[i], block.Blue[i]);
             }
-        }
+            for (std::size_t i = 0; i < count; ++i) {
+                LevelCounts& table = i % 2 == 0 ? counts : others;
+                table[static_cast<std::size_t>(light[i])] += pixels[i] == EraseColor ? 0 : 1;
+            }
+        });
+    std::transform(counts.begin(), counts.end(), others.begin(), counts.begin(),
+                   [](std::int64_t a, std::int64_t b) { return a + b; });
+    return whole;
+}
+
+/// By how much each lightness changes so that its share of darker pixels matches its place in the
+/// scale.
+std::array<Level, 256> EqualizingShifts(const LevelCounts& counts) {
+    std::int64_t total = 0;
+    for (const std::int64_t count : counts) {
+        total += count;
     }
-    image = std::move(edges);
-    return true;
+    const std::int64_t darkest =
+        *std::find_if(counts.begin(), counts.end() - 1, [](std::int64_t n) { return n > 0; });
+    std::array<Level, 256> shifts{};
+    if (total <= darkest) {
+        return shifts;
+    }
+    std::int64_t darker = 0;
+    for (std::size_t i = 0; i < shifts.size(); ++i) {
+        darker += counts[i];
+        const double share = static_cast<double>(std::max<std::int64_t>(darker - darkest, 0)) *
+                             255.0 / static_cast<double>(total - darkest);
+        shifts[i] = LevelOf(RoundToInt(share) - static_cast<int>(i));
+    }
+    return shifts;
+}
+
+bool Equalize(ProgressDoor* door, Picture& image) {
+    LevelCounts counts{};
+    if (!CountLightness(door, image, counts)) {
+        return false;
+    }
+    const std::array<Level, 256> shifts = EqualizingShifts(counts);
+    return ForEachBlock(door, image,
+                        [&shifts](PixelBlock& block, Colour* pixels, std::size_t count) {
+                            PixelBlock::Plane shift{};
+                            for (std::size_t i = 0; i < PixelBlock::Size; ++i) {
+                                shift[i] = LightnessOf(block.Red[i], block.Green[i], block.Blue[i]);
+                            }
+                            for (Level& level : shift) {
+                                level = shifts[static_cast<std::size_t>(level)];
+                            }
+                            for (std::size_t i = 0; i < PixelBlock::Size; ++i) {
+                                block.Red[i] = InRange(LevelOf(block.Red[i] + shift[i]));
+                                block.Green[i] = InRange(LevelOf(block.Green[i] + shift[i]));
+                                block.Blue[i] = InRange(LevelOf(block.Blue[i] + shift[i]));
+                            }
+                            block.Join(pixels, count);
+                        });
+}
+
+bool Stretch(ProgressDoor* door, Picture& image) {
+    // Erased pixels are bright and so darken nothing, but for the brightest they must not count.
+    Level low = 255;
+    Level high = 0;
+    const bool whole =
+        ForEachBlock(door, image, [&](const PixelBlock& block, Colour* pixels, std::size_t count) {
+            for (std::size_t i = 0; i < count; ++i) {
+                const Level least = LeastOf(LeastOf(block.Red[i], block.Green[i]), block.Blue[i]);
+                const Level most = MostOf(MostOf(block.Red[i], block.Green[i]), block.Blue[i]);
+                low = LeastOf(low, least);
+                high = MostOf(high, pixels[i] == EraseColor ? Level{0} : most);
+            }
+        });
+    if (!whole || low >= high) {
+        return whole;
+    }
+    return MapChannels(door, image, TableOf([low, high](double level) {
+                           return (level - low) * 255 / (high - low);
+                       }));
 }
 
 } // namespace
@@ -276,17 +279,7 @@ void ConvertToGrey(Picture& image) {
 }
 
 void EnhanceEdges(Picture& image) {
-    FindEdges(nullptr, image);
-}
-
-void AddBitmap(Picture& image, const Picture& other) {
-    const std::vector<Colour>& added = other.Pixels();
-    std::size_t at = 0;
-    for (Colour& pixel : image.Pixels()) {
-        const Channels a = ChannelsOf(pixel);
-        const Channels b = ChannelsOf(added[at++]);
-        pixel = ColourOf({a.Red + b.Red, a.Green + b.Green, a.Blue + b.Blue});
-    }
+    static_cast<void>(zol::EnhanceEdges(nullptr, image, EdgeResult::Alone));
 }
 
 const std::array<Item, 9>& Items() {
@@ -327,15 +320,9 @@ bool ApplyWhile(ProgressDoor* progress, Picture& image, Kind kind, int slider) {
         return Equalize(progress, image);
     case Kind::GrayScale:
         return TurnGrey(progress, image);
-    case Kind::EdgeEnhance: {
+    case Kind::EdgeEnhance:
         // The edges alone would be a dark picture: they are added to what was there.
-        Picture edges = image;
-        if (!FindEdges(progress, edges)) {
-            return false;
-        }
-        AddBitmap(image, edges);
-        return true;
-    }
+        return zol::EnhanceEdges(progress, image, EdgeResult::Added);
     case Kind::StretchIntensity:
         return Stretch(progress, image);
     case Kind::GammaCorrect:

@@ -36,8 +36,6 @@ void StretchIntensity(Picture& image);
 void ConvertToGrey(Picture& image);
 /// How much brighter each channel is than around it, erased neighbours left out.
 void EnhanceEdges(Picture& image);
-/// Adds the channels of `other`, a picture of the same size; they stop at 255.
-void AddBitmap(Picture& image, const Picture& other);
 
 /// The items of the adjustment list, in its order.
 enum class Kind : std::uint8_t {

@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+
 using namespace zol;
 using Adjustments::Kind;
 
@@ -144,6 +147,109 @@ TEST(Adjustments, ErasedNeighboursMakeNoEdge) {
     picture.SetImagePixel(1, 0, Sample);
     Adjustments::Apply(picture, Kind::EdgeEnhance, 0);
     EXPECT_EQ(picture.ImagePixel(1, 0), Sample);
+}
+
+/// Every sort of colour, and erased pixels between them.
+Picture Mixture() {
+    Picture picture(97, 61);
+    unsigned state = 12345;
+    for (Colour& pixel : picture.Pixels()) {
+        state = state * 1664525U + 1013904223U;
+        pixel = (state >> 8U) % 7 == 0 ? EraseColor : state >> 8U;
+    }
+    return picture;
+}
+
+int ChannelOf(Colour colour, int channel) {
+    return static_cast<int>((colour >> (8U * static_cast<unsigned>(channel))) & 255U);
+}
+
+/// The level of a channel after a turn, in plain arithmetic.
+double PlainHue(Colour colour, int channel, int degrees) {
+    const int red = ChannelOf(colour, 0);
+    const int green = ChannelOf(colour, 1);
+    const int blue = ChannelOf(colour, 2);
+    const auto [low, high] = std::minmax({red, green, blue});
+    const double span = high - low;
+    if (high == low) {
+        return low;
+    }
+    double hue = 4 + (red - green) / span;
+    if (red == high) {
+        hue = (green - blue) / span;
+    } else if (green == high) {
+        hue = 2 + (blue - red) / span;
+    }
+    const double away = std::fabs(std::fmod(hue + degrees / 60.0 - 2 * channel + 15, 6.0) - 3);
+    return low + span * std::clamp(2 - away, 0.0, 1.0);
+}
+
+TEST(Adjustments, HueAgreesWithPlainArithmetic) {
+    const Picture before = Mixture();
+    for (const int degrees : {1, 29, 60, 61, 150, 179, 240, 359}) {
+        Picture after = before;
+        Adjustments::ChangeHue(after, degrees);
+        for (std::size_t i = 0; i < before.Pixels().size(); ++i) {
+            for (int channel = 0; channel < 3; ++channel) {
+                ASSERT_NEAR(ChannelOf(after.Pixels()[i], channel),
+                            PlainHue(before.Pixels()[i], channel, degrees), 0.5001)
+                    << degrees << " degrees, pixel " << i;
+            }
+        }
+    }
+}
+
+TEST(Adjustments, SaturationAgreesWithPlainArithmetic) {
+    const Picture before = Mixture();
+    for (const int amount : {-1000, -990, -500, -10, 0, 10, 370, 1000}) {
+        Picture after = before;
+        Adjustments::ChangeSaturation(after, amount);
+        Picture greys = before;
+        Adjustments::ConvertToGrey(greys);
+        for (std::size_t i = 0; i < before.Pixels().size(); ++i) {
+            const Colour colour = before.Pixels()[i];
+            const double light = 0.299 * ChannelOf(colour, 0) + 0.587 * ChannelOf(colour, 1) +
+                                 0.114 * ChannelOf(colour, 2);
+            const int grey = ChannelOf(greys.Pixels()[i], 0);
+            ASSERT_NEAR(grey, light, 1);
+            for (int channel = 0; channel < 3; ++channel) {
+                const double wanted =
+                    grey + (ChannelOf(colour, channel) - grey) * (1 + amount / 1000.0);
+                ASSERT_NEAR(ChannelOf(after.Pixels()[i], channel), std::clamp(wanted, 0.0, 255.0),
+                            0.5001)
+                    << amount << ", pixel " << i;
+            }
+        }
+    }
+}
+
+TEST(Adjustments, EdgesAgreeWithPlainArithmetic) {
+    const Picture before = Mixture();
+    Picture after = before;
+    Adjustments::EnhanceEdges(after);
+    for (int y = 0; y < before.ImageHeight(); ++y) {
+        for (int x = 0; x < before.ImageWidth(); ++x) {
+            if (before.ImagePixel(x, y) == EraseColor) {
+                ASSERT_EQ(after.ImagePixel(x, y), EraseColor);
+                continue;
+            }
+            for (int channel = 0; channel < 3; ++channel) {
+                int sum = 0;
+                int count = 0;
+                for (int v = std::max(y - 1, 0); v <= std::min(y + 1, 60); ++v) {
+                    for (int u = std::max(x - 1, 0); u <= std::min(x + 1, 96); ++u) {
+                        const bool erased = before.ImagePixel(u, v) == EraseColor;
+                        sum += erased ? 0 : ChannelOf(before.ImagePixel(u, v), channel);
+                        count += erased ? 0 : 1;
+                    }
+                }
+                const int own = ChannelOf(before.ImagePixel(x, y), channel);
+                ASSERT_EQ(ChannelOf(after.ImagePixel(x, y), channel),
+                          std::max(own - sum / count, 0))
+                    << x << ", " << y;
+            }
+        }
+    }
 }
 
 } // namespace
