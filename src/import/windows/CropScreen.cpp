@@ -23,6 +23,8 @@ namespace {
 constexpr double TakingReach = 6;
 /// What a key of an arrow moves by with Ctrl.
 constexpr int BigNudge = 10;
+/// Milliseconds that the size of the band may lag behind it.
+constexpr int SizesDelay = 40;
 
 QString SizeText(int width, int height) {
     const QLocale locale;
@@ -61,6 +63,8 @@ CropScreen::CropScreen(ImportDesk& desk, QWidget* parent)
     m_ui->lpicCrop->SetPointer(Qt::CrossCursor);
     m_ui->lpicCrop->installEventFilter(this);
     ConnectView();
+    m_sizesDue.setSingleShot(true);
+    connect(&m_sizesDue, &QTimer::timeout, this, &CropScreen::ShowSizes);
     connect(m_ui->cmdCrop, &QPushButton::clicked, this, &CropScreen::Crop);
     connect(m_ui->cmdResetCrop, &QPushButton::clicked, this, &CropScreen::ResetCrop);
     ShowSizes();
@@ -90,6 +94,7 @@ void CropScreen::ConnectView() {
             m_band.MoveTo({place.x(), place.y()});
             m_band.Release();
         });
+        ShowSizes();
         ShowPointerAt(place);
     });
 }
@@ -157,7 +162,9 @@ void CropScreen::ChangeBand(Change change) {
     if (before != after) {
         PictureView& view = *m_ui->lpicCrop;
         view.UpdateOverlay(PictureMarks::BandChange(view.Place(), before, after));
-        ShowSizes();
+        if (!m_sizesDue.isActive()) {
+            m_sizesDue.start(SizesDelay);
+        }
     }
 }
 
@@ -177,6 +184,7 @@ void CropScreen::ShowPointerAt(QPointF place) {
 }
 
 void CropScreen::ShowSizes() {
+    m_sizesDue.stop();
     const bool any = m_picture && !m_picture->IsEmpty();
     m_ui->lblPictureSize->setText(any ? SizeText(m_picture->ImageWidth(), m_picture->ImageHeight())
                                       : QString());
@@ -210,14 +218,17 @@ bool CropScreen::TakeArrow(const QKeyEvent& event) {
             m_band.Nudge(across, down);
         }
     });
+    ShowSizes();
     return true;
 }
 
 void CropScreen::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && m_band.HasBand()) {
         ChangeBand([&] { m_band.Clear(); });
+        ShowSizes();
     } else if (event->matches(QKeySequence::SelectAll) && m_picture) {
         ChangeBand([&] { m_band.SelectAll(); });
+        ShowSizes();
     } else {
         WizardScreen::keyPressEvent(event);
     }

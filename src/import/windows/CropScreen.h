@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <QTimer>
+
 #include <memory>
 
 #include "import/PictureBand.h"
@@ -53,6 +55,7 @@ private:
     SharedPicture m_picture;
     SharedPicture m_taken; ///< the picture that travelled when the screen was filled
     PictureBand m_band;
+    QTimer m_sizesDue; ///< a new text lays the window out, which is too much for each move
 };
 
 } // namespace zol

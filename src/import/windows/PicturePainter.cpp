@@ -3,6 +3,8 @@
 
 #include "import/windows/PicturePainter.h"
 
+#include <QRegion>
+
 #include <algorithm>
 #include <cmath>
 
@@ -91,10 +93,10 @@ void PicturePainter::Paint(QImage& target, const QRect& rect, PictureLevels& lev
                            const PicturePlace& place, const PictureGround& ground) {
     const QRect wanted = rect & target.rect();
     const QRect part = levels.HasPicture() ? wanted & place.Content : QRect();
-    if (part != wanted) {
-        for (int y = wanted.top(); y <= wanted.bottom(); ++y) {
-            auto* line = reinterpret_cast<QRgb*>(target.scanLine(y)) + wanted.left();
-            std::fill_n(line, wanted.width(), ground.Desk);
+    for (const QRect& beside : QRegion(wanted) - part) {
+        for (int y = beside.top(); y <= beside.bottom(); ++y) {
+            auto* line = reinterpret_cast<QRgb*>(target.scanLine(y)) + beside.left();
+            std::fill_n(line, beside.width(), ground.Desk);
         }
     }
     if (part.isEmpty()) {
