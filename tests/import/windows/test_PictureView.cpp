@@ -306,7 +306,7 @@ void test_PictureView::anOverlayPaintsWhatChangedOnly() {
         QRegion& m_region;
     } watch(painted);
     m_view->viewport()->installEventFilter(&watch);
-    m_view->UpdateOverlay({300, 300, 10, 10});
+    m_view->UpdateOverlay(QRectF(300, 300, 10, 10));
     QTRY_VERIFY(!painted.isEmpty());
     QVERIFY(painted.boundingRect().width() <= 18);
     QVERIFY(painted.boundingRect().height() <= 18);
