@@ -81,7 +81,7 @@ void PrintFuncs::PrintFooter(PageDevice& target) {
                         options.TextInfoFontBold, options.TextInfoFontItalic, false);
     const double bottom = target.Height() - options.BottomMargin * Twips - target.OffsetY();
     if (options.PrintPageNumbers) {
-        const QString text = QStringLiteral("Page ") + QString::number(m_printPage);
+        const QString text = QStringLiteral("Page ") + QString::number(m_range.Page);
         const double right = target.Width() - options.RightMargin * Twips - target.OffsetX();
         canvas.Text(right - font.TextWidth(text), bottom - font.TextHeight(), text, font);
     }

@@ -184,14 +184,8 @@ PageRange PrintFuncs::GetPageRange(int page, bool toPrinter) {
 }
 
 void PrintFuncs::SetPrintRange(int from, int to, bool keyOnly) {
-    m_printFromPage = from;
-    m_printToPage = to;
-    m_printPage = from;
-    if (keyOnly) {
-        m_printFromPage += m_patternPages;
-        m_printToPage += m_patternPages;
-        m_printPage += m_patternPages;
-    }
+    const int before = keyOnly ? m_patternPages : 0;
+    m_range = {from + before, to + before, from + before, keyOnly};
 }
 
 bool PrintFuncs::CheckPrintMargins() const {

@@ -35,6 +35,14 @@ struct KeyNotes {
     std::vector<int> Positions; ///< at the start of that page and of those behind it
 };
 
+/// The pages that a job prints, and the one that it is at.
+struct PrintRange {
+    int From = 0;
+    int To = 0;
+    int Page = 0;
+    bool KeyOnly = false; ///< pages are counted from the first key page for the user
+};
+
 /// Frame of the colour key's pages, in twips from the paper's edges.
 struct KeyPageFrame {
     double LeftMargin = 0;
@@ -99,10 +107,16 @@ public:
     // --- The job's range -------------------------------------------------------------------
     /// With `keyOnly` the pages count from the first key page.
     void SetPrintRange(int from, int to, bool keyOnly);
-    [[nodiscard]] int PrintFromPage() const { return m_printFromPage; }
-    [[nodiscard]] int PrintToPage() const { return m_printToPage; }
-    [[nodiscard]] int PrintPage() const { return m_printPage; }
-    void SetPrintPage(int page) { m_printPage = page; }
+    [[nodiscard]] int PrintFromPage() const { return m_range.From; }
+    [[nodiscard]] int PrintToPage() const { return m_range.To; }
+    [[nodiscard]] int PrintPage() const { return m_range.Page; }
+    void SetPrintPage(int page) { m_range.Page = page; }
+    [[nodiscard]] const PrintRange& Range() const { return m_range; }
+    void SetRange(const PrintRange& range) { m_range = range; }
+    /// A page's number as the user counts it.
+    [[nodiscard]] int NumberOfPage(int page) const {
+        return m_range.KeyOnly ? page - m_patternPages : page;
+    }
     [[nodiscard]] int PatternPages() const { return m_patternPages; }
     [[nodiscard]] int KeyPages() const { return m_keyPages; }
     void SetKeyPages(int pages) { m_keyPages = pages; }
@@ -151,9 +165,7 @@ private:
     PageDevice* m_printer;
     Pattern* m_pattern = nullptr;
     SquarePos m_numberOffset;
-    int m_printFromPage = 0;
-    int m_printToPage = 0;
-    int m_printPage = 0;
+    PrintRange m_range;
     int m_patternPages = 0;
     int m_keyPages = 0;
     KeyNotes m_keyNotePositions;

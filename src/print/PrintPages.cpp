@@ -91,7 +91,7 @@ void PrintFuncs::PaintStitches(QPainter& painter, const GridView& view, const Sq
 
 bool PrintFuncs::PrintPatternPage(PageDevice& target, ProgressDoor* progress, bool printStitches,
                                   bool printFooter) {
-    if (m_patternPages != 0 && m_printPage > m_patternPages) {
+    if (m_patternPages != 0 && m_range.Page > m_patternPages) {
         NewColorKey(*this).PrintColorKey(&target, progress, false);
         return target.Painter() != nullptr;
     }
@@ -99,7 +99,7 @@ bool PrintFuncs::PrintPatternPage(PageDevice& target, ProgressDoor* progress, bo
     if (!canvas.Paints()) {
         return false;
     }
-    const PageRange range = GetPageRange(m_printPage, target.IsPrinter());
+    const PageRange range = GetPageRange(m_range.Page, target.IsPrinter());
     if (printStitches && !range.Squares.IsEmpty()) {
         const GridView view = ViewOf(target, range);
         QPainter& painter = *canvas.Painter();
