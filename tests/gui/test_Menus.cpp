@@ -52,7 +52,7 @@ void MenusTest::StandInTheirOrder_data() {
         QTest::newRow(menu) << QString::fromLatin1(entries);
     };
     row("mnuFile", "mnuFileNew mnuFileOpen mnuFileBrowse mnuImport mnuExport mnuFileSave "
-                   "mnuFileSaveAs mnuFilePageSetup mnuFilePrintPreview mnuPrintColorKey "
+                   "mnuFileSaveAs mnuFilePageSetup mnuFilePrintPreview mnuFileSavePdf mnuPrintColorKey "
                    "mnuFileMRU0 mnuFileMRU1 mnuFileMRU2 mnuFileMRU3 mnuFileExit");
     row("mnuEdit", "mnuEditUndo mnuEditCut mnuEditCopy mnuEditPaste mnuSelectAll mnuEditFlip "
                    "mnuEditRotate mnuEditErase mnuEditCopyTo mnuEditPasteFrom");

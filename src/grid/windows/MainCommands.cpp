@@ -27,6 +27,7 @@ constexpr MainCommand Table[] = {
     {"mnuFileSaveAs", "Save &As...", "Save the pattern under another name", "Ctrl+Shift+S", "", false, true},
     {"mnuFilePageSetup", "Page Set&up...", "Choose how the chart is printed", "", "page-setup", false, true},
     {"mnuFilePrintPreview", "&Print...", "See the chart's pages and print them", "Ctrl+P", "file-print", false, true},
+    {"mnuFileSavePdf", "Save Chart as P&DF...", "Save the chart's pages as a PDF; no printer is needed", "", "", false, true},
     {"mnuPrintColorKey", "Print &Color Key...", "Print the key of flosses and symbols alone", "", "color-key", false, true},
     {"mnuFileExit", "E&xit", "Leave the program", "Ctrl+Q", "exit", false, true},
     {"mnuEditUndo", "Undo", "Take the last step back", "Ctrl+Z", "edit-undo", false, false},

@@ -28,8 +28,8 @@ struct MenuRow {
 constexpr std::array Tree{
     MenuRow{"mnuFile", "&File",
             "mnuFileNew mnuFileOpen mnuFileBrowse - mnuImport mnuExport - mnuFileSave "
-            "mnuFileSaveAs - mnuFilePageSetup mnuFilePrintPreview mnuPrintColorKey MRU - "
-            "mnuFileExit"},
+            "mnuFileSaveAs - mnuFilePageSetup mnuFilePrintPreview mnuFileSavePdf "
+            "mnuPrintColorKey MRU - mnuFileExit"},
     MenuRow{"mnuEdit", "&Edit",
             "mnuEditUndo - mnuEditCut mnuEditCopy mnuEditPaste mnuSelectAll - mnuEditFlip "
             "mnuEditRotate - mnuEditErase mnuEditCopyTo mnuEditPasteFrom"},

@@ -28,6 +28,7 @@ PrintCommands::PrintCommands(MainCommands& commands, const Workshop& workshop, E
              [this] { return Selection(); },
              std::move(openOptions)} {
     commands.Connect("mnuFilePrintPreview", &window, [this] { Print(PrintPlan::Form::Pattern); });
+    commands.Connect("mnuFileSavePdf", &window, [this] { SavePdf(); });
     commands.Connect("mnuPrintColorKey", &window, [this] { Print(PrintPlan::Form::ColorKey); });
     commands.Connect("mnuFilePageSetup", &window, [this] { SetUpPage(); });
 }
@@ -46,6 +47,14 @@ void PrintCommands::Print(PrintPlan::Form form) {
         return;
     }
     frmPrintOptions dialog(m_desk, form, &m_window);
+    dialog.exec();
+}
+
+void PrintCommands::SavePdf() {
+    // The paper is the printer's where there is one, but none is needed.
+    PrinterChoice::FindPrinter(m_desk);
+    frmPrintOptions dialog(m_desk, PrintPlan::Form::Pattern, &m_window);
+    dialog.PreferPdf();
     dialog.exec();
 }
 

@@ -30,6 +30,7 @@ public:
 private:
     [[nodiscard]] std::optional<SelectedArea> Selection();
     void Print(PrintPlan::Form form);
+    void SavePdf();
     void SetUpPage();
 
     EditBox& m_box;

@@ -7,10 +7,10 @@
 
 #include <utility>
 
-#include "print/PrintJob.h"
+#include "print/windows/JobPrinting.h"
 #include "print/windows/PdfSaving.h"
 #include "print/windows/PrinterChoice.h"
-#include "print/windows/frmPrinting.h"
+#include "print/windows/frmPreview.h"
 #include "print/windows/ui_frmPrintOptions.h"
 #include "settings/basCommonFunctions.h"
 #include "settings/basPrinterOptions.h"
@@ -63,6 +63,11 @@ frmPrintOptions::frmPrintOptions(PrintDesk& desk, PrintPlan::Form form, QWidget*
 
 frmPrintOptions::~frmPrintOptions() = default;
 
+void frmPrintOptions::PreferPdf() {
+    m_ui->cmdSavePdf->setDefault(true);
+    m_ui->cmdSavePdf->setFocus();
+}
+
 PageDevice& frmPrintOptions::Device() {
     PageDevice* printer = m_desk.Printers.Printer();
     return printer != nullptr ? *printer : m_paper;
@@ -86,7 +91,6 @@ void frmPrintOptions::SetUpControls() {
         policy.setRetainSizeWhenHidden(true);
         part->setSizePolicy(policy);
     }
-    m_ui->cmdPreview->hide();
     m_ui->chkPrintGridLines->setChecked(m_desk.Settings.PrintGridLines);
     m_ui->chkPrintColorKey->setChecked(m_plan.Job().Options().PrintColorKey);
     m_ui->chkSelectedOnly->setEnabled(m_selection.has_value());
@@ -278,31 +282,12 @@ void frmPrintOptions::Preview() {
     if (!PrepareJob()) {
         return;
     }
-    m_plan.Job().SetPreviewMode(true);
+    frmPreview(m_desk, m_plan.Job(), this).exec();
 }
 
 void frmPrintOptions::Print() {
-    if (!PrepareJob() || !PrinterChoice::MayPrint(m_desk)) {
-        return;
-    }
-    PrintFuncs& job = m_plan.Job();
-    job.SetPreviewMode(false);
-    m_desk.Printers.NameDocument(QString::fromStdString(m_desk.Open.Get().WindowTitle()));
-    frmPrinting window(this);
-    std::string fault;
-    PrintJob::State state = PrintJob::State::Failed;
-    window.Run([&](ProgressDoor& progress) {
-        PrintJob pages(job, Device(), &progress);
-        state = pages.Run();
-        fault = pages.ErrorText();
-    });
-    if (state == PrintJob::State::Done) {
+    if (PrepareJob() && PrintOnPrinter(m_desk, m_plan.Job(), this) == PrintJob::State::Done) {
         accept();
-    } else if (state == PrintJob::State::Failed) {
-        m_desk.Messages.TellMore(fault,
-                                 "Nothing was printed, and all choices stay as they are. The "
-                                 "pages can be saved as a PDF.",
-                                 MessageIcon::Exclamation, "Print");
     }
 }
 

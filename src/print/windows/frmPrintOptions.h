@@ -29,6 +29,9 @@ public:
     frmPrintOptions(PrintDesk& desk, PrintPlan::Form form, QWidget* parent);
     ~frmPrintOptions() override;
 
+    /// Enter saves a PDF, where that is what the window was opened for.
+    void PreferPdf();
+
 private:
     void SetUpControls();
     void ConnectControls();
