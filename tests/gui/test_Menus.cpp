@@ -51,9 +51,10 @@ void MenusTest::StandInTheirOrder_data() {
     const auto row = [](const char* menu, const char* entries) {
         QTest::newRow(menu) << QString::fromLatin1(entries);
     };
-    row("mnuFile", "mnuFileNew mnuFileOpen mnuFileBrowse mnuImport mnuExport mnuFileSave "
-                   "mnuFileSaveAs mnuFilePageSetup mnuFilePrintPreview mnuFileSavePdf mnuPrintColorKey "
-                   "mnuFileMRU0 mnuFileMRU1 mnuFileMRU2 mnuFileMRU3 mnuFileExit");
+    row("mnuFile",
+        "mnuFileNew mnuFileOpen mnuFileBrowse mnuImport mnuExport mnuFileSave "
+        "mnuFileSaveAs mnuFilePageSetup mnuFilePrintPreview mnuFileSavePdf mnuPrintColorKey "
+        "mnuFileMRU0 mnuFileMRU1 mnuFileMRU2 mnuFileMRU3 mnuFileExit");
     row("mnuEdit", "mnuEditUndo mnuEditCut mnuEditCopy mnuEditPaste mnuSelectAll mnuEditFlip "
                    "mnuEditRotate mnuEditErase mnuEditCopyTo mnuEditPasteFrom");
     row("mnuEditFlip", "mnuFlipHorizontal mnuFlipVertical");
