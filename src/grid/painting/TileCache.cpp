@@ -8,6 +8,7 @@
 #include "grid/painting/PaintColors.h"
 #include "grid/painting/StitchLayers.h"
 #include "grid/painting/StitchPixels.h"
+#include "grid/painting/TileCopy.h"
 
 namespace zol {
 
@@ -185,19 +186,26 @@ void TileCache::Compose(const PixelBuffer& target, Size& size, const SquareConte
         return stitch.Kind < Size::Kinds ? stitch.Kind : std::uint8_t{0};
     };
     const SquareContent::Stitch* stitch = content.begin();
-    const QRgb* from = Tile(size, stitch->Kind, stitch->PaletteIndex);
-    for (int y = 0; y < target.Height; ++y, from += target.Width) {
-        std::copy_n(from, target.Width, target.Row(y));
+    // Laid over the first stitch's tile, and from then on over what is there: of the smallest
+    // squares, which are a few pixels, a copy of its own would take as long as all the rest.
+    const QRgb* below = Tile(size, stitch->Kind, stitch->PaletteIndex);
+    std::ptrdiff_t stride = target.Width;
+    if (content.StitchCount() == 1) {
+        TileCopierFor(target.Width)(below, target.Pixels, target.Stride, target.Height,
+                                    target.Width);
     }
     while (++stitch != content.end()) {
-        const std::uint8_t kind = kindOf(*stitch);
-        const QRgb* over = Overlay(size, kind, stitch->PaletteIndex);
-        for (int y = 0; y < target.Height; ++y, over += target.Width) {
+        const QRgb* over = Overlay(size, kindOf(*stitch), stitch->PaletteIndex);
+        for (int y = 0; y < target.Height; ++y, below += stride, over += target.Width) {
             QRgb* row = target.Row(y);
             for (int x = 0; x < target.Width; ++x) {
-                OverlayPixel(row[x], over[x]);
+                QRgb pixel = below[x];
+                OverlayPixel(pixel, over[x]);
+                row[x] = pixel;
             }
         }
+        below = target.Pixels;
+        stride = target.Stride;
     }
 }
 

@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 
+#include "grid/painting/Cores.h"
 #include "grid/painting/GridPainter.h"
 #include "grid/painting/PaintColors.h"
 
@@ -17,6 +19,10 @@ namespace {
 constexpr qint64 WholeUpTo = 12'000'000;
 /// Of a larger one that much more than what shows.
 constexpr int Beyond = 512;
+/// Rows that one core takes at a time.
+constexpr int BandRows = 32;
+/// Pixels whose painting takes longer than to wake a helper up.
+constexpr int WorthHelp = 128 * 1024;
 /// Far enough from any cloth, in each of red, green and blue, to tell thread from cloth.
 constexpr Colour Apart = 0x808080;
 constexpr int ApartSteps = 0x80;
@@ -131,8 +137,11 @@ void FloatingPicture::PaintOver(const QImage& cloth, QPoint clothCorner, QImage&
     const QPoint start =
         visible.isEmpty() ? QPoint() : Prepare(content, geometry, options, visible);
     const QPoint shift = corner - clothCorner;
-    for (int y = 0; y < image.height(); ++y) {
-        auto* to = reinterpret_cast<QRgb*>(image.scanLine(y));
+    // Taken here, since an image that is shared makes its pixels its own when it is asked first.
+    auto* pixels = reinterpret_cast<QRgb*>(image.bits());
+    const auto stride = image.bytesPerLine() / static_cast<std::ptrdiff_t>(sizeof(QRgb));
+    const auto paintRow = [&](int y) {
+        QRgb* to = pixels + y * stride;
         const auto* from =
             reinterpret_cast<const QRgb*>(cloth.constScanLine(y + shift.y())) + shift.x();
         const bool isBlock = y + corner.y() >= visible.top() && y + corner.y() <= visible.bottom();
@@ -147,7 +156,15 @@ void FloatingPicture::PaintOver(const QImage& cloth, QPoint clothCorner, QImage&
                      visible.left() - start.x() - m_part.left(), visible.width(), from + left,
                      to + left);
         }
-    }
+    };
+    const int bands = (image.height() + BandRows - 1) / BandRows;
+    const bool isMuch = qint64{image.width()} * image.height() >= WorthHelp;
+    Cores::Run(isMuch ? Cores::Count() : 1, bands, [&](int, int band) {
+        const int end = std::min((band + 1) * BandRows, image.height());
+        for (int y = band * BandRows; y < end; ++y) {
+            paintRow(y);
+        }
+    });
 }
 
 void FloatingPicture::PaintRow(int row, int first, int count, const QRgb* cloth, QRgb* to) const {
