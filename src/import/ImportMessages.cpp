@@ -11,6 +11,15 @@ std::string Reducing(std::string_view colorWord) {
     return "Reducing " + std::string(colorWord) + "s";
 }
 
+std::string Result(int stitches, int flosses) {
+    return std::to_string(stitches) + (stitches == 1 ? " stitch in " : " stitches in ") +
+           std::to_string(flosses) + (flosses == 1 ? " floss" : " flosses");
+}
+
+std::string SharedSymbols(int flosses) {
+    return std::to_string(flosses) + " flosses share their symbol with another one";
+}
+
 std::optional<std::string> ValidateSize(double width, double height) {
     if (!(width > 0)) {
         return std::string(WidthTooSmall);

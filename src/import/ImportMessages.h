@@ -30,6 +30,11 @@ inline constexpr std::string_view CreatingPattern = "Creating Pattern";
 /// `colorWord` as the running program spells it.
 [[nodiscard]] std::string Reducing(std::string_view colorWord);
 
+/// "420 stitches in 12 flosses".
+[[nodiscard]] std::string Result(int stitches, int flosses);
+/// "3 flosses share their symbol with another one"; `flosses` is above 1.
+[[nodiscard]] std::string SharedSymbols(int flosses);
+
 /// What is wrong with the size screen's fields; nothing if they will do.
 [[nodiscard]] std::optional<std::string> ValidateSize(double width, double height);
 

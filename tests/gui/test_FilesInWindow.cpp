@@ -42,8 +42,8 @@ private Q_SLOTS:
     void DroppedPatternIsCopiedNeverMoved();
     void SeveralFilesAreRefused();
     void NothingIsTakenWhileAWindowAsks();
-    void PictureAndFolderAreToldAndWorkStays_data();
-    void PictureAndFolderAreToldAndWorkStays();
+    void FolderAndLibraryAreToldAndWorkStays_data();
+    void FolderAndLibraryAreToldAndWorkStays();
 
 private:
     [[nodiscard]] std::string Robin() const {
@@ -262,14 +262,13 @@ void FilesInWindowTest::NothingIsTakenWhileAWindowAsks() {
     QTRY_COMPARE(m_program->Design().Title, std::string("Winter Robin"));
 }
 
-void FilesInWindowTest::PictureAndFolderAreToldAndWorkStays_data() {
+void FilesInWindowTest::FolderAndLibraryAreToldAndWorkStays_data() {
     QTest::addColumn<QString>("name");
-    QTest::newRow("picture") << "cat.png";
     QTest::newRow("folder") << "things";
     QTest::newRow("library") << "birds.plb";
 }
 
-void FilesInWindowTest::PictureAndFolderAreToldAndWorkStays() {
+void FilesInWindowTest::FolderAndLibraryAreToldAndWorkStays() {
     QFETCH(const QString, name);
     const auto path = *m_home / name.toStdString();
     if (name == QLatin1String("things")) {

@@ -123,6 +123,7 @@ TEST_F(Import, APictureAllErasedGivesNoStitchAndAnEmptyPalette) {
     ASSERT_EQ(Create().Result, Done);
     EXPECT_EQ(pattern.GetPalette().GetEntriesCount(), 0);
     EXPECT_EQ(pattern.Cells(), std::vector<StitchCell>(144));
+    EXPECT_TRUE(pattern.IsChanged()); // what was there before is gone
 }
 
 TEST_F(Import, ARealWhiteAreaIsStitchedInWhite) {
@@ -335,6 +336,32 @@ TEST_F(ImportIntoEditBox, ACancelAtAnyPointLeavesThePatternAsItWas) {
     progress.cancelAfter = 303;
     session.SetImage(picture);
     EXPECT_EQ(Create().Result, Done);
+}
+
+TEST_F(ImportIntoEditBox, TheChangeIsAnnouncedJustBeforeItAndOnlyIfItComes) {
+    session.SetImage(RowOf({Blue, Red}));
+    session.ChooseCatalogue(CatalogueOf({Blue}));
+    int announced = 0;
+    const auto announce = [this, &announced] {
+        ++announced;
+        EXPECT_EQ(pattern.Cell(3, 2), StitchCell{});
+        EXPECT_EQ(pattern.GetPalette().GetEntriesCount(), 2);
+    };
+    EXPECT_FALSE(session.CreateThePattern(pattern, 1, 14, 14, announce).IsDone());
+    progress.cancelAfter = 0;
+    EXPECT_FALSE(session.CreateThePattern(pattern, 9, 14, 14, announce).IsDone());
+    EXPECT_EQ(announced, 0);
+    progress.cancelAfter = -1;
+    EXPECT_TRUE(session.CreateThePattern(pattern, 9, 14, 14, announce).IsDone());
+    EXPECT_EQ(announced, 1);
+}
+
+TEST_F(ImportIntoEditBox, LockedFlossesAreKnownFromOthers) {
+    EXPECT_TRUE(session.IsLockedTo(pattern.GetPalette()));
+    EXPECT_FALSE(session.IsLockedTo(PaletteOf({Red}, "!")));
+    EXPECT_FALSE(session.IsLockedTo(PaletteOf({Red, Blue}, "!z")));
+    session.UseWholePattern();
+    EXPECT_FALSE(session.IsLockedTo(pattern.GetPalette()));
 }
 
 } // namespace

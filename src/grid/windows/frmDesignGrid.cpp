@@ -11,6 +11,7 @@
 
 #include "files/CommandLineFile.h"
 #include "files/FileCommands.h"
+#include "files/FileNameKind.h"
 #include "grid/GridOptions.h"
 #include "grid/tools/DrawModes.h"
 #include "grid/tools/EditBox.h"
@@ -20,6 +21,7 @@
 #include "grid/windows/FileMenu.h"
 #include "grid/windows/GridArea.h"
 #include "grid/windows/GridToolView.h"
+#include "grid/windows/ImportCommands.h"
 #include "grid/windows/MainCommands.h"
 #include "grid/windows/MainMenus.h"
 #include "grid/windows/MainToolBars.h"
@@ -35,6 +37,7 @@
 #include "grid/windows/ViewCommands.h"
 #include "grid/windows/WindowPlace.h"
 #include "grid/windows/frmPopups.h"
+#include "model/SafeFile.h"
 #include "windowkit/BusyScope.h"
 
 namespace zol {
@@ -128,6 +131,15 @@ void frmDesignGrid::dropEvent(QDropEvent* event) {
     Q_EMIT FileDropped(event->mimeData()->urls().first().toLocalFile());
 }
 
+void frmDesignGrid::OpenDropped(const QString& name) {
+    const std::string file = name.toStdString();
+    if (KindOfFileName(file) == FileNameKind::Picture) {
+        m_import->ImportFile(PathOf(file));
+    } else {
+        m_files->OpenDropped(file);
+    }
+}
+
 void frmDesignGrid::SetBusy(bool busy) {
     ShowBusy(busy);
 }
@@ -192,6 +204,7 @@ void frmDesignGrid::FollowPainting() {
 }
 
 void frmDesignGrid::FollowDesign() {
+    SetWindowTitle(m_workshop.Open.Get().WindowTitle());
     m_area->DesignChanged();
     m_strip->Refresh();
     m_modes->PaletteChanged();

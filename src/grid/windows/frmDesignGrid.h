@@ -27,6 +27,7 @@ class FileMenu;
 class frmPopups;
 class GridArea;
 class GridToolView;
+class ImportCommands;
 class MainCommands;
 class MainMenus;
 class MainToolBars;
@@ -88,6 +89,8 @@ private:
     void SetUpCommands();
     void SetUpZoomCommands();
     void SetUpOptions();
+    void SetUpImport();
+    void OpenDropped(const QString& name);
     void SetUpPrinting();
     void ConnectGrid();
     void ConnectPalette();
@@ -130,6 +133,7 @@ private:
     std::unique_ptr<SizingCommands> m_sizing;
     std::unique_ptr<OptionsCommand> m_options;
     std::unique_ptr<PaletteFileCommands> m_paletteFiles;
+    std::unique_ptr<ImportCommands> m_import;
     std::unique_ptr<PrintCommands> m_print;
     std::unique_ptr<ReportCommands> m_reports;
 };

@@ -21,6 +21,7 @@
 #include "grid/windows/FileMenu.h"
 #include "grid/windows/GridArea.h"
 #include "grid/windows/GridToolView.h"
+#include "grid/windows/ImportCommands.h"
 #include "grid/windows/MainCommands.h"
 #include "grid/windows/MainMenus.h"
 #include "grid/windows/MainToolBars.h"
@@ -107,10 +108,8 @@ void frmDesignGrid::SetUpFiles() {
     m_fileMenu =
         std::make_unique<FileMenu>(*m_commands, *m_menus, *m_files, m_workshop.RecentFiles);
     // The program that the file came from waits until the drop returns, and a question may follow.
-    connect(
-        this, &frmDesignGrid::FileDropped, this,
-        [this](const QString& name) { m_files->OpenDropped(name.toStdString()); },
-        Qt::QueuedConnection);
+    connect(this, &frmDesignGrid::FileDropped, this, &frmDesignGrid::OpenDropped,
+            Qt::QueuedConnection);
     m_workshop.AutoSave.SetView(this);
     m_autoSaveTimer = new QTimer(this);
     m_autoSaveTimer->setObjectName(QStringLiteral("timAutoSave"));

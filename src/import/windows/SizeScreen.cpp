@@ -248,12 +248,6 @@ void SizeScreen::HandOn() {
     work.TheImage = m_resized;
     work.Size = m_fields.Size();
     work.UseEditBox = m_fields.UsesEditBox();
-    if (work.UseEditBox) {
-        work.Session.UseEditBox(work.EditBox->Left - 1, work.EditBox->Top - 1,
-                                m_desk.Design.GetPalette());
-    } else {
-        work.Session.UseWholePattern();
-    }
 }
 
 } // namespace zol

@@ -3,15 +3,26 @@
 
 #include "import/windows/frmImportWizard.h"
 
-#include <utility>
+#include <QDragEnterEvent>
+#include <QMimeData>
+#include <QUrl>
 
+#include <string>
+
+#include "import/windows/ColorScreen.h"
+#include "import/windows/CropScreen.h"
+#include "import/windows/EraseScreen.h"
+#include "import/windows/MappingScreen.h"
+#include "import/windows/SizeScreen.h"
+#include "import/windows/SourceScreen.h"
 #include "import/windows/WizardProgress.h"
 #include "import/windows/WizardScreen.h"
 #include "import/windows/WizardStatus.h"
 #include "import/windows/ui_frmImportWizard.h"
 #include "model/Pattern.h"
-#include "windowkit/BusyScope.h"
+#include "model/SafeFile.h"
 #include "windowkit/DialogSize.h"
+#include "windowkit/Spelling.h"
 
 namespace zol {
 
@@ -27,9 +38,10 @@ frmImportWizard::frmImportWizard(const Outside& outside, std::optional<SquareRec
       m_outside(outside),
       m_work(outside.Context),
       m_desk{m_work,           outside.Context,  outside.Design, outside.Store,
-             outside.Settings, outside.Messages, outside.Files},
+             outside.Settings, outside.Messages, outside.Files,  outside.Scanners},
       m_ui(std::make_unique<Ui::frmImportWizard>()) {
     m_ui->setupUi(this);
+    setAcceptDrops(true);
     m_status = new WizardStatus(this);
     SetupVariables(editBox);
     AddScreens();
@@ -37,6 +49,7 @@ frmImportWizard::frmImportWizard(const Outside& outside, std::optional<SquareRec
     connect(m_ui->cmdBack, &QPushButton::clicked, this, &frmImportWizard::GoBack);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &frmImportWizard::reject);
     DisplayScreen(m_flow.CurrentScreen(), false);
+    Spell(*this, m_desk.Context);
     RememberSize(*this, m_desk.Store);
 }
 
@@ -51,6 +64,13 @@ void frmImportWizard::SetupVariables(std::optional<SquareRect> editBox) {
 }
 
 void frmImportWizard::AddScreens() {
+    m_source = new SourceScreen(m_desk, this);
+    m_screens = {m_source,
+                 new CropScreen(m_desk, this),
+                 new EraseScreen(m_desk, this),
+                 new SizeScreen(m_desk, this),
+                 new ColorScreen(m_desk, this),
+                 new MappingScreen(m_desk, this)};
     for (WizardScreen* screen : m_screens) {
         m_ui->fraWiz->addWidget(screen);
         connect(screen, &WizardScreen::BusyChanged, this, &frmImportWizard::HoldButtons);
@@ -63,12 +83,16 @@ void frmImportWizard::DisplayScreen(int screen, bool keepPicture) {
     m_ui->cmdBack->setEnabled(m_flow.CanGoBack());
     const bool last = m_flow.IsOnLastScreen();
     m_ui->cmdNext->setText(last ? QStringLiteral("&Finish") : QStringLiteral("&Next"));
-    m_ui->lblReplaces->setText(last && !m_work.UseEditBox
-                                   ? QStringLiteral("Finish replaces the whole design; Undo "
-                                                    "brings it back.")
-                                   : QString());
+    ShowReplaceNote();
     m_ui->fraWiz->setCurrentWidget(&shown);
     shown.DisplayScreen(keepPicture);
+}
+
+void frmImportWizard::ShowReplaceNote() {
+    m_ui->lblReplaces->setText(m_flow.IsOnLastScreen() && !m_work.UseEditBox
+                                   ? QStringLiteral("Finish replaces the whole design. Only Undo "
+                                                    "brings it back.")
+                                   : QString());
 }
 
 void frmImportWizard::DisplayNextScreen() {
@@ -111,6 +135,42 @@ void frmImportWizard::Finish() {
         m_desk.Messages.Tell(status.Message, MessageIcon::Exclamation, Title);
         break;
     }
+}
+
+bool frmImportWizard::HasWork() const {
+    return m_work.TheImage != nullptr || m_source->HasPicture();
+}
+
+void frmImportWizard::Resume() {
+    // Flosses that came or went meanwhile have other numbers now, so they are locked anew.
+    if (m_flow.IsOnLastScreen() && m_work.UseEditBox &&
+        !m_work.Session.IsLockedTo(m_desk.Design.GetPalette())) {
+        DisplayScreen(m_flow.CurrentScreen(), false);
+    }
+}
+
+void frmImportWizard::TakeFile(const std::filesystem::path& file) {
+    m_source->TakeFile(file);
+}
+
+void frmImportWizard::dragEnterEvent(QDragEnterEvent* event) {
+    // Further on a drop would take the place of work that was done on another picture.
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (m_flow.CurrentScreen() == ImportScreens::Source && urls.size() == 1 &&
+        urls.first().isLocalFile()) {
+        // A move would let the program that the file comes from delete it.
+        event->setDropAction(Qt::CopyAction);
+        event->accept();
+    }
+}
+
+void frmImportWizard::dropEvent(QDropEvent* event) {
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    // The program that the file comes from waits until the drop returns, and a message may follow.
+    const QString file = event->mimeData()->urls().first().toLocalFile();
+    QMetaObject::invokeMethod(
+        this, [this, file] { TakeFile(PathOf(file.toStdString())); }, Qt::QueuedConnection);
 }
 
 void frmImportWizard::HoldButtons(bool busy) {

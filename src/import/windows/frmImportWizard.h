@@ -5,6 +5,7 @@
 
 #include <QDialog>
 
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -19,6 +20,7 @@ class frmImportWizard;
 
 namespace zol {
 
+class SourceScreen;
 class WizardScreen;
 class WizardStatus;
 
@@ -37,6 +39,7 @@ public:
         const Options& Settings;
         MessageDoor& Messages;
         FileDoor& Files;
+        ScannerDoor* Scanners; ///< null: nothing can be scanned
         /// Writes the import into the design, as one step that can be undone.
         std::function<ImportStatus(ImportWork& work)> CreateThePattern;
     };
@@ -48,6 +51,16 @@ public:
 
     /// From 0.
     [[nodiscard]] int CurrentScreen() const { return m_flow.CurrentScreen(); }
+    /// Whether there is anything that could be resumed.
+    [[nodiscard]] bool HasWork() const;
+    /// To be called before a wizard that was left is shown again: the design may have changed.
+    void Resume();
+    /// Only on the first screen: a file as the source.
+    void TakeFile(const std::filesystem::path& file);
+
+protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void SetupVariables(std::optional<SquareRect> editBox);
@@ -60,6 +73,7 @@ private:
     void GoBack();
     void Finish();
     void HoldButtons(bool busy);
+    void ShowReplaceNote();
 
     Outside m_outside;
     ImportWork m_work;
@@ -67,7 +81,8 @@ private:
     ImportFlow m_flow;
     std::unique_ptr<Ui::frmImportWizard> m_ui;
     WizardStatus* m_status = nullptr;
-    std::vector<WizardScreen*> m_screens;
+    SourceScreen* m_source = nullptr;
+    std::vector<WizardScreen*> m_screens; ///< by their numbers
 };
 
 } // namespace zol

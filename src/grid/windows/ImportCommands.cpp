@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#include "grid/windows/ImportCommands.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "grid/tools/DrawModes.h"
+#include "grid/tools/EditBox.h"
+#include "grid/windows/MainCommands.h"
+#include "import/ImportMessages.h"
+#include "import/windows/frmImportWizard.h"
+#include "model/Pattern.h"
+
+namespace zol {
+
+namespace {
+
+constexpr const char* Title = "Import Wizard";
+
+} // namespace
+
+ImportCommands::ImportCommands(MainCommands& commands, const Workshop& workshop,
+                               const DrawModes& modes, QWidget& window, Followers followers)
+    : m_workshop(workshop),
+      m_modes(modes),
+      m_window(window),
+      m_followers(std::move(followers)) {
+    commands.Connect("mnuImport", &window, [this] { Import(); });
+}
+
+ImportCommands::~ImportCommands() = default;
+
+bool ImportCommands::CanResume() {
+    return m_wizard != nullptr && m_wizard->HasWork() &&
+           m_wizardDesign == &m_workshop.Open.Design();
+}
+
+void ImportCommands::Import() {
+    const bool resume =
+        CanResume() &&
+        m_workshop.Messages.Ask("Would you like to resume the last Import?", MessageIcon::Question,
+                                MessageButtons::YesNo, Title) == MessageAnswer::Yes;
+    if (resume) {
+        m_wizard->Resume();
+    } else {
+        BeginAnew();
+    }
+    ShowWizard();
+}
+
+void ImportCommands::ImportFile(const std::filesystem::path& file) {
+    BeginAnew();
+    m_wizard->TakeFile(file);
+    ShowWizard();
+}
+
+void ImportCommands::BeginAnew() {
+    // The old one goes first, with whatever it still works on.
+    m_wizard.reset();
+    m_wizardDesign = &m_workshop.Open.Design();
+    m_wizard = std::make_unique<frmImportWizard>(
+        frmImportWizard::Outside{m_workshop.Context, *m_wizardDesign, m_workshop.Store,
+                                 m_workshop.Settings, m_workshop.Messages, m_workshop.Files,
+                                 &m_workshop.Scanners,
+                                 [this](ImportWork& work) { return CreateThePattern(work); }},
+        EditBoxInDesign(), &m_window);
+}
+
+void ImportCommands::ShowWizard() {
+    if (m_wizard->exec() == QDialog::Accepted) {
+        TellResult();
+    }
+}
+
+std::optional<SquareRect> ImportCommands::EditBoxInDesign() const {
+    const EditBox& box = m_modes.Box();
+    const Pattern& design = m_workshop.Open.Design();
+    if (!box.IsActive() || box.IsSelecting()) {
+        return std::nullopt;
+    }
+    const SquareRect rect = box.GetEditBoxRect();
+    const SquareRect inside{std::max(rect.Left, 1), std::max(rect.Top, 1),
+                            std::min(rect.Right, design.GetPatternWidth()),
+                            std::min(rect.Bottom, design.GetPatternHeight())};
+    return inside.IsEmpty() ? std::nullopt : std::optional(inside);
+}
+
+ImportStatus ImportCommands::CreateThePattern(ImportWork& work) {
+    std::optional<UndoStep> step;
+    const ImportStatus status = work.Session.CreateThePattern(
+        m_workshop.Open.Design(), work.MaxColors, work.Size.ClothCountX, work.Size.ClothCountY,
+        [this, &step] {
+            m_followers.EndTool();
+            step.emplace(m_workshop.Steps, UndoKind::Snapshot, "Import");
+        });
+    const bool changed = step.has_value();
+    step.reset();
+    if (changed) {
+        m_figures = work.Session.Figures();
+        m_followers.Changed();
+    }
+    return status;
+}
+
+void ImportCommands::TellResult() {
+    m_followers.ShowNote(
+        ImportMessages::Result(m_figures.Stitches, static_cast<int>(m_figures.Flosses.size())));
+    if (m_figures.FlossesSharingSymbol > 0) {
+        m_workshop.Messages.TellMore(ImportMessages::SharedSymbols(m_figures.FlossesSharingSymbol),
+                                     "The palette editor gives a floss another symbol.",
+                                     MessageIcon::Information, Title);
+    }
+}
+
+} // namespace zol

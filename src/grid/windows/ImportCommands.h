@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "grid/windows/Workshop.h"
+#include "import/PatternFromPicture.h"
+
+class QWidget;
+
+namespace zol {
+
+class DrawModes;
+class frmImportWizard;
+class MainCommands;
+struct ImportWork;
+
+/// The command that makes a design of a picture. Keeps the wizard that was left, so that its import
+/// can be resumed for as long as the program runs.
+class ImportCommands {
+public:
+    /// What the window does about an import.
+    struct Followers {
+        std::function<void()> EndTool; ///< before: what floats over the design is let go
+        std::function<void()> Changed; ///< after: everything may be other
+        std::function<void(const std::string&)> ShowNote;
+    };
+
+    /// `window` is what the wizard stands over; all of it outlives this.
+    ImportCommands(MainCommands& commands, const Workshop& workshop, const DrawModes& modes,
+                   QWidget& window, Followers followers);
+    ~ImportCommands();
+
+    /// A picture file that was dropped onto the window: a new import of it.
+    void ImportFile(const std::filesystem::path& file);
+
+private:
+    void Import();
+    void BeginAnew();
+    void ShowWizard();
+    [[nodiscard]] bool CanResume();
+    [[nodiscard]] std::optional<SquareRect> EditBoxInDesign() const;
+    [[nodiscard]] ImportStatus CreateThePattern(ImportWork& work);
+    void TellResult();
+
+    Workshop m_workshop;
+    const DrawModes& m_modes;
+    QWidget& m_window;
+    Followers m_followers;
+    std::unique_ptr<frmImportWizard> m_wizard;
+    const Pattern* m_wizardDesign = nullptr; ///< what the wizard was opened for
+    ImportFigures m_figures;                 ///< of the last import that was carried out
+};
+
+} // namespace zol
