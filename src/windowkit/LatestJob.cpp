@@ -3,7 +3,8 @@
 
 #include "windowkit/LatestJob.h"
 
-#include <QMetaObject>
+#include <QCoreApplication>
+#include <QEvent>
 
 #include <atomic>
 #include <exception>
@@ -51,6 +52,22 @@ private:
 
     LatestJob* m_job;
     std::shared_ptr<Run> m_run;
+};
+
+/// Something to be told on the window's thread.
+class LatestJob::Delivery : public QEvent {
+public:
+    Delivery(std::shared_ptr<Run> run, std::function<void()> tell)
+        : QEvent(QEvent::User),
+          m_run(std::move(run)),
+          m_tell(std::move(tell)) {}
+
+    [[nodiscard]] bool IsOf(const std::shared_ptr<Run>& run) const { return m_run == run; }
+    void Tell() const { m_tell(); }
+
+private:
+    std::shared_ptr<Run> m_run;
+    std::function<void()> m_tell;
 };
 
 LatestJob::LatestJob(QObject* parent) : QObject(parent) {
@@ -118,14 +135,15 @@ void LatestJob::Deliver(const std::shared_ptr<Run>& run) {
 }
 
 void LatestJob::Post(const std::shared_ptr<Run>& run, std::function<void()> tell) {
-    QMetaObject::invokeMethod(
-        this,
-        [this, run, tell = std::move(tell)] {
-            if (m_run == run) {
-                tell();
-            }
-        },
-        Qt::QueuedConnection);
+    QCoreApplication::postEvent(this, new Delivery(run, std::move(tell)));
+}
+
+void LatestJob::customEvent(QEvent* event) {
+    // Nobody else sends this object events of a number of their own.
+    const auto& delivery = static_cast<const Delivery&>(*event);
+    if (delivery.IsOf(m_run)) {
+        delivery.Tell();
+    }
 }
 
 } // namespace zol

@@ -63,9 +63,13 @@ Q_SIGNALS:
     /// The work threw; the text is the error's own. Comes after Ended.
     void Failed(const QString& text);
 
+protected:
+    void customEvent(QEvent* event) override;
+
 private:
     struct Run;
     class Progress;
+    class Delivery;
     using Work = std::function<std::shared_ptr<void>(ProgressDoor&)>;
     using Done = std::function<void(void*)>;
 
@@ -73,7 +77,7 @@ private:
     void Drop();
     void Execute(const std::shared_ptr<Run>& run);
     void Deliver(const std::shared_ptr<Run>& run);
-    /// On the window's thread, if the run still counts then.
+    /// On the window's thread, if the run still counts then. Called on any.
     void Post(const std::shared_ptr<Run>& run, std::function<void()> tell);
 
     std::shared_ptr<Run> m_run; ///< the one whose outcome counts
