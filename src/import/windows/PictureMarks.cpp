@@ -89,22 +89,29 @@ void DrawBand(QPainter& painter, const PicturePlace& place, const QRectF& band,
         {QPoint(all.left(), shown.top()), QPoint(shown.left() - 1, shown.bottom())},
         {QPoint(shown.right() + 1, shown.top()), QPoint(all.right(), shown.bottom())}};
     const QRect exposed = painter.clipBoundingRect().toAlignedRect();
+    const auto fill = [&](const QRect& rect, const QColor& colour) {
+        if (rect.intersects(exposed)) {
+            painter.fillRect(rect & exposed, colour);
+        }
+    };
     for (const QRect& side : sides) {
-        painter.fillRect(side & exposed, Dim);
+        fill(side, Dim);
     }
     const int width = LineWidth(place);
     const auto frame = [&](const QRect& rect, const QColor& colour) {
-        const QRegion ring = QRegion(rect) - rect.adjusted(width, width, -width, -width);
-        for (const QRect& part : ring) {
-            painter.fillRect(part, colour);
-        }
+        const int across = rect.width();
+        const int down = rect.height();
+        fill({rect.left(), rect.top(), across, width}, colour);
+        fill({rect.left(), rect.bottom() - width + 1, across, width}, colour);
+        fill({rect.left(), rect.top(), width, down}, colour);
+        fill({rect.right() - width + 1, rect.top(), width, down}, colour);
     };
     frame(shown.adjusted(-width, -width, width, width), Qt::white);
     frame(shown, accent);
     const int reach = HandleReach(place) - width;
     for (const QPoint& handle : Handles(shown)) {
-        painter.fillRect(Square(handle, reach), Qt::white);
-        painter.fillRect(Square(handle, reach - width), accent);
+        fill(Square(handle, reach), Qt::white);
+        fill(Square(handle, reach - width), accent);
     }
 }
 
@@ -193,7 +200,8 @@ std::optional<QCursor> RingPointer(const PicturePlace& place, int across) {
     DrawRingAt(painter, {side / 2.0, side / 2.0}, disc, width);
     painter.end();
     pixmap.setDevicePixelRatio(place.Ratio);
-    const int hot = static_cast<int>(side / 2 / place.Ratio);
+    const int middle = side / 2;
+    const int hot = static_cast<int>(middle / place.Ratio);
     return QCursor(pixmap, hot, hot);
 }
 

@@ -79,7 +79,7 @@ void PictureView::SetEmpty(PictureLevels::Empty empty) {
 }
 
 void PictureView::SetCloth(std::optional<QColor> cloth) {
-    m_cloth = std::move(cloth);
+    m_cloth = cloth;
     Repaint();
 }
 
@@ -267,14 +267,15 @@ void PictureView::paintEvent(QPaintEvent* event) {
     Refresh();
     QPainter painter(viewport());
     const DevicePixels pixels(painter);
+    // One by one: a clip of several rectangles makes each piece of the overlay dear.
     for (const QRect& rect : event->region()) {
         const QRect exposed = pixels.Covering(rect) & m_painted.rect();
         painter.drawImage(exposed.topLeft(), m_painted, exposed);
-    }
-    if (m_overlay && !m_place.IsEmpty()) {
-        // Tells the overlay which part of it is wanted.
-        painter.setClipRect(pixels.Covering(event->rect()));
-        m_overlay(painter, m_place);
+        if (m_overlay && !m_place.IsEmpty()) {
+            painter.setClipRect(exposed);
+            m_overlay(painter, m_place);
+            painter.setClipping(false);
+        }
     }
 }
 
