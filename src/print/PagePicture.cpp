@@ -22,7 +22,7 @@ constexpr double InchesPerMetre = 1 / 0.0254;
 } // namespace
 
 PagePicture PaintPage(PrintFuncs& job, int page, int dotsPerInch, ProgressDoor* progress) {
-    const Paper without(QPageSize(QPageSize::A4));
+    const Paper without{QPageSize(QPageSize::A4)};
     const PageDevice* paper = job.Printer() != nullptr ? job.Printer() : &without;
     ImagePageDevice device(paper->Width(), paper->Height(), dotsPerInch);
     if (device.Image().isNull()) {

@@ -99,7 +99,7 @@ void frmPreview::showEvent(QShowEvent* event) {
 }
 
 QSize frmPreview::PaperSize() const {
-    const Paper without(QPageSize(QPageSize::A4));
+    const Paper without{QPageSize(QPageSize::A4)};
     const PageDevice* paper = m_job.Printer() != nullptr ? m_job.Printer() : &without;
     return {paper->Width(), paper->Height()};
 }
