@@ -19,9 +19,9 @@ namespace {
 constexpr const char* SystemLibrary = "libsane.so.1";
 
 template<typename Result>
-Result Failure(ScanProblem problem) {
+Result Failure(const ScanProblem& problem) {
     Result result;
-    result.Problem = std::move(problem);
+    result.Problem = problem;
     return result;
 }
 
