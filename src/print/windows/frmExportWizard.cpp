@@ -4,7 +4,6 @@
 #include "print/windows/frmExportWizard.h"
 
 #include <QLocale>
-#include <QTimer>
 
 #include <utility>
 
@@ -20,7 +19,6 @@ namespace zol {
 namespace {
 
 constexpr int ZoomFigures = 4;
-/// Work that is over by then shows no progress, so that nothing flashes.
 constexpr int ShowProgressAfterMs = 150;
 
 struct Painted {
@@ -84,6 +82,8 @@ void frmExportWizard::ConnectControls() {
 void frmExportWizard::ConnectJob() {
     connect(&m_job, &LatestJob::Began, this, [this] { SetBusy(true); });
     connect(&m_job, &LatestJob::Ended, this, [this] { SetBusy(false); });
+    m_showProgress.setSingleShot(true);
+    connect(&m_showProgress, &QTimer::timeout, m_ui->picProgress, &QWidget::show);
     connect(&m_job, &LatestJob::StatusStarted, this, [this](const QString&, int maximum) {
         m_ui->pbStatus->setRange(0, maximum);
         m_ui->pbStatus->setValue(0);
@@ -194,9 +194,9 @@ void frmExportWizard::SetBusy(bool busy) {
     if (!busy) {
         m_isSaving = false;
         m_ui->picProgress->hide();
-    } else if (m_ui->picProgress->isHidden()) {
-        QTimer::singleShot(ShowProgressAfterMs, this,
-                           [this] { m_ui->picProgress->setVisible(m_job.IsRunning()); });
+        m_showProgress.stop();
+    } else if (!m_showProgress.isActive()) {
+        m_showProgress.start(ShowProgressAfterMs);
     }
     m_ui->picSettings->setEnabled(!m_isSaving);
     m_ui->cmdSaveImage->setEnabled(!busy && m_shown.has_value());

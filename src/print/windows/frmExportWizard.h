@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QTimer>
 
 #include <filesystem>
 #include <memory>
@@ -66,7 +67,8 @@ private:
     std::optional<PatternPicture> m_shown; ///< what picPattern shows
     bool m_isOutdated = false;             ///< the settings are others by now
     bool m_isSaving = false;
-    LatestJob m_job; ///< last, as what it runs uses the rest
+    QTimer m_showProgress; ///< work that is over before shows none, so that nothing flashes
+    LatestJob m_job;       ///< last, as what it runs uses the rest
 };
 
 } // namespace zol
