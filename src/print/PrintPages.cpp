@@ -11,7 +11,7 @@ namespace zol {
 
 namespace {
 
-/// Squares that are painted between two looks at the door.
+/// Squares that are painted at once where nobody waits for them.
 constexpr int SquaresAtOnce = 20000;
 /// Height of a symbol's em box in squares: most ink then takes about 0.6 of the square.
 constexpr double SymbolHeight = 0.92;
@@ -75,7 +75,9 @@ GridView PrintFuncs::ViewOf(const PageDevice& target, const PageRange& range) co
 void PrintFuncs::PaintStitches(QPainter& painter, const GridView& view, const SquareRect& squares,
                                ProgressDoor* progress) {
     const int rows = squares.Bottom - squares.Top + 1;
-    const int columnsAtOnce = std::max(1, SquaresAtOnce / std::max(1, rows));
+    // Whoever waits for the page may cancel after each column.
+    const int columnsAtOnce =
+        progress != nullptr ? 1 : std::max(1, SquaresAtOnce / std::max(1, rows));
     const int columns = squares.Right - squares.Left + 1;
     for (int left = squares.Left; left <= squares.Right; left += columnsAtOnce) {
         const int right = std::min(left + columnsAtOnce - 1, squares.Right);

@@ -11,7 +11,7 @@
 
 #include <QPdfWriter>
 
-#include "grid/painting/SymbolText.h"
+#include "print/ChartReading.h"
 #include "print/PdfReading.h"
 #include "print/PrintFuncs.h"
 #include "print/PrintScene.h"
@@ -21,57 +21,9 @@ namespace zol::test {
 
 namespace {
 
-using Symbols = std::map<std::pair<int, int>, QString>;
-
-constexpr double PointsPerInch = 72;
-
-QString SymbolOf(const Pattern& pattern, int floss) {
-    const char32_t character = SymbolText::ToUnicode(pattern.GetPalette().GetFlossSymbol(floss));
-    return QString::fromUcs4(&character, 1);
-}
-
-/// What the chart should say: in each square the symbols of its stitches, sorted.
-Symbols SymbolsOf(const Pattern& pattern) {
-    Symbols symbols;
-    for (int x = 1; x <= pattern.GetPatternWidth(); ++x) {
-        for (int y = 1; y <= pattern.GetPatternHeight(); ++y) {
-            QStringList all;
-            for (int i = 0; i < pattern.GetStitchCount(x, y); ++i) {
-                all.append(SymbolOf(pattern, pattern.GetStitchColorIndex(x, y, i)));
-            }
-            if (!all.isEmpty()) {
-                all.sort();
-                symbols[{x, y}] = all.join(QString());
-            }
-        }
-    }
-    return symbols;
-}
-
 class ChartPdfTest : public ::testing::Test {
 protected:
-    /// Fills a pattern with whole stitches of flosses in an order without regularity.
-    void Fill(Pattern& pattern, int flosses) {
-        std::uint32_t state = 12345;
-        for (int i = 1; i <= flosses; ++i) {
-            const char32_t symbol =
-                CodePage::ToUnicode(static_cast<std::uint8_t>(Palette::SymbolCode(i)));
-            std::string text;
-            CodePage::AppendUtf8(text, symbol);
-            PrintScene::AddFloss(pattern, state & 0xFFFFFFU, std::to_string(i), i, text);
-            state = state * 1664525U + 1013904223U;
-        }
-        for (int x = 1; x <= pattern.GetPatternWidth(); ++x) {
-            for (int y = 1; y <= pattern.GetPatternHeight(); ++y) {
-                state = state * 1664525U + 1013904223U;
-                const auto pick =
-                    static_cast<int>((state >> 8U) % static_cast<unsigned>(flosses + 5));
-                if (pick < flosses) {
-                    pattern.SetStitch(x, y, StitchWhole, pick + 1, 5);
-                }
-            }
-        }
-    }
+    static void Fill(Pattern& pattern, int flosses) { FillWithStitches(pattern, flosses); }
 
     std::filesystem::path Write(Pattern& pattern, const ChartPdfOptions& options) {
         auto path = scene.Path("chart.pdf");
@@ -91,31 +43,7 @@ protected:
         PagedPageDevice device(paper);
         PrintFuncs functions(options.Print, &device);
         functions.SetPattern(pattern);
-        (void)functions.GetPageCount();
-        const double cellX = functions.SquareWidth() / 20.0;
-        const double cellY = functions.SquareHeight() / 20.0;
-        std::map<std::pair<int, int>, QStringList> found;
-        for (const PdfWord& word : PdfWords(pdf)) {
-            const SquareRect squares = functions.GetPageRange(word.Page, true).Squares;
-            const double x =
-                (word.Left + word.Right) / 2 - options.Print.LeftMargin * PointsPerInch;
-            const double y = (word.Top + word.Bottom) / 2 - options.Print.TopMargin * PointsPerInch;
-            const int column = squares.Left + static_cast<int>(x / cellX);
-            const int row = squares.Top + static_cast<int>(y / cellY);
-            if (word.Page <= functions.PatternPages() && x >= 0 && y >= 0 &&
-                column <= squares.Right && row <= squares.Bottom) {
-                EXPECT_EQ(word.Text.size(), 1)
-                    << word.Text.toStdString() << " on page " << word.Page << " from " << word.Left
-                    << ", " << word.Top << " to " << word.Right << ", " << word.Bottom;
-                found[{column, row}].append(word.Text);
-            }
-        }
-        Symbols symbols;
-        for (auto& [square, texts] : found) {
-            texts.sort();
-            symbols[square] = texts.join(QString());
-        }
-        return symbols;
+        return SymbolsIn(pdf, functions);
     }
 
     void ExpectSameChart(Pattern& pattern, const ChartPdfOptions& options) {

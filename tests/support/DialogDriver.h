@@ -35,7 +35,9 @@ private:
     }
     void Look() {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (dialog == nullptr || dialog == m_last || !dialog->isVisible()) {
+        // A window that only shows progress goes by itself.
+        if (dialog == nullptr || dialog == m_last || !dialog->isVisible() ||
+            dialog->objectName() == QLatin1String("frmPrinting")) {
             return;
         }
         m_last = dialog;

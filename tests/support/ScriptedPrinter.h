@@ -8,6 +8,7 @@
 #include <QPageSize>
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -35,6 +36,9 @@ public:
         if (!m_painter.isActive()) {
             TakePaper();
             m_painter.begin(&m_page);
+            if (onPage) {
+                onPage(static_cast<int>(m_pages.size()) + 1);
+            }
         }
         return &m_painter;
     }
@@ -52,7 +56,9 @@ public:
         return !refusesDocuments;
     }
     void KillDoc() override {
-        m_painter.end();
+        if (m_painter.isActive()) {
+            m_painter.end();
+        }
         m_pages.clear();
         ++killed;
     }
@@ -65,6 +71,8 @@ public:
     int ended = 0;
     int killed = 0;
     std::vector<QImage> printed; ///< the pages of whole documents
+    /// Called at the beginning of each page of a document, from 1.
+    std::function<void(int page)> onPage;
 
 private:
     [[nodiscard]] static double TwipsPerDot() {

@@ -3,6 +3,7 @@
 
 #include "print/windows/frmPrintOptions.h"
 
+#include <QLayout>
 #include <QPushButton>
 
 #include <utility>
@@ -58,6 +59,11 @@ frmPrintOptions::frmPrintOptions(PrintDesk& desk, PrintPlan::Form form, QWidget*
     ConnectControls();
     Spell(*this, m_desk.Context);
     m_ui->cmdPrint->setFocus();
+    if (m_plan.IsKeyOnly()) {
+        layout()->setSizeConstraint(QLayout::SetFixedSize);
+        return;
+    }
+    resize(sizeHint());
     RememberSize(*this, m_desk.Store);
 }
 
