@@ -5,6 +5,7 @@
 
 #include <QHeaderView>
 #include <QLocale>
+#include <QScrollBar>
 #include <QSortFilterProxyModel>
 
 #include <algorithm>
@@ -242,7 +243,14 @@ void MappingScreen::TakePreview(ImportPreview preview, bool tellFailure) {
 
 void MappingScreen::ShowPreview() {
     const ImportSession& session = m_desk.Work.Session;
+    // A view without a picture lies at its corner and would take the other one there.
+    const QPoint corner(m_ui->lpicMappedImage->horizontalScrollBar()->value(),
+                        m_ui->lpicMappedImage->verticalScrollBar()->value());
     m_ui->lpicPreviewPattern->ShowPicture(session.PreviewPicture());
+    for (PictureView* view : {m_ui->lpicMappedImage, m_ui->lpicPreviewPattern}) {
+        view->horizontalScrollBar()->setValue(corner.x());
+        view->verticalScrollBar()->setValue(corner.y());
+    }
     m_flosses->SetFlosses(session.PreviewFlosses());
     qint64 stitches = 0;
     for (const PreviewFloss& floss : m_flosses->Flosses()) {

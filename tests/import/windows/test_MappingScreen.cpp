@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QTest>
 #include <QTreeView>
 #include <QVBoxLayout>
@@ -64,6 +65,7 @@ private Q_SLOTS:
     void ComingAgainTakesTheNewPicture();
     void TheFlossesSortByAnyColumn();
     void ErasedSquaresShowTheCloth();
+    void BothPicturesShowTheSamePlaceWhenAPreviewComesAndGoes();
 
 private:
     void ShowScreen();
@@ -431,6 +433,21 @@ void TestMappingScreen::ErasedSquaresShowTheCloth() {
     const QImage shot = Shot(view);
     QCOMPARE(ShownAt(view, shot, {2, 0}), OnScreen(m_kit->Settings.ClothColor));
     QCOMPARE(ShownAt(view, shot, {0, 0}), OnScreen(Red));
+}
+
+void TestMappingScreen::BothPicturesShowTheSamePlaceWhenAPreviewComesAndGoes() {
+    Come(PlacePicture(200, 200));
+    auto& before = *PartOf<PictureView>(*m_window, "lpicMappedImage").verticalScrollBar();
+    auto& preview = *PartOf<PictureView>(*m_window, "lpicPreviewPattern").verticalScrollBar();
+    QTRY_VERIFY(before.maximum() > 300);
+    before.setValue(300);
+    ChooseLine(QStringLiteral("Few Threads"));
+    ClickIn(*m_window, "cmdPreviewPattern");
+    QTRY_VERIFY(!Shown().IsEmpty());
+    QCOMPARE(preview.value(), 300);
+    ChooseLine(QStringLiteral("Many Threads")); // the preview goes
+    QVERIFY(Shown().IsEmpty());
+    QCOMPARE(before.value(), 300);
 }
 
 QTEST_MAIN(TestMappingScreen)
