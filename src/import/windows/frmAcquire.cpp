@@ -3,7 +3,6 @@
 
 #include "import/windows/frmAcquire.h"
 
-#include <QMetaObject>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -100,6 +99,7 @@ void frmAcquire::ConnectFields() {
         connect(field, &QDoubleSpinBox::valueChanged, this, &frmAcquire::TakeAreaFromFields);
     }
     connect(m_ui->cmbResolution, &QComboBox::currentIndexChanged, this, &frmAcquire::ShowSize);
+    connect(this, &frmAcquire::RowsCame, this, &frmAcquire::TakeRows, Qt::QueuedConnection);
     connect(&m_job, &LatestJob::Failed, this, [this](const QString& text) {
         Become(Doing::Nothing);
         ShowProblem({ScanProblem::Kind::Failed, text.toStdString(), {}});
@@ -243,17 +243,17 @@ void frmAcquire::reject() {
 std::function<void(const ScanRows&)> frmAcquire::RowsToHere() {
     const int run = ++m_run;
     return [this, run](const ScanRows& rows) {
-        auto pixels = std::make_shared<std::vector<Colour>>(rows.Pixels.begin(), rows.Pixels.end());
-        QMetaObject::invokeMethod(
-            this,
-            [this, run, came = ScanRows(rows), pixels]() mutable {
-                if (run == m_run && m_job.IsRunning()) {
-                    came.Pixels = *pixels;
-                    ShowRows(came);
-                }
-            },
-            Qt::QueuedConnection);
+        auto received = std::make_shared<Received>();
+        *received = {run, rows, {rows.Pixels.begin(), rows.Pixels.end()}};
+        received->Rows.Pixels = received->Pixels;
+        Q_EMIT RowsCame(received);
     };
+}
+
+void frmAcquire::TakeRows(const std::shared_ptr<const Received>& received) {
+    if (received->Run == m_run && m_job.IsRunning()) {
+        ShowRows(received->Rows);
+    }
 }
 
 void frmAcquire::ShowRows(const ScanRows& rows) {

@@ -40,6 +40,17 @@ public:
     /// Stops a scan first, and leaves only when none goes on.
     void reject() override;
 
+    /// Rows of one run, with pixels of their own.
+    struct Received {
+        int Run = 0;
+        ScanRows Rows;
+        std::vector<Colour> Pixels;
+    };
+
+Q_SIGNALS:
+    /// On the thread of the scan.
+    void RowsCame(const std::shared_ptr<const Received>& received);
+
 private:
     enum class Doing { Asking, Nothing, Previewing, Scanning };
 
@@ -56,6 +67,7 @@ private:
     void TakeResult(Doing was, ScanResult& result);
     void Stop();
     [[nodiscard]] std::function<void(const ScanRows&)> RowsToHere();
+    void TakeRows(const std::shared_ptr<const Received>& received);
     void ShowRows(const ScanRows& rows);
 
     [[nodiscard]] ScanRequest RequestedScan() const;
