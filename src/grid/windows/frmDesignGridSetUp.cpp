@@ -152,6 +152,11 @@ void frmDesignGrid::SetUpCommands() {
     m_palette = std::make_unique<PaletteCommands>(
         *m_commands, m_workshop, *m_modes, m_choice, *this,
         PaletteCommands::Followers{[this] { EndTool(); }, [this] { FollowDesign(); }});
+    m_import = std::make_unique<ImportCommands>(
+        *m_commands, m_workshop, *m_modes, *this,
+        ImportCommands::Followers{
+            [this] { EndTool(); }, [this] { FollowDesign(); },
+            [this](const std::string& text) { m_status->ShowNote(QString::fromStdString(text)); }});
     m_commands->Connect("mnuFileExit", this, [this] { close(); });
     SetUpZoomCommands();
     SetUpOptions();

@@ -1,0 +1,355 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#include <QComboBox>
+#include <QDragEnterEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPushButton>
+#include <QStackedWidget>
+
+#include <filesystem>
+#include <functional>
+
+#include "flosses/Palette.h"
+#include "gui/DrawnProgram.h"
+#include "import/windows/PictureView.h"
+#include "import/windows/frmImportWizard.h"
+#include "support/DialogDriver.h"
+
+namespace zol::test {
+
+namespace fs = std::filesystem;
+
+/// From a picture to a design in the whole program.
+class ImportInWindowTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void APhotoBecomesADesignAndUndoBringsTheOldOneBack();
+    void BackKeepsWhatWasDone();
+    void AnImportThatWasLeftIsResumedOrNot();
+    void AnImportThatWasDoneIsResumedOnItsLastScreen();
+    void AnImportIntoTheEditBoxLeavesTheRest();
+    void ADroppedPictureOpensTheWizardOnIt();
+    void FewFlossesThatShareTheirSymbolsAreTold();
+
+private:
+    /// Lets a user work in the wizard that the command opens.
+    void Import(DrawnProgram& program, const std::function<void(frmImportWizard&)>& work) {
+        DialogDriver driver({[&work](QDialog& dialog) {
+            auto* wizard = qobject_cast<frmImportWizard*>(&dialog);
+            QVERIFY(wizard != nullptr);
+            work(*wizard);
+            if (wizard->isVisible()) {
+                wizard->reject();
+            }
+        }});
+        program.Choose("mnuImport");
+        program.Settle();
+        QVERIFY(driver.AllDone());
+    }
+    QTemporaryDir m_folder;
+};
+
+namespace {
+
+fs::path Sample(const char* name) {
+    return fs::path(SourceFolder) / "data/samples/pictures" / name;
+}
+
+void Next(frmImportWizard& wizard) {
+    ClickIn(wizard, "cmdNext");
+}
+
+bool IsShown(frmImportWizard& wizard, const char* part) {
+    return PartOf<QWidget>(wizard, part).isVisible();
+}
+
+/// A file chosen by its dialog, and on to the size screen.
+void TakeFile(DrawnProgram& program, frmImportWizard& wizard, const char* sample) {
+    QCOMPARE(wizard.CurrentScreen(), 0);
+    program.User.files = {Sample(sample)};
+    ClickIn(wizard, "cmdBrowse");
+    QTRY_VERIFY(PartOf<PictureView>(wizard, "LPicPreview").Shown() != nullptr);
+    for (int screen = 1; screen <= 3; ++screen) {
+        Next(wizard);
+        QCOMPARE(wizard.CurrentScreen(), screen);
+    }
+}
+
+/// From the size screen to the mapping screen.
+void GoToMapping(frmImportWizard& wizard) {
+    Next(wizard);
+    QCOMPARE(wizard.CurrentScreen(), 4);
+    Next(wizard);
+    QCOMPARE(wizard.CurrentScreen(), 5);
+}
+
+void ChooseFamily(frmImportWizard& wizard, const QString& maxColors) {
+    auto& family = PartOf<QComboBox>(wizard, "cmbFlossFamily");
+    QVERIFY(family.count() > 0);
+    family.setFocus();
+    QTest::keyClick(&family, Qt::Key_Home);
+    TypeIn(wizard, "txtMaxColors", maxColors);
+}
+
+void SetWidth(frmImportWizard& wizard, const QString& stitches) {
+    ClickIn(wizard, "optStitches");
+    TypeIn(wizard, "txtWidth", stitches);
+}
+
+} // namespace
+
+void ImportInWindowTest::init() {
+    qputenv("TMPDIR", m_folder.path().toUtf8());
+}
+
+void ImportInWindowTest::APhotoBecomesADesignAndUndoBringsTheOldOneBack() {
+    const ProgramHome home;
+    DrawnProgram program(home);
+    QVERIFY(program.Open());
+    program.Take(20, 10, 300);
+    program.ClickIn(2, 2);
+    program.Design().FileName = "/patterns/rose.pat";
+    const std::string before = BytesOf(program.Parts().Open.Get());
+    Import(program, [&program](frmImportWizard& wizard) {
+        QCOMPARE(wizard.windowTitle(), QStringLiteral("Import Wizard"));
+        QVERIFY(!PartOf<QPushButton>(wizard, "cmdBack").isEnabled());
+        // Enter is Next: there is nothing yet.
+        QTest::keyClick(&wizard, Qt::Key_Return);
+        QCOMPARE(program.User.ToldTexts(),
+                 std::vector<std::string>{"You must select an image to import"});
+        program.User.told.clear();
+        TakeFile(program, wizard, "still-life.jpg");
+        SetWidth(wizard, QStringLiteral("60"));
+        QCOMPARE(PartOf<QPushButton>(wizard, "cmdNext").text(), QStringLiteral("&Next"));
+        GoToMapping(wizard);
+        QCOMPARE(PartOf<QPushButton>(wizard, "cmdNext").text(), QStringLiteral("&Finish"));
+        QVERIFY(PartOf<QLabel>(wizard, "lblReplaces").text().contains(QLatin1String("Undo")));
+        ChooseFamily(wizard, QStringLiteral("12"));
+        // Finish before any preview was asked for.
+        Next(wizard);
+    });
+    QVERIFY(program.User.unanswered.empty());
+    Pattern& design = program.Design();
+    QCOMPARE(design.GetPatternWidth(), 60);
+    QCOMPARE(design.GetPatternHeight(), 45);
+    QVERIFY(design.GetPalette().GetEntriesCount() <= 12);
+    QCOMPARE(design.GetStitchCount(30, 20), 1);
+    QVERIFY(design.IsChanged());
+    QVERIFY(design.FileName.empty());
+    QVERIFY(program.Window().windowTitle().endsWith(QLatin1String("Unsaved Pattern")));
+    QCOMPARE(program.Command("mnuEditUndo").text(), QStringLiteral("Undo Import"));
+    QTRY_COMPARE(program.WrongPixels(), 0);
+    QVERIFY(program.Find<QLabel>("placePanel")->text().contains(QLatin1String("2700 stitches")));
+    program.Choose("mnuEditUndo");
+    QCOMPARE(BytesOf(program.Parts().Open.Get()), before);
+    QCOMPARE(design.FileName, std::string("/patterns/rose.pat"));
+    QTRY_COMPARE(program.WrongPixels(), 0);
+    design.FileName.clear();
+    program.End();
+}
+
+void ImportInWindowTest::BackKeepsWhatWasDone() {
+    const ProgramHome home;
+    DrawnProgram program(home);
+    QVERIFY(program.Open());
+    Import(program, [&program](frmImportWizard& wizard) {
+        TakeFile(program, wizard, "cat.png");
+        SetWidth(wizard, QStringLiteral("24"));
+        // Going back hands the size on too; coming forward starts from the screen before.
+        ClickIn(wizard, "cmdBack");
+        QCOMPARE(wizard.CurrentScreen(), 2);
+        QCOMPARE(PartOf<PictureView>(wizard, "lpicErase").Shown()->ImageWidth(), 48);
+        Next(wizard);
+        QCOMPARE(PartOf<QLineEdit>(wizard, "txtWidth").text(), QStringLiteral("24"));
+        // A wrong field does not hold one who goes back.
+        TypeIn(wizard, "txtWidth", QStringLiteral("0"));
+        ClickIn(wizard, "cmdBack");
+        QCOMPARE(program.User.ToldTexts(),
+                 std::vector<std::string>{"Pattern width must be greater than zero"});
+        QCOMPARE(wizard.CurrentScreen(), 2);
+        // Forward it does.
+        Next(wizard);
+        Next(wizard);
+        QCOMPARE(wizard.CurrentScreen(), 3);
+        QCOMPARE(program.User.told.size(), std::size_t{2});
+        for (int screen = 2; screen >= 0; --screen) {
+            ClickIn(wizard, "cmdBack");
+            QCOMPARE(wizard.CurrentScreen(), screen);
+        }
+        QVERIFY(!PartOf<QPushButton>(wizard, "cmdBack").isEnabled());
+        QVERIFY(PartOf<PictureView>(wizard, "LPicPreview").Shown() != nullptr);
+    });
+    program.Design().SetChanged(false);
+    program.End();
+}
+
+void ImportInWindowTest::AnImportThatWasLeftIsResumedOrNot() {
+    const ProgramHome home;
+    DrawnProgram program(home);
+    QVERIFY(program.Open());
+    const std::string before = BytesOf(program.Parts().Open.Get());
+    // Nothing was chosen, so there is nothing to ask about.
+    for (int i = 0; i < 2; ++i) {
+        Import(program, [](frmImportWizard& wizard) {
+            QTest::keyClick(&wizard, Qt::Key_Escape);
+            QVERIFY(!wizard.isVisible());
+        });
+    }
+    QVERIFY(program.User.asked.empty());
+    Import(program, [&program](frmImportWizard& wizard) {
+        TakeFile(program, wizard, "cat.png");
+        SetWidth(wizard, QStringLiteral("31"));
+        ClickIn(wizard, "cmdCancel");
+        QVERIFY(!wizard.isVisible());
+    });
+    QCOMPARE(BytesOf(program.Parts().Open.Get()), before);
+    QVERIFY(!program.Design().IsChanged());
+    program.User.answers = {MessageAnswer::Yes};
+    Import(program, [](frmImportWizard& wizard) {
+        QCOMPARE(wizard.CurrentScreen(), 3);
+        QCOMPARE(PartOf<QLineEdit>(wizard, "txtWidth").text(), QStringLiteral("31"));
+    });
+    QCOMPARE(program.User.AskedTexts(),
+             std::vector<std::string>{"Would you like to resume the last Import?"});
+    program.User.answers = {MessageAnswer::No};
+    Import(program, [](frmImportWizard& wizard) {
+        QCOMPARE(wizard.CurrentScreen(), 0);
+        QVERIFY(PartOf<PictureView>(wizard, "LPicPreview").Shown() == nullptr);
+        QVERIFY(PartOf<QWidget>(wizard, "optLastImage").isEnabled());
+    });
+    QVERIFY(program.User.unanswered.empty());
+    program.End();
+}
+
+void ImportInWindowTest::AnImportThatWasDoneIsResumedOnItsLastScreen() {
+    const ProgramHome home;
+    DrawnProgram program(home);
+    QVERIFY(program.Open());
+    Import(program, [&program](frmImportWizard& wizard) {
+        TakeFile(program, wizard, "cat.png");
+        SetWidth(wizard, QStringLiteral("24"));
+        GoToMapping(wizard);
+        ChooseFamily(wizard, QStringLiteral("9"));
+        Next(wizard);
+        QVERIFY(!wizard.isVisible());
+    });
+    QCOMPARE(program.Design().GetPatternWidth(), 24);
+    const std::string first = BytesOf(program.Parts().Open.Get());
+    program.User.answers = {MessageAnswer::Yes};
+    Import(program, [](frmImportWizard& wizard) {
+        QCOMPARE(wizard.CurrentScreen(), 5);
+        QCOMPARE(PartOf<QLineEdit>(wizard, "txtMaxColors").text(), QStringLiteral("9"));
+        QVERIFY(IsShown(wizard, "lpicPreviewPattern"));
+        Next(wizard);
+        QVERIFY(!wizard.isVisible());
+    });
+    QCOMPARE(BytesOf(program.Parts().Open.Get()), first);
+    program.Design().SetChanged(false);
+    program.End();
+}
+
+void ImportInWindowTest::AnImportIntoTheEditBoxLeavesTheRest() {
+    const ProgramHome home;
+    DrawnProgram program(home);
+    QVERIFY(program.Open());
+    program.Take(20, 12, 300);
+    program.ClickIn(1, 1);
+    program.ClickIn(6, 6);
+    program.Choose("mnuDrawModeEditBox");
+    program.DragOver({{4, 3}, {11, 8}});
+    const int flosses = program.Design().GetPalette().GetEntriesCount();
+    Import(program, [&program](frmImportWizard& wizard) {
+        TakeFile(program, wizard, "still-life.jpg");
+        ClickIn(wizard, "chkUseEditBox");
+        GoToMapping(wizard);
+        QVERIFY(PartOf<QLabel>(wizard, "lblReplaces").text().isEmpty());
+        ChooseFamily(wizard, QStringLiteral("150"));
+        Next(wizard);
+        QVERIFY(!wizard.isVisible());
+    });
+    Pattern& design = program.Design();
+    QCOMPARE(design.GetPatternWidth(), 20);
+    QVERIFY(design.GetPalette().GetEntriesCount() >= flosses);
+    QCOMPARE(design.GetStitchCount(1, 1), 1);
+    for (int column = 1; column <= 20; ++column) {
+        for (int row = 1; row <= 12; ++row) {
+            const bool inside = column >= 4 && column <= 11 && row >= 3 && row <= 8;
+            const bool drawn = column == 1 && row == 1;
+            QCOMPARE(design.GetStitchCount(column, row) > 0, inside || drawn);
+        }
+    }
+    program.Choose("mnuEditUndo");
+    QCOMPARE(design.GetPalette().GetEntriesCount(), flosses);
+    QCOMPARE(design.GetStitchCount(4, 3), 0);
+    QCOMPARE(design.GetStitchCount(6, 6), 1);
+    design.SetChanged(false);
+    program.End();
+}
+
+void ImportInWindowTest::ADroppedPictureOpensTheWizardOnIt() {
+    const ProgramHome home;
+    DrawnProgram program(home);
+    QVERIFY(program.Open());
+    DialogDriver driver({[](QDialog& dialog) {
+        auto& wizard = dynamic_cast<frmImportWizard&>(dialog);
+        auto& preview = PartOf<PictureView>(wizard, "LPicPreview");
+        QTRY_VERIFY(preview.Shown() != nullptr);
+        QCOMPARE(preview.Shown()->ImageWidth(), 48);
+        // Another one, dropped onto the wizard.
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(QString::fromStdString(Sample("logo.png").string()))});
+        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&wizard, &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&wizard, &drop);
+        QTRY_VERIFY(preview.Shown() != nullptr && preview.Shown()->ImageWidth() == 600);
+        // Further on a drop would take away what was done.
+        Next(wizard);
+        QCOMPARE(wizard.CurrentScreen(), 1);
+        QDragEnterEvent late({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        late.ignore();
+        QApplication::sendEvent(&wizard, &late);
+        QVERIFY(!late.isAccepted());
+        wizard.reject();
+    }});
+    Q_EMIT program.Window().FileDropped(QString::fromStdString(Sample("cat.png").string()));
+    QTRY_VERIFY(driver.AllDone());
+    program.End();
+}
+
+void ImportInWindowTest::FewFlossesThatShareTheirSymbolsAreTold() {
+    const ProgramHome home;
+    DrawnProgram program(home);
+    QVERIFY(program.Open());
+    // A palette whose two flosses have the same symbol.
+    Palette palette = Palette::Empty(program.Parts().Context);
+    palette.AddPaletteEntry(MakeColour(200, 0, 10), "1", "red", "DMC", "R", 2, 1, 0, 0, 0, "DMC");
+    palette.AddPaletteEntry(MakeColour(0, 0, 10), "2", "black", "DMC", "R", 2, 1, 0, 0, 0, "DMC");
+    program.Design().GetPalette() = palette;
+    Import(program, [&program](frmImportWizard& wizard) {
+        TakeFile(program, wizard, "cat.png");
+        SetWidth(wizard, QStringLiteral("10"));
+        GoToMapping(wizard);
+        ClickIn(wizard, "optPalette");
+        auto& palettes = PartOf<QComboBox>(wizard, "cmbFlossFamily");
+        palettes.setFocus();
+        QTest::keyClick(&palettes, Qt::Key_Home);
+        Next(wizard);
+        QVERIFY(!wizard.isVisible());
+    });
+    QCOMPARE(program.User.ToldTexts(),
+             std::vector<std::string>{"2 flosses share their symbol with another one"});
+    program.Design().SetChanged(false);
+    program.End();
+}
+
+} // namespace zol::test
+
+QTEST_MAIN(zol::test::ImportInWindowTest)
+#include "test_ImportInWindow.moc"

@@ -1,0 +1,346 @@
+// SPDX-FileCopyrightText: 2026 Korvanta contributors
+// SPDX-License-Identifier: MIT
+
+#include <gtest/gtest.h>
+
+#include <QButtonGroup>
+#include <QClipboard>
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <filesystem>
+#include <fstream>
+
+#include "import/Imaging.h"
+#include "import/PictureFiles.h"
+#include "import/SamplePictures.h"
+#include "import/windows/DeskKit.h"
+#include "import/windows/PictureView.h"
+#include "import/windows/SourceScreen.h"
+#include "support/DialogHands.h"
+
+namespace zol::test {
+
+namespace fs = std::filesystem;
+
+/// Where the picture comes from, worked as a user does.
+class SourceScreenTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void NothingChosenIsToldAndTheFieldHasTheFocus();
+    void ATypedFileIsLoadedOnLeaving();
+    void BrowsingLoadsAndShowsAtOnce();
+    void BrowsingComesBackToTheSameFolder();
+    void ATypedNameTakesTheOldPictureAway();
+    void WhatCannotBeDecodedIsToldByNumberAndText_data();
+    void WhatCannotBeDecodedIsToldByNumberAndText();
+    void OddPicturesArrive_data();
+    void OddPicturesArrive();
+    void TheClipboardIsPasted();
+    void AnEmptyClipboardIsTold();
+    void EachOptionEmptiesPreviewAndName();
+    void TheLastImageIsOfferedOnceThereIsOne();
+    void FieldsOfOtherSourcesAreOff();
+
+private:
+    struct Shown {
+        explicit Shown(DeskKit& kit) : Screen(kit.Desk, nullptr) {
+            Screen.resize(800, 500);
+            Screen.DisplayScreen(false);
+            Screen.show();
+            (void)QTest::qWaitForWindowActive(&Screen);
+        }
+        [[nodiscard]] SharedPicture Picture() {
+            return PartOf<PictureView>(Screen, "LPicPreview").Shown();
+        }
+        [[nodiscard]] QString Name() { return PartOf<QLineEdit>(Screen, "txtFileName").text(); }
+        SourceScreen Screen;
+    };
+
+    [[nodiscard]] fs::path Write(const std::string& name, const std::vector<std::uint8_t>& bytes) {
+        const fs::path file = fs::path(m_folder->path().toStdString()) / name;
+        std::ofstream stream(file, std::ios::binary);
+        stream.write(reinterpret_cast<const char*>(bytes.data()),
+                     static_cast<std::streamsize>(bytes.size()));
+        return file;
+    }
+    [[nodiscard]] fs::path LastImport() const {
+        return fs::path(m_folder->path().toStdString()) / PictureFiles::LastImportName;
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+namespace {
+
+vips::VImage Plain(int width, int height, Colour colour) {
+    return VipsPicture(width, height, [colour](int, int) { return colour; });
+}
+
+const Colour Brick = MakeColour(189, 57, 33); // one that 16 bits a pixel can hold
+
+} // namespace
+
+void SourceScreenTest::init() {
+    qunsetenv("TMPDIR"); // else the new one would lie in the old one
+    m_folder = std::make_unique<QTemporaryDir>();
+    qputenv("TMPDIR", m_folder->path().toUtf8());
+    QGuiApplication::clipboard()->clear();
+}
+
+void SourceScreenTest::NothingChosenIsToldAndTheFieldHasTheFocus() {
+    DeskKit kit;
+    Shown shown(kit);
+    QVERIFY(QTest::qWaitForWindowActive(&shown.Screen));
+    PartOf<QPushButton>(shown.Screen, "cmdBrowse").setFocus();
+    QVERIFY(!shown.Screen.ValidateScreen());
+    QCOMPARE(kit.User.ToldTexts(), std::vector<std::string>{"You must select an image to import"});
+    QVERIFY(PartOf<QLineEdit>(shown.Screen, "txtFileName").hasFocus());
+    QVERIFY(kit.Work.TheImage == nullptr);
+    QCOMPARE(shown.Screen.Instruction(),
+             QStringLiteral("Select from where you wish to get the image to import"));
+}
+
+void SourceScreenTest::ATypedFileIsLoadedOnLeaving() {
+    DeskKit kit;
+    Shown shown(kit);
+    const fs::path file = Write("a b.png", SavedAs(Plain(30, 20, Brick), ".png"));
+    TypeIn(shown.Screen, "txtFileName", QString::fromStdString(file.string()));
+    QVERIFY(shown.Picture() == nullptr);
+    QVERIFY(shown.Screen.ValidateScreen());
+    QVERIFY(kit.Work.TheImage != nullptr);
+    QCOMPARE(kit.Work.TheImage, shown.Picture());
+    QCOMPARE(kit.Work.TheImage->ImageWidth(), 30);
+    QCOMPARE(kit.Work.TheImage->ImagePixel(3, 3), Brick);
+    QCOMPARE(PartOf<QLabel>(shown.Screen, "lblImageInfo").text(), QStringLiteral("30 × 20 pixels"));
+    QVERIFY(kit.User.told.empty());
+    // Beside the window, whole or not at all.
+    QTRY_VERIFY(fs::exists(LastImport()));
+    QCOMPARE(LoadImage(LastImport()).Image.ImageWidth(), 30);
+}
+
+void SourceScreenTest::BrowsingLoadsAndShowsAtOnce() {
+    DeskKit kit;
+    Shown shown(kit);
+    const fs::path file = Write("photo.jpg", SavedAs(Plain(40, 10, Brick), ".jpg[Q=98]"));
+    kit.User.files = {file};
+    ClickIn(shown.Screen, "cmdBrowse");
+    QTRY_VERIFY(shown.Picture() != nullptr);
+    QCOMPARE(shown.Picture()->ImageHeight(), 10);
+    QCOMPARE(shown.Name(), QString::fromStdString(file.string()));
+    const FileChoice& asked = kit.User.openDialogs.at(0);
+    QVERIFY(asked.Filter.find("*.heic") != std::string::npos);
+    RecordingProgress progress;
+    const FilePreview preview = asked.Preview(file, progress);
+    QCOMPARE(preview.Width, 40);
+    QCOMPARE(preview.Pixels.size(), std::size_t{400});
+    QCOMPARE(preview.Words, std::string("40 × 10 pixels"));
+    QVERIFY(asked.Preview(m_folder->path().toStdString(), progress).Pixels.empty());
+    // Cancelled: everything as it was.
+    kit.User.files = {std::nullopt};
+    ClickIn(shown.Screen, "cmdBrowse");
+    QVERIFY(shown.Picture() != nullptr);
+}
+
+void SourceScreenTest::BrowsingComesBackToTheSameFolder() {
+    DeskKit kit;
+    {
+        Shown shown(kit);
+        kit.User.files = {Write("a.png", SavedAs(Plain(3, 3, Brick), ".png"))};
+        ClickIn(shown.Screen, "cmdBrowse");
+    }
+    Shown again(kit);
+    kit.User.files = {std::nullopt};
+    ClickIn(again.Screen, "cmdBrowse");
+    QCOMPARE(kit.User.openDialogs.back().Folder, fs::path(m_folder->path().toStdString()));
+}
+
+void SourceScreenTest::ATypedNameTakesTheOldPictureAway() {
+    DeskKit kit;
+    Shown shown(kit);
+    shown.Screen.TakeFile(Write("a.png", SavedAs(Plain(3, 3, Brick), ".png")));
+    QTRY_VERIFY(shown.Picture() != nullptr);
+    TypeIn(shown.Screen, "txtFileName",
+           QString::fromStdString(Write("b.png", SavedAs(Plain(5, 5, Brick), ".png")).string()));
+    QVERIFY(shown.Picture() == nullptr);
+    QVERIFY(shown.Screen.ValidateScreen());
+    QCOMPARE(kit.Work.TheImage->ImageWidth(), 5);
+}
+
+void SourceScreenTest::WhatCannotBeDecodedIsToldByNumberAndText_data() {
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("told");
+    const auto cut = [](std::vector<std::uint8_t> bytes, std::size_t size) {
+        return QByteArray(reinterpret_cast<const char*>(bytes.data()),
+                          static_cast<qsizetype>(size));
+    };
+    const auto png = SavedAs(
+        VipsPicture(64, 64, [](int x, int y) { return MakeColour(unsigned(x * y) % 251U, 3, 9); }),
+        ".png");
+    QTest::newRow("empty") << QByteArray() << QStringLiteral("Error ");
+    QTest::newRow("text") << QByteArray("This is no picture at all.")
+                          << QStringLiteral("Error 321: ");
+    QTest::newRow("cut") << cut(png, png.size() / 2) << QStringLiteral("Error 57: ");
+    // 100 000 by 100 000 pixels, by its header.
+    QByteArray huge("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\x01\x86\xa0\0\x01\x86\xa0\x08\x02\0\0\0", 29);
+    huge += QByteArray::fromHex("9ff0fdb1");
+    huge += cut(png, png.size()).mid(33);
+    QTest::newRow("enormous") << huge << QStringLiteral("Error ");
+}
+
+void SourceScreenTest::WhatCannotBeDecodedIsToldByNumberAndText() {
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, told);
+    DeskKit kit;
+    Shown shown(kit);
+    const fs::path file = Write("bad.png", {bytes.begin(), bytes.end()});
+    TypeIn(shown.Screen, "txtFileName", QString::fromStdString(file.string()));
+    QVERIFY(!shown.Screen.ValidateScreen());
+    QCOMPARE(kit.User.told.size(), std::size_t{1});
+    const auto text = QString::fromStdString(kit.User.told[0].text);
+    QVERIFY2(text.startsWith(told), qPrintable(text));
+    QVERIFY(text.size() > told.size() + 5);
+    QVERIFY(kit.User.told[0].more.find("bad.png") != std::string::npos);
+    QVERIFY(kit.Work.TheImage == nullptr);
+    QVERIFY(shown.Picture() == nullptr);
+    // The name stays to be mended.
+    QCOMPARE(shown.Name(), QString::fromStdString(file.string()));
+}
+
+void SourceScreenTest::OddPicturesArrive_data() {
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QSize>("size");
+    const auto row = [](const char* name, const std::vector<std::uint8_t>& bytes, QSize size) {
+        QTest::newRow(name) << QByteArray(reinterpret_cast<const char*>(bytes.data()),
+                                          static_cast<qsizetype>(bytes.size()))
+                            << size;
+    };
+    using vips::VImage;
+    row("one pixel", SavedAs(Plain(1, 1, Brick), ".png"), {1, 1});
+    row("16 bits a channel",
+        SavedAs((Plain(9, 7, Brick).cast(VIPS_FORMAT_USHORT) * 257)
+                    .cast(VIPS_FORMAT_USHORT)
+                    .copy(VImage::option()->set("interpretation", VIPS_INTERPRETATION_RGB16)),
+                ".png"),
+        {9, 7});
+    row("alpha", SavedAs(Plain(9, 7, Brick).bandjoin(255), ".png"), {9, 7});
+    row("rotated", SavedLying(Plain(9, 7, Brick), 6, ".jpg"), {9, 7});
+    // Two pages of 9 by 7, one below the other.
+    VImage pages = Plain(9, 14, Brick).copy_memory();
+    pages.set(VIPS_META_PAGE_HEIGHT, 7);
+    row("animated", SavedAs(pages, ".gif"), {9, 7});
+    // No ink but black: 0 of each.
+    const VImage cmyk =
+        VipsPicture(9, 7, [](int, int) { return Colour{0}; })
+            .bandjoin(0)
+            .copy(VImage::option()->set("interpretation", VIPS_INTERPRETATION_CMYK));
+    row("CMYK", SavedAs(cmyk, ".tif"), {9, 7});
+}
+
+void SourceScreenTest::OddPicturesArrive() {
+    QFETCH(QByteArray, bytes);
+    QFETCH(QSize, size);
+    DeskKit kit;
+    Shown shown(kit);
+    shown.Screen.TakeFile(Write("odd", {bytes.begin(), bytes.end()}));
+    QVERIFY(shown.Screen.ValidateScreen());
+    QVERIFY(kit.User.told.empty());
+    QCOMPARE(QSize(kit.Work.TheImage->ImageWidth(), kit.Work.TheImage->ImageHeight()), size);
+}
+
+void SourceScreenTest::TheClipboardIsPasted() {
+    DeskKit kit;
+    Shown shown(kit);
+    QImage image(6, 4, QImage::Format_ARGB32);
+    image.fill(qRgb(189, 57, 33));
+    image.setPixel(0, 0, qRgba(9, 9, 9, 0));
+    QGuiApplication::clipboard()->setImage(image);
+    ClickIn(shown.Screen, "optClipboard");
+    QVERIFY(shown.Picture() != nullptr);
+    QCOMPARE(shown.Picture()->ImagePixel(0, 0), TransparentPixel);
+    QCOMPARE(shown.Picture()->ImagePixel(1, 0), Brick);
+    // Another image by now: the same option takes it.
+    QGuiApplication::clipboard()->setImage(image.copy(0, 0, 2, 2));
+    ClickIn(shown.Screen, "optClipboard");
+    QCOMPARE(shown.Picture()->ImageWidth(), 2);
+    QVERIFY(shown.Screen.ValidateScreen());
+    QCOMPARE(kit.Work.TheImage->ImageWidth(), 2);
+}
+
+void SourceScreenTest::AnEmptyClipboardIsTold() {
+    DeskKit kit;
+    Shown shown(kit);
+    ClickIn(shown.Screen, "optClipboard");
+    QCOMPARE(kit.User.ToldTexts(), std::vector<std::string>{"There is no image on the clipboard."});
+    QVERIFY(shown.Picture() == nullptr);
+}
+
+void SourceScreenTest::EachOptionEmptiesPreviewAndName() {
+    DeskKit kit;
+    const fs::path file = Write("a.png", SavedAs(Plain(3, 3, Brick), ".png"));
+    (void)Write("LastImport.jpg", SavedAs(Plain(7, 7, Brick), ".jpg"));
+    for (const char* option : {"optFile", "optClipboard", "optScan", "optLastImage"}) {
+        Shown shown(kit);
+        shown.Screen.TakeFile(file);
+        QTRY_VERIFY(shown.Picture() != nullptr);
+        ClickIn(shown.Screen, option);
+        QVERIFY2(shown.Picture() == nullptr, option);
+        QVERIFY2(shown.Name().isEmpty(), option);
+    }
+}
+
+void SourceScreenTest::TheLastImageIsOfferedOnceThereIsOne() {
+    DeskKit kit;
+    {
+        Shown first(kit);
+        QVERIFY(!PartOf<QRadioButton>(first.Screen, "optLastImage").isEnabled());
+        first.Screen.TakeFile(Write("a.png", SavedAs(Plain(11, 3, Brick), ".png")));
+        QVERIFY(first.Screen.ValidateScreen());
+        QTRY_VERIFY(fs::exists(LastImport()));
+    }
+    DeskKit next;
+    Shown shown(next);
+    QVERIFY(PartOf<QRadioButton>(shown.Screen, "optLastImage").isEnabled());
+    ClickIn(shown.Screen, "optLastImage");
+    QTRY_VERIFY(shown.Picture() != nullptr);
+    QCOMPARE(shown.Picture()->ImageWidth(), 11);
+    // It is there already, and is not saved once more.
+    const auto saved = fs::last_write_time(LastImport());
+    QVERIFY(shown.Screen.ValidateScreen());
+    QCOMPARE(fs::last_write_time(LastImport()), saved);
+    (void)Write("LastImport.jpg", {1, 2, 3});
+    DeskKit damaged;
+    Shown without(damaged);
+    QVERIFY(!PartOf<QRadioButton>(without.Screen, "optLastImage").isEnabled());
+}
+
+void SourceScreenTest::FieldsOfOtherSourcesAreOff() {
+    DeskKit kit;
+    Shown shown(kit);
+    const auto enabled = [&shown](const char* name) {
+        return PartOf<QWidget>(shown.Screen, name).isEnabled();
+    };
+    QVERIFY(enabled("txtFileName") && enabled("cmdBrowse"));
+    QVERIFY(!enabled("cmbScanSource") && !enabled("cmdAcquire"));
+    ClickIn(shown.Screen, "optScan");
+    QVERIFY(!enabled("txtFileName") && !enabled("cmdBrowse"));
+    // The keyboard chooses as the mouse does.
+    PartOf<QRadioButton>(shown.Screen, "optScan").setFocus();
+    QTest::keyClick(&PartOf<QRadioButton>(shown.Screen, "optScan"), Qt::Key_Up);
+    QVERIFY(PartOf<QRadioButton>(shown.Screen, "optClipboard").isChecked());
+    QCOMPARE(kit.User.told.size(), std::size_t{1});
+}
+
+} // namespace zol::test
+
+QTEST_MAIN(zol::test::SourceScreenTest)
+#include "test_SourceScreen.moc"
