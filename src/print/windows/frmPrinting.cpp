@@ -5,7 +5,6 @@
 
 #include <QGuiApplication>
 #include <QPushButton>
-#include <QTimer>
 
 #include <utility>
 
@@ -19,6 +18,8 @@ frmPrinting::frmPrinting(QWidget* parent)
       m_ui(std::make_unique<Ui::frmPrinting>()) {
     m_ui->setupUi(this);
     setModal(true);
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &frmPrinting::Begin);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &frmPrinting::reject);
 }
 
@@ -29,7 +30,7 @@ void frmPrinting::Run(Work work) {
     m_cancelled = false;
     m_fault = nullptr;
     m_ui->cmdCancel->setEnabled(true);
-    QTimer::singleShot(0, this, &frmPrinting::Begin);
+    m_timer.start(0);
     exec();
     if (m_fault != nullptr) {
         std::rethrow_exception(std::exchange(m_fault, nullptr));

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QTimer>
 
 #include <exception>
 #include <functional>
@@ -46,6 +47,7 @@ private:
     void Begin();
 
     std::unique_ptr<Ui::frmPrinting> m_ui;
+    QTimer m_timer; ///< its only tick begins the work
     Work m_work;
     std::exception_ptr m_fault;
     bool m_cancelled = false;
