@@ -89,7 +89,7 @@ std::optional<SquareRect> ImportCommands::EditBoxInDesign() const {
 
 ImportStatus ImportCommands::CreateThePattern(ImportWork& work) {
     std::optional<UndoStep> step;
-    const ImportStatus status = work.Session.CreateThePattern(
+    ImportStatus status = work.Session.CreateThePattern(
         m_workshop.Open.Design(), work.MaxColors, work.Size.ClothCountX, work.Size.ClothCountY,
         [this, &step] {
             m_followers.EndTool();
