@@ -33,6 +33,11 @@ public:
         const std::lock_guard lock(m_mutex);
         return m_looks;
     }
+    /// Whether a call is under way that is held.
+    [[nodiscard]] bool IsWaiting() const {
+        const std::lock_guard lock(m_mutex);
+        return m_waiting;
+    }
     [[nodiscard]] bool IsCancelled() const {
         const std::lock_guard lock(m_mutex);
         return m_cancelled;
@@ -102,8 +107,10 @@ private:
     bool Wait(ScanWatcher& watcher) {
         std::unique_lock lock(m_mutex);
         while (m_held && watcher.MayGoOn()) {
+            m_waiting = true;
             m_changed.wait_for(lock, std::chrono::milliseconds(5));
         }
+        m_waiting = false;
         m_cancelled = !watcher.MayGoOn();
         return !m_cancelled;
     }
@@ -113,6 +120,7 @@ private:
     std::vector<ScanRequest> m_requests;
     int m_looks = 0;
     bool m_held = false;
+    bool m_waiting = false;
     bool m_cancelled = false;
 };
 

@@ -343,6 +343,8 @@ void test_frmAcquire::saysThatTheScannerIsGone() {
 void test_frmAcquire::closesWhileTheScannerIsAsked() {
     m_scanner->Hold();
     Open();
+    // A question that was not put yet is not put any more.
+    QTRY_VERIFY(m_scanner->IsWaiting());
     ClickIn(*m_window, "cmdCancel");
     QVERIFY(!m_window->isVisible());
     m_window.reset();
