@@ -147,13 +147,14 @@ void SizeScreen::Follow(const QWidget* typedIn) {
 
 void SizeScreen::ShowFields(const QWidget* typedIn) {
     m_showing = true;
-    if (typedIn != m_ui->txtWidth) {
+    const auto isFree = [typedIn](const QWidget& field) { return typedIn != &field; };
+    if (isFree(*m_ui->txtWidth)) {
         m_ui->txtWidth->setText(FieldText(m_fields.FieldText(m_fields.Width())));
     }
-    if (typedIn != m_ui->txtHeight) {
+    if (isFree(*m_ui->txtHeight)) {
         m_ui->txtHeight->setText(FieldText(m_fields.FieldText(m_fields.Height())));
     }
-    if (typedIn != m_ui->cmbClothCount) {
+    if (isFree(*m_ui->cmbClothCount)) {
         m_ui->cmbClothCount->setCurrentText(QString::number(m_fields.Size().ClothCountX));
     }
     m_showing = false;

@@ -24,11 +24,6 @@ public:
     /// Checks the screen's fields and hands its work on. False: the user has been told what is
     /// wrong, the field at fault has the focus, and nothing was handed on.
     [[nodiscard]] virtual bool ValidateScreen() = 0;
-
-Q_SIGNALS:
-    /// Work in the background began that the next screen needs, or ended: meanwhile the wizard
-    /// offers neither Next nor Back.
-    void BusyChanged(bool busy);
 };
 
 } // namespace zol

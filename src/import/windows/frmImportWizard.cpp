@@ -48,6 +48,11 @@ frmImportWizard::frmImportWizard(const Outside& outside, std::optional<SquareRec
     connect(m_ui->cmdNext, &QPushButton::clicked, this, &frmImportWizard::GoOn);
     connect(m_ui->cmdBack, &QPushButton::clicked, this, &frmImportWizard::GoBack);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &frmImportWizard::reject);
+    // The program that the file comes from waits until the drop returns, and a message may follow.
+    connect(
+        this, &frmImportWizard::FileDropped, this,
+        [this](const QString& file) { TakeFile(PathOf(file.toStdString())); },
+        Qt::QueuedConnection);
     DisplayScreen(m_flow.CurrentScreen(), false);
     Spell(*this, m_desk.Context);
     RememberSize(*this, m_desk.Store);
@@ -73,7 +78,6 @@ void frmImportWizard::AddScreens() {
                  new MappingScreen(m_desk, this)};
     for (WizardScreen* screen : m_screens) {
         m_ui->fraWiz->addWidget(screen);
-        connect(screen, &WizardScreen::BusyChanged, this, &frmImportWizard::HoldButtons);
     }
 }
 
@@ -167,15 +171,7 @@ void frmImportWizard::dragEnterEvent(QDragEnterEvent* event) {
 void frmImportWizard::dropEvent(QDropEvent* event) {
     event->setDropAction(Qt::CopyAction);
     event->accept();
-    // The program that the file comes from waits until the drop returns, and a message may follow.
-    const QString file = event->mimeData()->urls().first().toLocalFile();
-    QMetaObject::invokeMethod(
-        this, [this, file] { TakeFile(PathOf(file.toStdString())); }, Qt::QueuedConnection);
-}
-
-void frmImportWizard::HoldButtons(bool busy) {
-    m_ui->cmdNext->setEnabled(!busy);
-    m_ui->cmdBack->setEnabled(!busy && m_flow.CanGoBack());
+    Q_EMIT FileDropped(event->mimeData()->urls().first().toLocalFile());
 }
 
 } // namespace zol

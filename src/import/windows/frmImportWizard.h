@@ -58,6 +58,10 @@ public:
     /// Only on the first screen: a file as the source.
     void TakeFile(const std::filesystem::path& file);
 
+Q_SIGNALS:
+    /// A file was dropped onto the first screen.
+    void FileDropped(const QString& file);
+
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -72,7 +76,6 @@ private:
     void GoOn();
     void GoBack();
     void Finish();
-    void HoldButtons(bool busy);
     void ShowReplaceNote();
 
     Outside m_outside;
