@@ -248,7 +248,7 @@ void PictureToChartTest::SavePdf() {
     Pattern& design = m_program->Design();
     PrintOptions options = PrintOptionsOf(m_program->Parts().Settings);
     options.GSPI = 7;
-    Paper paper(QPageSize(QPageSize::A4));
+    Paper paper{QPageSize(QPageSize::A4)};
     PrintFuncs job(options, &paper);
     job.SetPattern(design);
     QVERIFY(job.GetPageCount() > 1);

@@ -27,7 +27,7 @@ public:
 
     /// `settings` over the device's own: black pictures in gray of 8 bits, 50 dots an inch, an area
     /// of 80 by 100 of 200 by 200 millimetres.
-    explicit SaneTestDevice(Settings settings = {}) {
+    SaneTestDevice(Settings settings = {}) {
         std::map<std::string, std::string> all{{"number_of_devices", "1"},
                                                {"mode", "Gray"},
                                                {"depth", "8"},

@@ -67,7 +67,7 @@ private:
     };
 
     [[nodiscard]] fs::path Write(const std::string& name, const std::vector<std::uint8_t>& bytes) {
-        const fs::path file = fs::path(m_folder->path().toStdString()) / name;
+        fs::path file = fs::path(m_folder->path().toStdString()) / name;
         std::ofstream stream(file, std::ios::binary);
         stream.write(reinterpret_cast<const char*>(bytes.data()),
                      static_cast<std::streamsize>(bytes.size()));

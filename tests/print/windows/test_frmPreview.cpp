@@ -135,8 +135,9 @@ void PreviewTest::init() {
     printers.device.printed.clear();
     m_store = std::make_unique<INIFuncs>(File("settings.ini"));
     m_open = std::make_unique<DesignHolder>(std::make_unique<PlainDesign>(MakeDesign(context)));
-    m_desk.reset(new PrintDesk{*m_open, context, settings, *m_store, user, user, printers, gspi,
-                               [] { return std::optional<SelectedArea>(); }, [](QWidget*) {}});
+    m_desk = std::make_unique<PrintDesk>(
+        PrintDesk{*m_open, context, settings, *m_store, user, user, printers, gspi,
+                  [] { return std::optional<SelectedArea>(); }, [](QWidget*) {}});
     m_job = std::make_unique<PrintFuncs>(PrintOptions(), &printers.device);
     m_job->SetPattern(m_open->Design());
     m_job->CountKeyPages();
