@@ -59,7 +59,12 @@ frmPreview::frmPreview(PrintDesk& desk, PrintFuncs& job, QWidget* parent)
     m_ui->Picture2->setFocus();
 }
 
-frmPreview::~frmPreview() = default;
+frmPreview::~frmPreview() {
+    // A field that loses the focus when the window goes would call what is no longer there.
+    m_ui->txtPage->disconnect(this);
+    m_ui->cmbZoom->disconnect(this);
+    m_ui->cmbZoom->lineEdit()->disconnect(this);
+}
 
 void frmPreview::ConnectControls() {
     connect(m_ui->cmdPrevious, &QPushButton::clicked, this, [this] { ShowPage(m_page - 1); });
