@@ -14,6 +14,8 @@
 
 #include "app/Arguments.h"
 #include "app/basMain.h"
+#include "import/scan/SaneScanner.h"
+#include "print/windows/SystemPrinter.h"
 #include "windowkit/IconFamily.h"
 #include "windowkit/QtUserDoor.h"
 #include "windowkit/Theme.h"
@@ -71,6 +73,8 @@ int main(int argc, char** argv) {
     QApplication::setWindowIcon(zol::IconFamily::ProgramIcon());
     zol::Theme::Apply(app);
     zol::QtUserDoor user;
-    zol::basMain program(arguments, {user, user});
+    zol::SystemPrinter printers;
+    zol::SaneScanner scanners;
+    zol::basMain program(arguments, {user, user, printers, scanners});
     Leave(program.Start() && watch.Wait());
 }

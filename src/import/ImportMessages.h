@@ -15,6 +15,9 @@ namespace ImportMessages {
 
 inline constexpr int MaxImportColors = 200;
 
+/// Of the wizard, and of all that it says.
+inline constexpr char Title[] = "Import Wizard";
+
 inline constexpr std::string_view NoImage = "You must select an image to import";
 inline constexpr std::string_view WidthTooSmall = "Pattern width must be greater than zero";
 inline constexpr std::string_view HeightTooSmall = "Pattern height must be greater than zero";

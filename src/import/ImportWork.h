@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <cstdlib>
 #include <optional>
 
 #include "import/ImportSession.h"
@@ -25,6 +26,14 @@ struct ImportWork {
     bool UseEditBox = false;
     /// The edit box of the design when the wizard was opened, in squares from 1; nothing without.
     std::optional<SquareRect> EditBox;
+    /// Its size in squares.
+    [[nodiscard]] std::optional<StitchSize> EditBoxSize() const {
+        if (!EditBox) {
+            return std::nullopt;
+        }
+        return StitchSize{std::abs(EditBox->Right - EditBox->Left) + 1,
+                          std::abs(EditBox->Bottom - EditBox->Top) + 1};
+    }
     /// Of the mapping screen, once it has been left forward.
     int MaxColors = 30;
     /// Candidates, preview, result.

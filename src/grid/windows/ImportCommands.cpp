@@ -15,12 +15,6 @@
 
 namespace zol {
 
-namespace {
-
-constexpr const char* Title = "Import Wizard";
-
-} // namespace
-
 ImportCommands::ImportCommands(MainCommands& commands, const Workshop& workshop,
                                const DrawModes& modes, QWidget& window, Followers followers)
     : m_workshop(workshop),
@@ -41,7 +35,7 @@ void ImportCommands::Import() {
     const bool resume =
         CanResume() &&
         m_workshop.Messages.Ask("Would you like to resume the last Import?", MessageIcon::Question,
-                                MessageButtons::YesNo, Title) == MessageAnswer::Yes;
+                                MessageButtons::YesNo, ImportMessages::Title) == MessageAnswer::Yes;
     if (resume) {
         m_wizard->Resume();
     } else {
@@ -110,7 +104,7 @@ void ImportCommands::TellResult() {
     if (m_figures.FlossesSharingSymbol > 0) {
         m_workshop.Messages.TellMore(ImportMessages::SharedSymbols(m_figures.FlossesSharingSymbol),
                                      "The palette editor gives a floss another symbol.",
-                                     MessageIcon::Information, Title);
+                                     MessageIcon::Information, ImportMessages::Title);
     }
 }
 

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "grid/painting/PaintColors.h"
+#include "import/ImportMessages.h"
 #include "import/windows/WizardProgress.h"
 #include "import/windows/WizardStatus.h"
 #include "import/windows/ui_ColorScreen.h"
@@ -55,7 +56,7 @@ void ColorScreen::ConnectControls() {
     connect(m_ui->cmdResetColor, &QPushButton::clicked, this, &ColorScreen::ResetColor);
     connect(&m_job, &LatestJob::Failed, this, [this](const QString& text) {
         StartAgain();
-        m_desk.Messages.Tell(text.toStdString(), MessageIcon::Exclamation, "Import Wizard");
+        m_desk.Messages.Tell(text.toStdString(), MessageIcon::Exclamation, ImportMessages::Title);
     });
 }
 

@@ -27,7 +27,6 @@ namespace zol {
 
 namespace {
 
-constexpr const char* Title = "Import Wizard";
 /// Somebody who types a number is given the time for its next figure.
 constexpr std::chrono::milliseconds TypingPause{300};
 /// Larger pictures are previewed by the button alone.
@@ -116,11 +115,9 @@ void MappingScreen::TakeImage() {
     } else {
         work.Session.UseWholePattern();
     }
-    // At 100 percent a stitch is as large as it will be on the cloth.
-    const QSizeF stitch(double(logicalDpiX()) / std::max(1, work.Size.ClothCountX),
-                        double(logicalDpiY()) / std::max(1, work.Size.ClothCountY));
-    m_ui->lpicMappedImage->SetBaseScale(stitch);
-    m_ui->lpicPreviewPattern->SetBaseScale(stitch);
+    for (PictureView* view : {m_ui->lpicMappedImage, m_ui->lpicPreviewPattern}) {
+        view->SetRealSize(work.Size.ClothCountX, work.Size.ClothCountY);
+    }
     m_ui->lpicMappedImage->ShowPicture(work.TheImage);
     m_ui->zoomBox->SetZoom(100);
 }
@@ -264,7 +261,7 @@ void MappingScreen::ShowPreview() {
 }
 
 void MappingScreen::Warn(const std::string& text) {
-    m_desk.Messages.Tell(text, MessageIcon::Exclamation, Title);
+    m_desk.Messages.Tell(text, MessageIcon::Exclamation, ImportMessages::Title);
 }
 
 } // namespace zol

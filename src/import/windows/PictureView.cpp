@@ -117,6 +117,11 @@ void PictureView::SetBaseScale(QSizeF scale) {
     }
 }
 
+void PictureView::SetRealSize(int clothCountX, int clothCountY) {
+    SetBaseScale({static_cast<double>(logicalDpiX()) / std::max(1, clothCountX),
+                  static_cast<double>(logicalDpiY()) / std::max(1, clothCountY)});
+}
+
 QPointF PictureView::InPicture(QPointF viewportPlace) const {
     return m_place.IsEmpty() ? QPointF()
                              : m_place.InPicture(DevicePixels::At(*viewport(), viewportPlace));

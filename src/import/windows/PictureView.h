@@ -64,8 +64,10 @@ public:
     /// The percentage that is shown, also when it comes from fitting.
     [[nodiscard]] double Zoom() const;
     /// Pixels of the window that a pixel of the picture takes at 100 percent, each way; 1 by 1
-    /// unless set. At real size: the size of a stitch.
+    /// unless set.
     void SetBaseScale(QSizeF scale);
+    /// At 100 percent a pixel is as large as a stitch on that cloth, in squares to the inch.
+    void SetRealSize(int clothCountX, int clothCountY);
 
     /// Where the picture lies now.
     [[nodiscard]] const PicturePlace& Place() const { return m_place; }

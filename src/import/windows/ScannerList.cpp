@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <string>
 
+#include "import/ImportMessages.h"
 #include "import/windows/ScanJob.h"
 #include "import/windows/frmAcquire.h"
 #include "model/Doors.h"
@@ -71,7 +72,7 @@ void ScannerList::Show(const SourcesFound& found) {
     m_acquire.setEnabled(Chosen().has_value());
     if (failed) {
         m_outside.Messages.TellMore(found.Problem.Text, found.Problem.More,
-                                    MessageIcon::Exclamation, "Import Wizard");
+                                    MessageIcon::Exclamation, ImportMessages::Title);
     }
 }
 

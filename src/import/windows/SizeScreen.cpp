@@ -3,7 +3,6 @@
 
 #include "import/windows/SizeScreen.h"
 
-#include <cstdlib>
 #include <utility>
 
 #include "import/ImportMessages.h"
@@ -23,20 +22,11 @@ namespace {
 using basCommonFunctions::FieldText;
 using basCommonFunctions::FieldValue;
 
-constexpr const char* Title = "Import Wizard";
 constexpr int SizeFigures = 5;
 constexpr int LengthPlaces = 3;
 constexpr int ClothFigures = 3;
 constexpr int FirstListedCount = 10;
 constexpr int LastListedCount = 24;
-
-std::optional<StitchSize> SizeOf(const std::optional<SquareRect>& editBox) {
-    if (!editBox) {
-        return std::nullopt;
-    }
-    return StitchSize{std::abs(editBox->Right - editBox->Left) + 1,
-                      std::abs(editBox->Bottom - editBox->Top) + 1};
-}
 
 QString Labelled(const char* label, int number, const char* behind = "") {
     return QLatin1String(label) + QString::number(number) + QLatin1String(behind);
@@ -55,7 +45,7 @@ SizeScreen::SizeScreen(ImportDesk& desk, QWidget* parent)
     m_status = new WizardStatus(this);
     m_status->Follow(m_job, QString::fromUtf8(ImportMessages::ResizingPicture.data()));
     connect(&m_job, &LatestJob::Failed, this, [this](const QString& text) {
-        m_desk.Messages.Tell(text.toStdString(), MessageIcon::Exclamation, Title);
+        m_desk.Messages.Tell(text.toStdString(), MessageIcon::Exclamation, ImportMessages::Title);
     });
     SetUpFields();
     ConnectFields();
@@ -75,8 +65,8 @@ void SizeScreen::SetUpFields() {
     for (int count = FirstListedCount; count <= LastListedCount; count += 2) {
         m_ui->cmbClothCount->addItem(QString::number(count));
     }
-    m_fields.SetEditBox(SizeOf(m_desk.Work.EditBox));
-    const auto editBox = SizeOf(m_desk.Work.EditBox);
+    const auto editBox = m_desk.Work.EditBoxSize();
+    m_fields.SetEditBox(editBox);
     m_ui->chkUseEditBox->setEnabled(editBox.has_value());
     m_ui->lblEditBoxWidth->setVisible(editBox.has_value());
     m_ui->lblEditBoxHeight->setVisible(editBox.has_value());
@@ -198,7 +188,8 @@ void SizeScreen::ResizeImage() {
 
 void SizeScreen::TakeResized(ImagingResult& result) {
     if (!result.IsGood()) {
-        m_desk.Messages.Tell(PictureFiles::LoadFailure(result), MessageIcon::Exclamation, Title);
+        m_desk.Messages.Tell(PictureFiles::LoadFailure(result), MessageIcon::Exclamation,
+                             ImportMessages::Title);
         return;
     }
     m_resized = std::make_shared<const Picture>(std::move(result.Image));
@@ -206,9 +197,7 @@ void SizeScreen::TakeResized(ImagingResult& result) {
 }
 
 void SizeScreen::ShowAtRealSize() {
-    const ImportSize& size = m_fields.Size();
-    m_ui->lpicResized->SetBaseScale({static_cast<double>(logicalDpiX()) / size.ClothCountX,
-                                     static_cast<double>(logicalDpiY()) / size.ClothCountY});
+    m_ui->lpicResized->SetRealSize(m_fields.Size().ClothCountX, m_fields.Size().ClothCountY);
 }
 
 bool SizeScreen::ValidateScreen() {
@@ -227,7 +216,8 @@ bool SizeScreen::ValidateScreen() {
 }
 
 void SizeScreen::TellFault(const SizeFields::Fault& fault) {
-    m_desk.Messages.TellMore(fault.Text, fault.More, MessageIcon::Exclamation, Title);
+    m_desk.Messages.TellMore(fault.Text, fault.More, MessageIcon::Exclamation,
+                             ImportMessages::Title);
     switch (fault.Where) {
     case SizeFields::Field::Width:
         m_ui->txtWidth->setFocus();

@@ -29,7 +29,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* Title = "Import Wizard";
 constexpr const char* Section = "Import";
 constexpr const char* FolderName = "LastFolder";
 
@@ -128,7 +127,8 @@ bool SourceScreen::ValidateScreen() {
         }
     }
     if (!HasPicture()) {
-        m_desk.Messages.Tell(std::string(ImportMessages::NoImage), MessageIcon::Exclamation, Title);
+        m_desk.Messages.Tell(std::string(ImportMessages::NoImage), MessageIcon::Exclamation,
+                             ImportMessages::Title);
         if (m_ui->txtFileName->isEnabled()) {
             m_ui->txtFileName->setFocus();
         }
@@ -199,7 +199,7 @@ void SourceScreen::PasteImage() {
         m_desk.Messages.TellMore("There is no image on the clipboard.",
                                  "Copy an image in another program, then choose the clipboard "
                                  "again.",
-                                 MessageIcon::Exclamation, Title);
+                                 MessageIcon::Exclamation, ImportMessages::Title);
         return;
     }
     TakePicture(PictureOf(image));
@@ -236,7 +236,7 @@ void SourceScreen::TellFailure(const ImagingResult& result) {
     m_desk.Messages.TellMore(PictureFiles::LoadFailure(result),
                              PathText(m_loading) + "\nChoose another picture; the design is as "
                                                    "it was.",
-                             MessageIcon::Exclamation, Title);
+                             MessageIcon::Exclamation, ImportMessages::Title);
     if (m_ui->txtFileName->isEnabled()) {
         m_ui->txtFileName->setFocus();
         m_ui->txtFileName->selectAll();

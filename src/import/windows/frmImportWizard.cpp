@@ -9,6 +9,7 @@
 
 #include <string>
 
+#include "import/ImportMessages.h"
 #include "import/windows/ColorScreen.h"
 #include "import/windows/CropScreen.h"
 #include "import/windows/EraseScreen.h"
@@ -25,12 +26,6 @@
 #include "windowkit/Spelling.h"
 
 namespace zol {
-
-namespace {
-
-constexpr const char* Title = "Import Wizard";
-
-} // namespace
 
 frmImportWizard::frmImportWizard(const Outside& outside, std::optional<SquareRect> editBox,
                                  QWidget* parent)
@@ -136,7 +131,7 @@ void frmImportWizard::Finish() {
         break;
     case ImportStatus::Outcome::Invalid:
     case ImportStatus::Outcome::Failed:
-        m_desk.Messages.Tell(status.Message, MessageIcon::Exclamation, Title);
+        m_desk.Messages.Tell(status.Message, MessageIcon::Exclamation, ImportMessages::Title);
         break;
     }
 }

@@ -5,11 +5,10 @@
 
 #include <QFocusEvent>
 
-#include <utility>
-
 #include "settings/Margins.h"
 #include "settings/basCommonFunctions.h"
 #include "windowkit/NumericFilter.h"
+#include "windowkit/SelectOnFocus.h"
 
 namespace zol {
 
@@ -22,20 +21,7 @@ constexpr int FiguresBehind = 2;
 
 MarginField::MarginField(QWidget* parent) : QLineEdit(parent) {
     new NumericFilter(this, FiguresBefore, FiguresBehind);
-}
-
-void MarginField::focusInEvent(QFocusEvent* event) {
-    QLineEdit::focusInEvent(event);
-    selectAll();
-    m_clickedInto = event->reason() == Qt::MouseFocusReason;
-}
-
-void MarginField::mousePressEvent(QMouseEvent* event) {
-    QLineEdit::mousePressEvent(event);
-    // The click that brought the focus has placed the cursor.
-    if (std::exchange(m_clickedInto, false)) {
-        selectAll();
-    }
+    new SelectOnFocus(this);
 }
 
 void MarginField::focusOutEvent(QFocusEvent* event) {

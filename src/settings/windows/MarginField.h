@@ -16,12 +16,7 @@ public:
     explicit MarginField(QWidget* parent = nullptr);
 
 protected:
-    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-
-private:
-    bool m_clickedInto = false; ///< a click brings the focus and is not handled yet
 };
 
 } // namespace zol
