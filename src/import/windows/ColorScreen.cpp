@@ -10,8 +10,8 @@
 #include "grid/painting/PaintColors.h"
 #include "import/ImportMessages.h"
 #include "import/windows/WizardProgress.h"
-#include "import/windows/WizardStatus.h"
 #include "import/windows/ui_ColorScreen.h"
+#include "windowkit/JobStatus.h"
 #include "windowkit/Spelling.h"
 
 namespace zol {
@@ -28,9 +28,9 @@ ColorScreen::ColorScreen(ImportDesk& desk, QWidget* parent)
     Spell(*this, m_desk.Context);
     SetUpViews();
     ConnectControls();
-    m_status = new WizardStatus(this);
+    m_status = new JobStatus(this);
     m_status->Follow(m_job, Spelled(tr("Adjusting Colors"), m_desk.Context));
-    connect(m_status, &WizardStatus::CancelClicked, this, &ColorScreen::KeepShown);
+    connect(m_status, &JobStatus::CancelClicked, this, &ColorScreen::KeepShown);
     m_adjusting.Start(nullptr);
     StartAgain();
 }

@@ -17,7 +17,7 @@ class ColorScreen;
 
 namespace zol {
 
-class WizardStatus;
+class JobStatus;
 
 /// The screen that adjusts colors: the picture as it was last applied, and beside it what the
 /// slider makes of it, worked out beside the window.
@@ -52,7 +52,7 @@ private:
     std::unique_ptr<Ui::ColorScreen> m_ui;
     ColorAdjusting m_adjusting;
     int m_shownValue = 0; ///< of the slider, for what is shown as new
-    WizardStatus* m_status = nullptr;
+    JobStatus* m_status = nullptr;
     LatestJob m_job; ///< last, so that it ends before what it delivers to
 };
 

@@ -15,11 +15,11 @@
 #include "grid/painting/PaintColors.h"
 #include "import/ImportMessages.h"
 #include "import/windows/PreviewFlossModel.h"
-#include "import/windows/WizardStatus.h"
 #include "import/windows/ui_MappingScreen.h"
 #include "model/Pattern.h"
 #include "model/Rounding.h"
 #include "settings/basCommonFunctions.h"
+#include "windowkit/JobStatus.h"
 #include "windowkit/NumericFilter.h"
 #include "windowkit/Spelling.h"
 
@@ -46,7 +46,7 @@ MappingScreen::MappingScreen(ImportDesk& desk, QWidget* parent)
     SetUpFlosses();
     FillFamilies();
     ConnectControls();
-    auto* status = new WizardStatus(this);
+    auto* status = new JobStatus(this);
     status->Follow(m_job, QString::fromUtf8(ImportMessages::ApplyingPalette.data(),
                                             qsizetype(ImportMessages::ApplyingPalette.size())));
     m_soon.setParent(this);

@@ -8,10 +8,10 @@
 #include "import/ImportMessages.h"
 #include "import/PictureFiles.h"
 #include "import/windows/WizardProgress.h"
-#include "import/windows/WizardStatus.h"
 #include "import/windows/ui_SizeScreen.h"
 #include "model/Pattern.h"
 #include "settings/basCommonFunctions.h"
+#include "windowkit/JobStatus.h"
 #include "windowkit/NumericFilter.h"
 #include "windowkit/Spelling.h"
 
@@ -42,7 +42,7 @@ SizeScreen::SizeScreen(ImportDesk& desk, QWidget* parent)
     m_ui->setupUi(this);
     m_ui->zoomBox->Attach(*m_ui->lpicResized);
     m_ui->zoomBox->SetZoom(100);
-    m_status = new WizardStatus(this);
+    m_status = new JobStatus(this);
     m_status->Follow(m_job, QString::fromUtf8(ImportMessages::ResizingPicture.data()));
     connect(&m_job, &LatestJob::Failed, this, [this](const QString& text) {
         m_desk.Messages.Tell(text.toStdString(), MessageIcon::Exclamation, ImportMessages::Title);

@@ -18,7 +18,7 @@ class SizeScreen;
 namespace zol {
 
 class NumericFilter;
-class WizardStatus;
+class JobStatus;
 
 /// Screen 3: how large the picture is stitched, and whether it goes into the edit box. Shows it in
 /// that size, a pixel a stitch.
@@ -60,7 +60,7 @@ private:
 
     ImportDesk& m_desk;
     std::unique_ptr<Ui::SizeScreen> m_ui;
-    WizardStatus* m_status = nullptr;
+    JobStatus* m_status = nullptr;
     NumericFilter* m_widthFilter = nullptr;
     NumericFilter* m_heightFilter = nullptr;
     SizeFields m_fields;

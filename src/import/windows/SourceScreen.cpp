@@ -16,12 +16,12 @@
 #include "import/windows/ImagePicture.h"
 #include "import/windows/ScannerList.h"
 #include "import/windows/WizardProgress.h"
-#include "import/windows/WizardStatus.h"
 #include "import/windows/ui_SourceScreen.h"
 #include "model/RunTimeError.h"
 #include "model/SafeFile.h"
 #include "settings/tmpFiles.h"
 #include "windowkit/FilePreviewPane.h"
+#include "windowkit/JobStatus.h"
 
 namespace zol {
 
@@ -51,7 +51,7 @@ SourceScreen::SourceScreen(ImportDesk& desk, QWidget* parent)
     m_ui->setupUi(this);
     m_ui->LPicPreview->SetEmpty(PictureLevels::Empty::Transparent);
     m_ui->zoomBox->Attach(*m_ui->LPicPreview);
-    m_status = new WizardStatus(this);
+    m_status = new JobStatus(this);
     m_status->Follow(m_loadJob, QtText(ImportMessages::LoadingPicture));
     connect(&m_loadJob, &LatestJob::Failed, this, [this](const QString& text) {
         TellFailure({{}, ErrOutOfMemory, text.toStdString()});

@@ -18,7 +18,7 @@ class SourceScreen;
 namespace zol {
 
 class ScannerList;
-class WizardStatus;
+class JobStatus;
 
 /// Screen 0: where the picture comes from. A file, the clipboard, a scanner, or the picture of the
 /// last import. Files are decoded beside the window.
@@ -58,7 +58,7 @@ private:
 
     ImportDesk& m_desk;
     std::unique_ptr<Ui::SourceScreen> m_ui;
-    WizardStatus* m_status = nullptr;
+    JobStatus* m_status = nullptr;
     ScannerList* m_scanners = nullptr; ///< null where nothing can be scanned
     SharedPicture m_picture;           ///< what LPicPreview shows
     std::filesystem::path m_lastImportFile;

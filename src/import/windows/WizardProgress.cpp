@@ -7,20 +7,20 @@
 
 #include <utility>
 
-#include "import/windows/WizardStatus.h"
 #include "windowkit/BusyScope.h"
+#include "windowkit/FeltDelay.h"
+#include "windowkit/JobStatus.h"
 #include "windowkit/LatestJob.h"
 
 namespace zol {
 
 namespace {
 
-constexpr int ShowAfterMs = 120;
 constexpr int YieldEveryMs = 30;
 
 } // namespace
 
-void AwaitJob(LatestJob& job, WizardStatus& status) {
+void AwaitJob(LatestJob& job, JobStatus& status) {
     const BusyScope scope(&status);
     QEventLoop loop;
     QObject::connect(&job, &LatestJob::Ended, &loop, &QEventLoop::quit);
@@ -29,12 +29,12 @@ void AwaitJob(LatestJob& job, WizardStatus& status) {
     }
 }
 
-WizardProgress::WizardProgress(WizardStatus& status, ProgressDoor*& inPlaceOf)
+WizardProgress::WizardProgress(JobStatus& status, ProgressDoor*& inPlaceOf)
     : m_status(status),
       m_place(inPlaceOf),
       m_before(std::exchange(inPlaceOf, this)) {
     m_sinceStart.start();
-    connect(&m_status, &WizardStatus::CancelClicked, this, [this] { m_cancelled = true; });
+    connect(&m_status, &JobStatus::CancelClicked, this, [this] { m_cancelled = true; });
 }
 
 WizardProgress::~WizardProgress() {
@@ -77,7 +77,7 @@ bool WizardProgress::MayGoOn() {
 }
 
 void WizardProgress::ShowIfDue() {
-    if (!m_shown && m_sinceStart.hasExpired(ShowAfterMs)) {
+    if (!m_shown && m_sinceStart.hasExpired(FeltDelay.count())) {
         m_shown = true;
         m_status.StartStatus(m_text, m_maximum);
         m_status.UpdateStatus(m_value);

@@ -13,10 +13,10 @@
 namespace zol {
 
 class LatestJob;
-class WizardStatus;
+class JobStatus;
 
 /// Lets nothing but the strip's Cancel through until nothing of the job runs any more.
-void AwaitJob(LatestJob& job, WizardStatus& status);
+void AwaitJob(LatestJob& job, JobStatus& status);
 
 /// The progress of work on the wizard's own thread, shown in its strip once it has lasted so long
 /// that somebody could wonder. At MayGoOn the window lives for a moment, within a busy scope, so
@@ -26,7 +26,7 @@ class WizardProgress : public QObject, public ProgressDoor {
     Q_OBJECT
 
 public:
-    WizardProgress(WizardStatus& status, ProgressDoor*& inPlaceOf);
+    WizardProgress(JobStatus& status, ProgressDoor*& inPlaceOf);
     ~WizardProgress() override;
 
     void StartStatus(const std::string& text, int maximum) override;
@@ -37,7 +37,7 @@ public:
 private:
     void ShowIfDue();
 
-    WizardStatus& m_status;
+    JobStatus& m_status;
     ProgressDoor*& m_place;
     ProgressDoor* m_before;
     QString m_text;

@@ -18,11 +18,11 @@
 #include "import/windows/SourceScreen.h"
 #include "import/windows/WizardProgress.h"
 #include "import/windows/WizardScreen.h"
-#include "import/windows/WizardStatus.h"
 #include "import/windows/ui_frmImportWizard.h"
 #include "model/Pattern.h"
 #include "model/SafeFile.h"
 #include "windowkit/DialogSize.h"
+#include "windowkit/JobStatus.h"
 #include "windowkit/Spelling.h"
 
 namespace zol {
@@ -37,7 +37,7 @@ frmImportWizard::frmImportWizard(const Outside& outside, std::optional<SquareRec
       m_ui(std::make_unique<Ui::frmImportWizard>()) {
     m_ui->setupUi(this);
     setAcceptDrops(true);
-    m_status = new WizardStatus(this);
+    m_status = new JobStatus(this);
     SetupVariables(editBox);
     AddScreens();
     connect(m_ui->cmdNext, &QPushButton::clicked, this, &frmImportWizard::GoOn);

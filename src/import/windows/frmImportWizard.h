@@ -22,7 +22,7 @@ namespace zol {
 
 class SourceScreen;
 class WizardScreen;
-class WizardStatus;
+class JobStatus;
 
 /// Leads from a picture to a design, screen by screen. Modal; it hides instead of going, so that
 /// an import can be resumed where it was left. What it changes is the caller's: the design is
@@ -83,7 +83,7 @@ private:
     ImportDesk m_desk;
     ImportFlow m_flow;
     std::unique_ptr<Ui::frmImportWizard> m_ui;
-    WizardStatus* m_status = nullptr;
+    JobStatus* m_status = nullptr;
     SourceScreen* m_source = nullptr;
     std::vector<WizardScreen*> m_screens; ///< by their numbers
 };

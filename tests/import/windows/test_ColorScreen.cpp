@@ -17,8 +17,8 @@
 #include "import/windows/ColorScreen.h"
 #include "import/windows/DeskKit.h"
 #include "import/windows/PictureViewKit.h"
-#include "import/windows/WizardStatus.h"
 #include "support/DialogHands.h"
+#include "windowkit/JobStatus.h"
 
 using namespace zol;
 using namespace zol::test;
@@ -314,7 +314,7 @@ void TestColorScreen::CancelPutsTheSliderBackToWhatIsShown() {
     QTRY_VERIFY(Shown("lpicNewColor") != Sample);
     const Colour shown = Shown("lpicNewColor");
     QTest::keyClick(&slider, Qt::Key_PageUp);
-    auto& status = PartOf<WizardStatus>(*m_window, "picStatus");
+    auto& status = PartOf<JobStatus>(*m_window, "picStatus");
     status.StartStatus({}, 0); // as it comes up by itself when the work takes longer
     QTest::mouseClick(&PartOf<QPushButton>(*m_window, "cmdCancelStatus"), Qt::LeftButton);
     QCOMPARE(Shown("lpicNewColor"), shown);

@@ -22,9 +22,9 @@
 #include "import/windows/DeskKit.h"
 #include "import/windows/MappingScreen.h"
 #include "import/windows/PictureViewKit.h"
-#include "import/windows/WizardStatus.h"
 #include "support/DialogHands.h"
 #include "support/TempFolder.h"
+#include "windowkit/JobStatus.h"
 
 using namespace zol;
 using namespace zol::test;
@@ -338,7 +338,7 @@ void TestMappingScreen::CancelKeepsTheOldPreview() {
     const auto flosses = m_kit->Work.Session.PreviewFlosses();
     TypeIn(*m_window, "txtMaxColors", QStringLiteral("2"));
     ClickIn(*m_window, "cmdPreviewPattern");
-    auto& status = PartOf<WizardStatus>(*m_window, "picStatus");
+    auto& status = PartOf<JobStatus>(*m_window, "picStatus");
     status.StartStatus({}, 0); // as it comes up by itself when the work takes longer
     QTest::mouseClick(&PartOf<QPushButton>(*m_window, "cmdCancelStatus"), Qt::LeftButton);
     QVERIFY(!status.isVisible());

@@ -1,33 +1,31 @@
 // SPDX-FileCopyrightText: 2026 Korvanta contributors
 // SPDX-License-Identifier: MIT
 
-#include "import/windows/WizardStatus.h"
+#include "windowkit/JobStatus.h"
 
 #include <QEvent>
 #include <QPainter>
 #include <QShortcut>
 
 #include <algorithm>
-#include <chrono>
 
-#include "import/windows/ui_WizardStatus.h"
+#include "windowkit/FeltDelay.h"
 #include "windowkit/LatestJob.h"
 #include "windowkit/Theme.h"
+#include "windowkit/ui_JobStatus.h"
 
 namespace zol {
 
 namespace {
 
-/// What is done sooner than this needs no strip, which would only flicker.
-constexpr std::chrono::milliseconds FeltFrom{120};
 constexpr int WidthInCharacters = 48;
 constexpr int Margin = 12;
 
 } // namespace
 
-WizardStatus::WizardStatus(QWidget* over)
+JobStatus::JobStatus(QWidget* over)
     : QFrame(over),
-      m_ui(std::make_unique<Ui::WizardStatus>()),
+      m_ui(std::make_unique<Ui::JobStatus>()),
       m_over(over) {
     m_ui->setupUi(this);
     setObjectName(QStringLiteral("picStatus"));
@@ -35,68 +33,68 @@ WizardStatus::WizardStatus(QWidget* over)
     // Ours, so that a busy scope that lets this strip live lets it come up too.
     m_delay.setParent(this);
     m_delay.setSingleShot(true);
-    connect(&m_delay, &QTimer::timeout, this, &WizardStatus::Appear);
-    connect(m_ui->cmdCancelStatus, &QPushButton::clicked, this, &WizardStatus::CancelWork);
+    connect(&m_delay, &QTimer::timeout, this, &JobStatus::Appear);
+    connect(m_ui->cmdCancelStatus, &QPushButton::clicked, this, &JobStatus::CancelWork);
     // A shortcut is looked at before the window, which would close on Escape.
     auto* escape = new QShortcut(Qt::Key_Escape, this);
-    connect(escape, &QShortcut::activated, this, &WizardStatus::CancelWork);
+    connect(escape, &QShortcut::activated, this, &JobStatus::CancelWork);
     m_over->installEventFilter(this);
 }
 
-WizardStatus::~WizardStatus() = default;
+JobStatus::~JobStatus() = default;
 
-void WizardStatus::Follow(LatestJob& job, const QString& text) {
+void JobStatus::Follow(LatestJob& job, const QString& text) {
     connect(&job, &LatestJob::Began, this, [this, &job, text] { Await(job, text); });
     connect(&job, &LatestJob::StatusStarted, this,
             [this](const QString& what, int maximum) { SetStatus(what, maximum); });
-    connect(&job, &LatestJob::StatusUpdated, this, &WizardStatus::UpdateStatus);
-    connect(&job, &LatestJob::Ended, this, &WizardStatus::StopStatus);
+    connect(&job, &LatestJob::StatusUpdated, this, &JobStatus::UpdateStatus);
+    connect(&job, &LatestJob::Ended, this, &JobStatus::StopStatus);
 }
 
-void WizardStatus::Await(LatestJob& job, const QString& text) {
+void JobStatus::Await(LatestJob& job, const QString& text) {
     m_job = &job;
     // In place of an older job the strip stays as it is: a slider that is dragged starts many.
     if (!isVisible() && !m_delay.isActive()) {
         SetStatus(text, 0);
-        m_delay.start(FeltFrom);
+        m_delay.start(FeltDelay);
     }
 }
 
-void WizardStatus::StartStatus(const QString& text, int maximum) {
+void JobStatus::StartStatus(const QString& text, int maximum) {
     SetStatus(text, maximum);
     Appear();
 }
 
-void WizardStatus::SetStatus(const QString& text, int maximum) {
+void JobStatus::SetStatus(const QString& text, int maximum) {
     m_ui->lblStatus->setText(text);
     m_ui->pbStatus->setRange(0, maximum);
     m_ui->pbStatus->setValue(0);
 }
 
-void WizardStatus::UpdateStatus(int value) {
+void JobStatus::UpdateStatus(int value) {
     m_ui->pbStatus->setValue(value);
 }
 
-void WizardStatus::StopStatus() {
+void JobStatus::StopStatus() {
     m_delay.stop();
     m_job.clear();
     hide();
 }
 
-void WizardStatus::CancelWork() {
+void JobStatus::CancelWork() {
     if (m_job != nullptr) {
         m_job->Cancel();
     }
     Q_EMIT CancelClicked();
 }
 
-void WizardStatus::Appear() {
+void JobStatus::Appear() {
     Centre();
     raise();
     show();
 }
 
-void WizardStatus::Centre() {
+void JobStatus::Centre() {
     const int wished = fontMetrics().averageCharWidth() * WidthInCharacters;
     const int room = m_over->width() - 2 * Margin;
     const QSize size(std::max(minimumSizeHint().width(), std::min(wished, room)),
@@ -105,14 +103,14 @@ void WizardStatus::Centre() {
     setGeometry(QRect(QPoint(free.width() / 2, free.height() / 2), size));
 }
 
-bool WizardStatus::eventFilter(QObject* watched, QEvent* event) {
+bool JobStatus::eventFilter(QObject* watched, QEvent* event) {
     if (watched == m_over && event->type() == QEvent::Resize && isVisible()) {
         Centre();
     }
     return QFrame::eventFilter(watched, event);
 }
 
-void WizardStatus::paintEvent(QPaintEvent* /*event*/) {
+void JobStatus::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.fillRect(rect(), palette().window());
     painter.setPen(Theme::Edge(palette()));

@@ -11,10 +11,10 @@
 
 #include <memory>
 
-#include "import/windows/WizardStatus.h"
 #include "model/Doors.h"
 #include "support/DialogHands.h"
 #include "support/Gate.h"
+#include "windowkit/JobStatus.h"
 #include "windowkit/LatestJob.h"
 
 using namespace zol;
@@ -37,7 +37,7 @@ public:
 
 } // namespace
 
-class TestWizardStatus : public QObject {
+class TestJobStatus : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -55,33 +55,33 @@ private:
     void StartGated();
 
     std::unique_ptr<QDialog> m_window;
-    WizardStatus* m_status = nullptr;
+    JobStatus* m_status = nullptr;
     std::unique_ptr<LatestJob> m_job;
     std::unique_ptr<Gate> m_gate;
     int m_result = 0;
 };
 
-void TestWizardStatus::init() {
+void TestJobStatus::init() {
     m_result = 0;
     m_gate = std::make_unique<Gate>();
     m_job = std::make_unique<LatestJob>();
     m_window = std::make_unique<QDialog>();
     m_window->resize(640, 480);
-    m_status = new WizardStatus(m_window.get());
+    m_status = new JobStatus(m_window.get());
     m_status->Follow(*m_job, QStringLiteral("Adjusting"));
     m_window->show();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
     QVERIFY(!m_status->isVisible());
 }
 
-void TestWizardStatus::cleanup() {
+void TestJobStatus::cleanup() {
     constexpr int enough = 100;
     m_gate->Open.release(enough);
     m_window.reset();
     m_job.reset();
 }
 
-void TestWizardStatus::StartGated() {
+void TestJobStatus::StartGated() {
     m_job->Start(
         [gate = m_gate.get()](ProgressDoor& progress) {
             progress.StartStatus("Counting Stitches", 100);
@@ -91,7 +91,7 @@ void TestWizardStatus::StartGated() {
         [this](int value) { m_result = value; });
 }
 
-void TestWizardStatus::LongWorkShowsItsStatusWithinAFifthOfASecond() {
+void TestJobStatus::LongWorkShowsItsStatusWithinAFifthOfASecond() {
     QElapsedTimer clock;
     clock.start();
     StartGated();
@@ -108,7 +108,7 @@ void TestWizardStatus::LongWorkShowsItsStatusWithinAFifthOfASecond() {
     QVERIFY(!m_status->isVisible());
 }
 
-void TestWizardStatus::ShortWorkShowsNothing() {
+void TestJobStatus::ShortWorkShowsNothing() {
     const auto* counter = new ShowCounter(m_status);
     for (int i = 1; i <= 20; ++i) {
         const int before = counter->Shown;
@@ -123,7 +123,7 @@ void TestWizardStatus::ShortWorkShowsNothing() {
     }
 }
 
-void TestWizardStatus::WorkWithoutAStatusMovesTheBarAlone() {
+void TestJobStatus::WorkWithoutAStatusMovesTheBarAlone() {
     m_job->Start([gate = m_gate.get()](ProgressDoor& /*progress*/) { return gate->PassWith(1); },
                  [this](int value) { m_result = value; });
     QTRY_VERIFY(m_status->isVisible());
@@ -131,8 +131,8 @@ void TestWizardStatus::WorkWithoutAStatusMovesTheBarAlone() {
     QCOMPARE(PartOf<QProgressBar>(*m_window, "pbStatus").maximum(), 0);
 }
 
-void TestWizardStatus::CancelDropsTheOutcome() {
-    QSignalSpy clicked(m_status, &WizardStatus::CancelClicked);
+void TestJobStatus::CancelDropsTheOutcome() {
+    QSignalSpy clicked(m_status, &JobStatus::CancelClicked);
     StartGated();
     QTRY_VERIFY(m_status->isVisible());
     QTest::mouseClick(&PartOf<QPushButton>(*m_window, "cmdCancelStatus"), Qt::LeftButton);
@@ -147,7 +147,7 @@ void TestWizardStatus::CancelDropsTheOutcome() {
     QCOMPARE(m_result, 0);
 }
 
-void TestWizardStatus::EscapeCancelsTheWorkAndNotTheWindow() {
+void TestJobStatus::EscapeCancelsTheWorkAndNotTheWindow() {
     StartGated();
     QTRY_VERIFY(m_status->isVisible());
     QTest::keyClick(m_window.get(), Qt::Key_Escape);
@@ -158,7 +158,7 @@ void TestWizardStatus::EscapeCancelsTheWorkAndNotTheWindow() {
     QVERIFY(!m_window->isVisible());
 }
 
-void TestWizardStatus::TheStripStaysInTheMiddle() {
+void TestJobStatus::TheStripStaysInTheMiddle() {
     StartGated();
     QTRY_VERIFY(m_status->isVisible());
     const auto offMiddle = [this] {
@@ -170,7 +170,7 @@ void TestWizardStatus::TheStripStaysInTheMiddle() {
     QTRY_VERIFY(offMiddle() <= 2);
 }
 
-void TestWizardStatus::WorkOfTheWindowsThreadShowsAtOnce() {
+void TestJobStatus::WorkOfTheWindowsThreadShowsAtOnce() {
     m_status->StartStatus(QStringLiteral("Creating Pattern"), 100);
     QVERIFY(m_status->isVisible());
     m_status->UpdateStatus(5);
@@ -180,5 +180,5 @@ void TestWizardStatus::WorkOfTheWindowsThreadShowsAtOnce() {
     QVERIFY(!m_status->isVisible());
 }
 
-QTEST_MAIN(TestWizardStatus)
-#include "test_WizardStatus.moc"
+QTEST_MAIN(TestJobStatus)
+#include "test_JobStatus.moc"

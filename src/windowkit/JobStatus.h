@@ -10,7 +10,7 @@
 #include <memory>
 
 namespace Ui {
-class WizardStatus;
+class JobStatus;
 }
 
 namespace zol {
@@ -19,14 +19,14 @@ class LatestJob;
 
 /// The strip `picStatus`: what runs (`lblStatus`), how far it is, and Cancel. Lies over the middle
 /// of the widget that it is made with, and hides while nothing runs.
-class WizardStatus : public QFrame {
+class JobStatus : public QFrame {
     Q_OBJECT
 
 public:
-    explicit WizardStatus(QWidget* over);
-    ~WizardStatus() override;
+    explicit JobStatus(QWidget* over);
+    ~JobStatus() override;
 
-    /// Comes up with the job's status when it takes long enough to be felt, and goes when nothing
+    /// Comes up with the job's status when it lasts longer than FeltDelay, and goes when nothing
     /// of it runs any more; Cancel and Escape cancel it. `text` stands until the work says what it
     /// does, with a bar that only moves. May follow several jobs, which take turns.
     void Follow(LatestJob& job, const QString& text);
@@ -51,7 +51,7 @@ private:
     void Centre();
     void CancelWork();
 
-    std::unique_ptr<Ui::WizardStatus> m_ui;
+    std::unique_ptr<Ui::JobStatus> m_ui;
     QWidget* m_over;
     QPointer<LatestJob> m_job; ///< the one that runs
     QTimer m_delay;
