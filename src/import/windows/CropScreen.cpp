@@ -4,11 +4,11 @@
 #include "import/windows/CropScreen.h"
 
 #include <QKeyEvent>
-#include <QLocale>
 #include <QPainter>
 
 #include <utility>
 
+#include "import/PictureFiles.h"
 #include "import/PictureOps.h"
 #include "import/windows/PictureMarks.h"
 #include "import/windows/ui_CropScreen.h"
@@ -27,8 +27,7 @@ constexpr int BigNudge = 10;
 constexpr int SizesDelay = 40;
 
 QString SizeText(int width, int height) {
-    const QLocale locale;
-    return QStringLiteral("%1 × %2 pixels").arg(locale.toString(width), locale.toString(height));
+    return QString::fromStdString(PictureFiles::SizeWords(width, height));
 }
 
 Qt::CursorShape PointerOf(unsigned part) {

@@ -83,6 +83,9 @@ void MappingScreen::SetUpFlosses() {
 
 void MappingScreen::ConnectControls() {
     connect(m_ui->optFlossList, &QRadioButton::toggled, this, &MappingScreen::FillFamilies);
+    // A name that is longer than the box can be read in full.
+    connect(m_ui->cmbFlossFamily, &QComboBox::currentTextChanged, m_ui->cmbFlossFamily,
+            &QWidget::setToolTip);
     connect(m_ui->cmbFlossFamily, &QComboBox::activated, this, &MappingScreen::ChooseFlosses);
     connect(m_ui->txtMaxColors, &QLineEdit::textEdited, this, &MappingScreen::PreviewSoon);
     connect(m_ui->cmdPreviewPattern, &QPushButton::clicked, this, &MappingScreen::PreviewPattern);
@@ -138,7 +141,7 @@ void MappingScreen::FillFamilies() {
     const bool lists = m_ui->optFlossList->isChecked();
     m_choices =
         lists ? FlossChoices::Families(m_desk.Context) : FlossChoices::Palettes(m_desk.Context);
-    m_ui->lblFlossType->setText(lists ? tr("Floss &Family") : tr("Floss &Palette"));
+    m_ui->lblFlossType->setText(lists ? tr("Floss Famil&y") : tr("Floss &Palette"));
     m_ui->cmbFlossFamily->clear();
     for (const FlossChoice& line : m_choices) {
         m_ui->cmbFlossFamily->addItem(QString::fromStdString(line.Text));

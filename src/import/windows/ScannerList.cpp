@@ -29,6 +29,8 @@ ScannerList::ScannerList(const Outside& outside, QComboBox& list, QPushButton& a
       m_outside(outside),
       m_list(list),
       m_acquire(acquire) {
+    // A name that is longer than the box can be read in full.
+    connect(&m_list, &QComboBox::currentTextChanged, &m_list, &QWidget::setToolTip);
     connect(&m_list, &QComboBox::activated, this, &ScannerList::Choose);
     connect(&m_job, &LatestJob::Failed, this, [this](const QString& text) {
         Show({{}, {ScanProblem::Kind::Failed, text.toStdString(), {}}});

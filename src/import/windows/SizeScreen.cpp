@@ -5,6 +5,7 @@
 
 #include <utility>
 
+#include "grid/painting/PaintColors.h"
 #include "import/ImportMessages.h"
 #include "import/PictureFiles.h"
 #include "import/windows/WizardProgress.h"
@@ -40,6 +41,7 @@ SizeScreen::SizeScreen(ImportDesk& desk, QWidget* parent)
       m_ui(std::make_unique<Ui::SizeScreen>()),
       m_fields(desk.Work.Size, {desk.Design.GetPatternWidth(), desk.Design.GetPatternHeight()}) {
     m_ui->setupUi(this);
+    m_ui->lpicResized->SetCloth(ToQColor(m_desk.Settings.ClothColor));
     m_ui->zoomBox->Attach(*m_ui->lpicResized);
     m_ui->zoomBox->SetZoom(100);
     m_status = new JobStatus(this);
@@ -57,7 +59,7 @@ SizeScreen::~SizeScreen() = default;
 
 void SizeScreen::SetUpFields() {
     if (!m_desk.Settings.UsesInches()) {
-        m_ui->optUnits->setText(QStringLiteral("Ce&ntimetres"));
+        m_ui->optUnits->setText(QStringLiteral("&Centimetres"));
     }
     m_widthFilter = new NumericFilter(m_ui->txtWidth, SizeFigures, LengthPlaces);
     m_heightFilter = new NumericFilter(m_ui->txtHeight, SizeFigures, LengthPlaces);

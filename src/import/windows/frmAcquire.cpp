@@ -12,6 +12,7 @@
 #include <string>
 #include <utility>
 
+#include "import/PictureFiles.h"
 #include "import/windows/ScanAreaBand.h"
 #include "import/windows/ScanJob.h"
 #include "import/windows/ui_frmAcquire.h"
@@ -307,9 +308,8 @@ void frmAcquire::ShowSize() {
         const auto pixels = [resolution](double mm) {
             return static_cast<int>(std::lround(mm / MmPerInch * resolution));
         };
-        text = QStringLiteral("%1 by %2 pixels")
-                   .arg(pixels(m_band->Area().Width))
-                   .arg(pixels(m_band->Area().Height));
+        text = QString::fromStdString(
+            PictureFiles::SizeWords(pixels(m_band->Area().Width), pixels(m_band->Area().Height)));
     }
     m_ui->lblSize->setText(text);
 }

@@ -200,7 +200,7 @@ void TestMappingScreen::ListsCataloguesAndPalettes() {
     QCOMPARE(box.itemText(1), QStringLiteral("Mill.fls"));
     QCOMPARE(box.currentIndex(), -1);
     QCOMPARE(PartOf<QPushButton>(*m_window, "cmdPreviewPattern").text(),
-             QStringLiteral("Preview Pattern"));
+             QStringLiteral("Pre&view Pattern"));
 }
 
 void TestMappingScreen::NothingChosenIsSaidInWords() {

@@ -142,13 +142,13 @@ void test_frmAcquire::offersWhatTheScannerCanDo() {
     QCOMPARE(modes.currentText(), QStringLiteral("Color"));
     QCOMPARE(Field("spnWidth"), 200.0);
     QCOMPARE(Field("spnHeight"), 100.0);
-    QCOMPARE(Part<QLabel>("lblSize").text(), QStringLiteral("1181 by 591 pixels"));
+    QCOMPARE(Part<QLabel>("lblSize").text(), QStringLiteral("1181 × 591 pixels"));
     QVERIFY(!Part<QProgressBar>("barProgress").isVisible());
     QVERIFY(!Part<QLabel>("lblProblem").isVisible());
     QVERIFY(Part<QPushButton>("cmdScan").isDefault());
     resolutions.setFocus();
     QTest::keyClick(&resolutions, Qt::Key_Down);
-    QCOMPARE(Part<QLabel>("lblSize").text(), QStringLiteral("2362 by 1181 pixels"));
+    QCOMPARE(Part<QLabel>("lblSize").text(), QStringLiteral("2362 × 1181 pixels"));
 }
 
 void test_frmAcquire::remembersChoicesAndSize() {
@@ -255,7 +255,7 @@ void test_frmAcquire::typesTheArea() {
     width.selectAll();
     QTest::keyClicks(&width, QStringLiteral("50"));
     QTest::keyClick(&width, Qt::Key_Tab);
-    QCOMPARE(Part<QLabel>("lblSize").text(), QStringLiteral("295 by 591 pixels"));
+    QCOMPARE(Part<QLabel>("lblSize").text(), QStringLiteral("295 × 591 pixels"));
     auto& left = Part<QDoubleSpinBox>("spnLeft");
     left.setFocus();
     left.selectAll();
