@@ -51,11 +51,13 @@ FlossInfoPanel::FlossInfoPanel(QWidget* parent)
 
 FlossInfoPanel::~FlossInfoPanel() = default;
 
-void FlossInfoPanel::SetEditor(PaletteEditor& editor, SettingsDoor& store, MessageDoor& messages) {
+void FlossInfoPanel::SetEditor(PaletteEditor& editor, SettingsDoor& store, MessageDoor& messages,
+                               QObject& whole) {
     m_editor = &editor;
     m_store = &store;
     m_messages = &messages;
     FillLists();
+    ConnectFields(whole);
     ConnectParts();
 }
 
@@ -71,22 +73,26 @@ void FlossInfoPanel::FillLists() {
     LoadNonRepColors(*m_ui->cmbNonRepColors, *m_store, true, 0);
 }
 
-void FlossInfoPanel::ConnectParts() {
+void FlossInfoPanel::SayIf(bool edited) {
+    if (edited) {
+        Q_EMIT Edited();
+    }
+}
+
+void FlossInfoPanel::ConnectFields(QObject& whole) {
     auto* enter = new EnterTakes(this);
     m_ui->txtFlossID->installEventFilter(enter);
     m_ui->txtFlossDescription->installEventFilter(enter);
-    const auto say = [this](bool changed) {
-        if (changed) {
-            Q_EMIT Edited();
-        }
-    };
-    connect(m_ui->txtFlossID, &QLineEdit::editingFinished, this,
-            [this, say] { say(m_editor->SetFlossID(m_ui->txtFlossID->text().toStdString())); });
-    connect(m_ui->txtFlossDescription, &QLineEdit::editingFinished, this, [this, say] {
-        say(m_editor->SetDescription(m_ui->txtFlossDescription->text().toStdString()));
+    connect(m_ui->txtFlossID, &QLineEdit::editingFinished, &whole,
+            [this] { SayIf(m_editor->SetFlossID(m_ui->txtFlossID->text().toStdString())); });
+    connect(m_ui->txtFlossDescription, &QLineEdit::editingFinished, &whole, [this] {
+        SayIf(m_editor->SetDescription(m_ui->txtFlossDescription->text().toStdString()));
     });
-    connect(m_ui->cmdChangeSymbol, &QPushButton::clicked, this, [this, say] {
-        say(m_editor->ChangeSymbol());
+}
+
+void FlossInfoPanel::ConnectParts() {
+    connect(m_ui->cmdChangeSymbol, &QPushButton::clicked, this, [this] {
+        SayIf(m_editor->ChangeSymbol());
         ShowSymbol(m_editor->SelectedFloss());
     });
     // What a list shows changes with the entry; only the user's choices count.

@@ -28,8 +28,10 @@ public:
     explicit FlossInfoPanel(QWidget* parent = nullptr);
     ~FlossInfoPanel() override;
 
-    /// All of it outlives the panel's use.
-    void SetEditor(PaletteEditor& editor, SettingsDoor& store, MessageDoor& messages);
+    /// The fields call the editor as long as `whole` lives: a field that loses the focus when its
+    /// window goes would otherwise call an editor that has gone before. All of it outlives `whole`.
+    void SetEditor(PaletteEditor& editor, SettingsDoor& store, MessageDoor& messages,
+                   QObject& whole);
     /// Fills the parts with the selected entry; they are off without one.
     void ShowFlossInfo();
 
@@ -39,7 +41,9 @@ Q_SIGNALS:
 
 private:
     void FillLists();
+    void ConnectFields(QObject& whole);
     void ConnectParts();
+    void SayIf(bool edited);
     void ShowTexts(int entry);
     void ShowSymbol(int entry);
     void ShowStrands(QComboBox& list, int strands);

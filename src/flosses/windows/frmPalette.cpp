@@ -35,7 +35,7 @@ frmPalette::frmPalette(const PaletteDesk& desk, QWidget* parent)
     m_ui->buttonBox->button(QDialogButtonBox::Close)->setObjectName(QStringLiteral("cmdOK"));
     m_ui->paletteArea->verticalScrollBar()->setObjectName(QStringLiteral("vsbPalette"));
     m_ui->chkEditBoxOnly->setEnabled(m_editor.HasEditBox());
-    m_ui->flossInfo->SetEditor(m_editor, m_store, m_messages);
+    m_ui->flossInfo->SetEditor(m_editor, m_store, m_messages, m_whole);
     FillLists(desk.Catalogue);
     Spell(*this, desk.Design.Context());
     ConnectAvailable();

@@ -67,6 +67,7 @@ private:
     SettingsDoor& m_store;
     PaletteWindows m_windows;
     PaletteEditor m_editor;
+    QObject m_whole; ///< what fields call the editor through; last, so that it dies first
 };
 
 } // namespace zol

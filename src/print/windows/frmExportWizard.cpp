@@ -12,6 +12,7 @@
 #include "print/windows/ui_frmExportWizard.h"
 #include "windowkit/ComboItems.h"
 #include "windowkit/DialogSize.h"
+#include "windowkit/JobStatus.h"
 #include "windowkit/NumericFilter.h"
 
 namespace zol {
@@ -19,7 +20,6 @@ namespace zol {
 namespace {
 
 constexpr int ZoomFigures = 4;
-constexpr int ShowProgressAfterMs = 150;
 
 struct Painted {
     QImage Image;
@@ -63,7 +63,6 @@ void frmExportWizard::SetUpControls() {
     m_ui->chkSelectedOnly->setEnabled(m_selection.has_value());
     m_ui->chkSelectedOnly->setChecked(m_selection.has_value() && m_chosen.ExportSelected);
     m_ui->chkClipboard->setChecked(m_chosen.ExportToClipboard);
-    m_ui->picProgress->hide();
 }
 
 void frmExportWizard::ConnectControls() {
@@ -76,19 +75,13 @@ void frmExportWizard::ConnectControls() {
     connect(m_ui->cmdSaveImage, &QPushButton::clicked, this, &frmExportWizard::SaveImage);
     connect(m_ui->cmdSaveInfo, &QPushButton::clicked, this, &frmExportWizard::SaveInfo);
     connect(m_ui->cmdClose, &QPushButton::clicked, this, &frmExportWizard::reject);
-    connect(m_ui->cmdCancel, &QPushButton::clicked, &m_job, &LatestJob::Cancel);
 }
 
 void frmExportWizard::ConnectJob() {
     connect(&m_job, &LatestJob::Began, this, [this] { SetBusy(true); });
     connect(&m_job, &LatestJob::Ended, this, [this] { SetBusy(false); });
-    m_showProgress.setSingleShot(true);
-    connect(&m_showProgress, &QTimer::timeout, m_ui->picProgress, &QWidget::show);
-    connect(&m_job, &LatestJob::StatusStarted, this, [this](const QString&, int maximum) {
-        m_ui->pbStatus->setRange(0, maximum);
-        m_ui->pbStatus->setValue(0);
-    });
-    connect(&m_job, &LatestJob::StatusUpdated, m_ui->pbStatus, &QProgressBar::setValue);
+    auto* status = new JobStatus(m_ui->pages);
+    status->Follow(m_job, QStringLiteral("Painting Picture"));
     connect(&m_job, &LatestJob::Failed, this, [this] { TellNoMemory(); });
 }
 
@@ -193,10 +186,6 @@ void frmExportWizard::ShowState() {
 void frmExportWizard::SetBusy(bool busy) {
     if (!busy) {
         m_isSaving = false;
-        m_ui->picProgress->hide();
-        m_showProgress.stop();
-    } else if (!m_showProgress.isActive()) {
-        m_showProgress.start(ShowProgressAfterMs);
     }
     m_ui->picSettings->setEnabled(!m_isSaving);
     m_ui->cmdSaveImage->setEnabled(!busy && m_shown.has_value());

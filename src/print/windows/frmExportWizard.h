@@ -4,7 +4,6 @@
 #pragma once
 
 #include <QDialog>
-#include <QTimer>
 
 #include <filesystem>
 #include <memory>
@@ -67,8 +66,7 @@ private:
     std::optional<PatternPicture> m_shown; ///< what picPattern shows
     bool m_isOutdated = false;             ///< the settings are others by now
     bool m_isSaving = false;
-    QTimer m_showProgress; ///< work that is over before shows none, so that nothing flashes
-    LatestJob m_job;       ///< last, as what it runs uses the rest
+    LatestJob m_job; ///< last, as what it runs uses the rest
 };
 
 } // namespace zol

@@ -17,7 +17,6 @@
 #include "print/windows/JobPrinting.h"
 #include "print/windows/PdfSaving.h"
 #include "print/windows/PrinterChoice.h"
-#include "print/windows/QuickTry.h"
 #include "print/windows/frmPrinting.h"
 #include "print/windows/ui_frmPreview.h"
 #include "windowkit/DialogSize.h"
@@ -59,19 +58,15 @@ frmPreview::frmPreview(PrintDesk& desk, PrintFuncs& job, QWidget* parent)
     m_ui->Picture2->setFocus();
 }
 
-frmPreview::~frmPreview() {
-    // A field that loses the focus when the window goes would call what is no longer there.
-    m_ui->txtPage->disconnect(this);
-    m_ui->cmbZoom->disconnect(this);
-    m_ui->cmbZoom->lineEdit()->disconnect(this);
-}
+frmPreview::~frmPreview() = default;
 
 void frmPreview::ConnectControls() {
     connect(m_ui->cmdPrevious, &QPushButton::clicked, this, [this] { ShowPage(m_page - 1); });
     connect(m_ui->cmdNextPage, &QPushButton::clicked, this, [this] { ShowPage(m_page + 1); });
-    connect(m_ui->txtPage, &QLineEdit::editingFinished, this, &frmPreview::ShowTypedPage);
-    connect(m_ui->cmbZoom, &QComboBox::textActivated, this, &frmPreview::TakeZoom);
-    connect(m_ui->cmbZoom->lineEdit(), &QLineEdit::editingFinished, this,
+    connect(m_ui->txtPage, &QLineEdit::editingFinished, &m_whole, [this] { ShowTypedPage(); });
+    connect(m_ui->cmbZoom, &QComboBox::textActivated, &m_whole,
+            [this](const QString& text) { TakeZoom(text); });
+    connect(m_ui->cmbZoom->lineEdit(), &QLineEdit::editingFinished, &m_whole,
             [this] { TakeZoom(m_ui->cmbZoom->currentText()); });
     connect(m_ui->cmdZoomIn, &QToolButton::clicked, this, [this] { StepZoom(1, std::nullopt); });
     connect(m_ui->cmdZoomOut, &QToolButton::clicked, this, [this] { StepZoom(-1, std::nullopt); });
@@ -188,14 +183,10 @@ PagePicture frmPreview::Paint(int page, int dotsPerInch) {
     m_repaint.stop();
     const KeptRange kept(m_job);
     m_job.SetPreviewMode(true);
-    QuickTry quick(m_patience);
-    PagePicture picture = PaintPage(m_job, page, dotsPerInch, &quick);
-    if (picture.Image.isNull() && picture.ErrorText.empty()) {
-        frmPrinting window(this);
-        window.Run([&](ProgressDoor& progress) {
-            picture = PaintPage(m_job, page, dotsPerInch, &progress);
-        });
-    }
+    PagePicture picture;
+    frmPrinting(this).RunLate(
+        [&](ProgressDoor& progress) { picture = PaintPage(m_job, page, dotsPerInch, &progress); },
+        m_patience);
     return picture;
 }
 

@@ -6,11 +6,13 @@
 #include <QDialog>
 #include <QTimer>
 
+#include <chrono>
 #include <memory>
 #include <optional>
 
 #include "print/windows/PreviewZoom.h"
 #include "print/windows/PrintDesk.h"
+#include "windowkit/FeltDelay.h"
 
 namespace Ui {
 class frmPreview;
@@ -34,9 +36,9 @@ public:
 
     /// Counted as the job's PrintPage.
     [[nodiscard]] int ShownPage() const { return m_page; }
-    /// How long a page may take before the printing window is shown; a fifth of a second unless it
-    /// is told otherwise.
-    void SetPatience(int milliseconds) { m_patience = milliseconds; }
+    /// How long a page may take before the printing window is shown; FeltDelay unless it is told
+    /// otherwise.
+    void SetPatience(std::chrono::milliseconds patience) { m_patience = patience; }
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -67,8 +69,11 @@ private:
     PreviewZoom m_zoom;
     QTimer m_repaint;
     int m_page;
-    int m_patience = 200;
+    std::chrono::milliseconds m_patience = FeltDelay;
     int m_dots = 0; ///< to the inch of the paper's size on the screen
+    /// What the fields call through. Last, so that it dies first: a field that loses the focus when
+    /// the window goes would otherwise call what is no longer there.
+    QObject m_whole;
 };
 
 } // namespace zol

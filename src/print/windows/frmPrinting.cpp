@@ -3,7 +3,6 @@
 
 #include "print/windows/frmPrinting.h"
 
-#include <QGuiApplication>
 #include <QPushButton>
 
 #include <utility>
@@ -26,29 +25,48 @@ frmPrinting::frmPrinting(QWidget* parent)
 frmPrinting::~frmPrinting() = default;
 
 void frmPrinting::Run(Work work) {
+    Prepare(std::move(work));
+    m_timer.start(0);
+    exec();
+    ThrowOn();
+}
+
+void frmPrinting::RunLate(Work work, std::chrono::milliseconds delay) {
+    Prepare(std::move(work));
+    m_showAfter = delay;
+    m_lasting.start();
+    Begin();
+    m_showAfter.reset();
+    ThrowOn();
+}
+
+void frmPrinting::Prepare(Work work) {
     m_work = std::move(work);
     m_cancelled = false;
     m_fault = nullptr;
     m_ui->cmdCancel->setEnabled(true);
-    m_timer.start(0);
-    exec();
-    if (m_fault != nullptr) {
-        std::rethrow_exception(std::exchange(m_fault, nullptr));
-    }
 }
 
 void frmPrinting::Begin() {
     {
         const BusyScope busy(m_ui->cmdCancel);
-        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+        if (!m_showAfter) {
+            m_cursor.emplace();
+        }
         try {
             m_work(*this);
         } catch (...) {
             m_fault = std::current_exception();
         }
-        QGuiApplication::restoreOverrideCursor();
+        m_cursor.reset();
     }
     QDialog::accept();
+}
+
+void frmPrinting::ThrowOn() {
+    if (m_fault != nullptr) {
+        std::rethrow_exception(std::exchange(m_fault, nullptr));
+    }
 }
 
 void frmPrinting::reject() {
@@ -72,6 +90,14 @@ void frmPrinting::StopStatus() {
 }
 
 bool frmPrinting::MayGoOn() {
+    if (m_showAfter) {
+        if (m_lasting.elapsed() < m_showAfter->count()) {
+            return true;
+        }
+        m_showAfter.reset();
+        m_cursor.emplace();
+        show();
+    }
     BusyScope::LetEventsThrough();
     return !m_cancelled;
 }

@@ -4,13 +4,18 @@
 #pragma once
 
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QTimer>
 
+#include <chrono>
 #include <exception>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "model/Doors.h"
+#include "windowkit/FeltDelay.h"
+#include "windowkit/WaitCursor.h"
 
 namespace Ui {
 class frmPrinting;
@@ -32,6 +37,9 @@ public:
 
     /// Shows the window modally until the work has ended. What the work throws is thrown on.
     void Run(Work work);
+    /// For work that is often over at once: begins it here, and shows the window when it has lasted
+    /// `delay`. Events are let through from then on only.
+    void RunLate(Work work, std::chrono::milliseconds delay = FeltDelay);
     /// Whether Cancel was pressed.
     [[nodiscard]] bool PrintCancelled() const { return m_cancelled; }
 
@@ -44,12 +52,17 @@ private:
     void StopStatus() override;
     [[nodiscard]] bool MayGoOn() override;
 
+    void Prepare(Work work);
     void Begin();
+    void ThrowOn();
 
     std::unique_ptr<Ui::frmPrinting> m_ui;
     QTimer m_timer; ///< its only tick begins the work
     Work m_work;
     std::exception_ptr m_fault;
+    std::optional<WaitCursor> m_cursor;
+    QElapsedTimer m_lasting;
+    std::optional<std::chrono::milliseconds> m_showAfter; ///< until it is shown late
     bool m_cancelled = false;
 };
 

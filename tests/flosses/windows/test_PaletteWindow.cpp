@@ -41,6 +41,7 @@ private Q_SLOTS:
     void AreaIsOfferedWhereThereIsOne();
     void WordsAreBritishWhereTheProgramIs();
     void LongPaletteScrollsToTheSelection();
+    void WindowGoesQuietlyWithWhatIsTyped();
 };
 
 void PaletteWindowTest::TypedNumberIsFoundAndEnterAdds() {
@@ -357,6 +358,18 @@ void PaletteWindowTest::LongPaletteScrollsToTheSelection() {
     QTest::keyClick(&test.Grid(), Qt::Key_End);
     QTRY_COMPARE(bar.value(), bar.maximum());
     QCOMPARE(test.Window->SelectedFloss(), 200);
+}
+
+void PaletteWindowTest::WindowGoesQuietlyWithWhatIsTyped() {
+    for (const char* field : {"txtFlossID", "txtFlossDescription"}) {
+        PaletteWindow test;
+        QVERIFY(test.Show());
+        TypeIn(*test.Window, field, QStringLiteral("half typed"));
+        QVERIFY(test.Find<QLineEdit>(field).hasFocus());
+        test.Window.reset();
+        QCOMPARE(test.Flosses().GetFlossLongDesc(1), std::string("R1 - red"));
+        QCOMPARE(test.FirstChanges, 0);
+    }
 }
 
 } // namespace zol::test

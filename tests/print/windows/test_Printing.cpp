@@ -53,6 +53,8 @@ private Q_SLOTS:
     void CancelIsHeardWithinAPage();
     void EscapeCancels();
     void FaultOfTheWorkIsThrownOn();
+    void LateWindowShowsWhileTheSameWorkGoesOn();
+    void WorkThatIsSoonOverShowsNoLateWindow();
     void MarginsInTheBorderAreRaisedOnYes();
     void MarginsInTheBorderStayOnNo();
     void PausedPrinterAsksFirst();
@@ -169,6 +171,57 @@ void PrintingTest::FaultOfTheWorkIsThrownOn() {
     QVERIFY(caught);
     QVERIFY(!window.isVisible());
     QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+}
+
+void PrintingTest::LateWindowShowsWhileTheSameWorkGoesOn() {
+    frmPrinting window;
+    int begun = 0;
+    QString label;
+    window.RunLate([&](ProgressDoor& progress) {
+        ++begun;
+        progress.StartStatus("Previewing Pattern Page 1", 100);
+        QVERIFY(!window.isVisible());
+        while (!window.isVisible()) {
+            QVERIFY(progress.MayGoOn());
+        }
+        label = LabelNow();
+        QVERIFY(window.isModal());
+        QCOMPARE(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+        PostClick(PartOf<QPushButton>(window, "cmdCancel"));
+        while (progress.MayGoOn()) {
+        }
+    });
+    QCOMPARE(begun, 1);
+    QCOMPARE(label, QStringLiteral("Previewing Pattern Page 1"));
+    QVERIFY(window.PrintCancelled());
+    QVERIFY(!window.isVisible());
+    QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+    bool thrown = false;
+    try {
+        window.RunLate([](ProgressDoor&) { throw std::runtime_error("no ink"); });
+    } catch (const std::runtime_error&) {
+        thrown = true;
+    }
+    QVERIFY(thrown);
+}
+
+void PrintingTest::WorkThatIsSoonOverShowsNoLateWindow() {
+    frmPrinting window;
+    int steps = 0;
+    const auto work = [&](ProgressDoor& progress) {
+        while (steps < 100 && progress.MayGoOn()) {
+            ++steps;
+            QVERIFY(!window.isVisible());
+            QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+        }
+    };
+    window.RunLate(work, std::chrono::hours(1));
+    QCOMPARE(steps, 100);
+    QVERIFY(!window.PrintCancelled());
+    // The same window may show at once after that.
+    bool shown = false;
+    window.Run([&](ProgressDoor&) { shown = window.isVisible(); });
+    QVERIFY(shown);
 }
 
 void PrintingTest::MarginsInTheBorderAreRaisedOnYes() {

@@ -371,7 +371,7 @@ void ExportWizardTest::AnEnormousPictureCanBeCancelled() {
     wizard.Export();
     const QImage before = wizard.Shown();
     TypeIn(window, "txtPixelsPerSquare", QStringLiteral("14")); // 780 MB
-    auto& cancel = PartOf<QPushButton>(window, "cmdCancel");
+    auto& cancel = PartOf<QPushButton>(window, "cmdCancelStatus");
     QTRY_VERIFY(cancel.isVisible());
     QTest::mouseClick(&cancel, Qt::LeftButton);
     QTRY_VERIFY(!cancel.isVisible());

@@ -94,6 +94,7 @@ private Q_SLOTS:
     void CancelKeepsThePageThatIsShown();
     void KeyThatFailsIsTold();
     void EscapeLeaves();
+    void WindowGoesQuietlyWithWhatIsTyped();
 
 private:
     /// Opens the preview of these pages.
@@ -368,7 +369,7 @@ void PreviewTest::SlowPageShowsTheWindowWithCancel() {
     m_job->SetPrintRange(1, 5, false);
     const Canceller canceller;
     m_window = std::make_unique<frmPreview>(*m_desk, *m_job, nullptr);
-    m_window->SetPatience(0);
+    m_window->SetPatience({});
     m_window->show();
     // Nothing was to be seen before the cancel, so there is nothing to look at.
     QTRY_VERIFY(!m_window->isVisible());
@@ -378,7 +379,7 @@ void PreviewTest::SlowPageShowsTheWindowWithCancel() {
 
 void PreviewTest::CancelKeepsThePageThatIsShown() {
     Show(1, 5);
-    m_window->SetPatience(0);
+    m_window->SetPatience({});
     const QImage before = Paper();
     const Canceller canceller;
     QTest::keyClick(m_window.get(), Qt::Key_PageDown);
@@ -407,6 +408,16 @@ void PreviewTest::EscapeLeaves() {
     Show(1, 5);
     QTest::keyClick(m_window.get(), Qt::Key_Escape);
     QVERIFY(!m_window->isVisible());
+}
+
+void PreviewTest::WindowGoesQuietlyWithWhatIsTyped() {
+    for (const char* field : {"txtPage", "cmbZoom"}) {
+        Show(1, 5);
+        TypeIn(*m_window, field, QStringLiteral("3"));
+        QVERIFY(PartOf<QWidget>(*m_window, field).hasFocus());
+        m_window.reset();
+        QCOMPARE(m_job->PrintPage(), 1);
+    }
 }
 
 } // namespace zol::test
