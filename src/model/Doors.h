@@ -49,7 +49,9 @@ struct FileChoice {
     std::string Filter; ///< "Words|*.PAT|Other words|*.bpt"; letters' case does not count
     std::filesystem::path Folder;
     std::string SuggestedName;
-    std::string DefaultExtension; ///< without the point; added to a name that has none
+    /// Without the point; what a name is given that has none. Where the filter has several kinds,
+    /// the kind that stands chosen gives it, this for the first one, also behind an unknown ending.
+    std::string DefaultExtension;
     /// Called on other threads for files that the user looks at; the door is the call's own.
     std::function<FilePreview(const std::filesystem::path&, ProgressDoor&)> Preview = {};
 };

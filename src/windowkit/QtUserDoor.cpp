@@ -154,6 +154,36 @@ QString QtPath(const fs::path& path) {
     return QString::fromStdString(PathText(path));
 }
 
+/// The place in the filter of what stands chosen, from 0; some dialogs give it without its
+/// patterns.
+qsizetype ChosenKind(const QFileDialog& dialog) {
+    const QString chosen = dialog.selectedNameFilter();
+    const QStringList kinds = dialog.nameFilters();
+    qsizetype kind = kinds.size() - 1;
+    while (kind > 0 && kinds[kind] != chosen &&
+           !kinds[kind].startsWith(chosen + QStringLiteral(" ("))) {
+        --kind;
+    }
+    return kind;
+}
+
+/// What has to be put behind a name: the ending of the kind that stood chosen in the dialog, if the
+/// name has none that says its kind. Where all files are of one kind, any ending is the user's own.
+std::string MissingEnding(const fs::path& file, const FileChoice& choice, qsizetype kind) {
+    const QStringList parts = QtText(choice.Filter).split(QLatin1Char('|'));
+    const qsizetype kinds = parts.size() / 2;
+    QStringList known;
+    for (qsizetype i = 0; i < kinds; ++i) {
+        known << parts[2 * i + 1].split(QLatin1Char(';'));
+    }
+    const QString own = QLatin1Char('*') + QtPath(file.extension());
+    if (file.has_extension() && (kinds < 2 || known.contains(own, Qt::CaseInsensitive))) {
+        return {};
+    }
+    return kind <= 0 ? choice.DefaultExtension
+                     : parts[2 * kind + 1].section(QLatin1Char(';'), 0, 0).mid(2).toStdString();
+}
+
 /// The file that was chosen; nothing if the user cancelled.
 std::optional<fs::path> RunDialog(QFileDialog& dialog) {
     const NormalCursor cursor;
@@ -164,10 +194,15 @@ std::optional<fs::path> RunDialog(QFileDialog& dialog) {
     return PathOf(dialog.selectedFiles().constFirst().toStdString());
 }
 
-void SetUp(QFileDialog& dialog, const FileChoice& choice) {
+/// `kind` is the place of what stands chosen in the filter, from 0.
+void SetUp(QFileDialog& dialog, const FileChoice& choice, qsizetype kind = 0) {
     // The patterns spell both cases of every letter, which nobody wants to read.
     dialog.setOption(QFileDialog::HideNameFilterDetails);
-    dialog.setNameFilters(QtUserDoor::NameFilters(choice.Filter));
+    const QStringList kinds = QtUserDoor::NameFilters(choice.Filter);
+    dialog.setNameFilters(kinds);
+    if (kind > 0) {
+        dialog.selectNameFilter(kinds.value(kind));
+    }
     if (!choice.SuggestedName.empty()) {
         dialog.selectFile(QtText(choice.SuggestedName));
     }
@@ -201,18 +236,24 @@ std::optional<fs::path> QtUserDoor::AskOpenFile(const FileChoice& choice) {
 
 std::optional<fs::path> QtUserDoor::AskSaveFile(const FileChoice& choice) {
     FileChoice present = choice;
+    qsizetype kind = 0;
     for (;;) {
         QFileDialog dialog(m_parent, QtText(choice.Title), QtPath(present.Folder));
         dialog.setAcceptMode(QFileDialog::AcceptSave);
         dialog.setFileMode(QFileDialog::AnyFile);
-        SetUp(dialog, present);
+        SetUp(dialog, present, kind);
         std::optional<fs::path> file = RunDialog(dialog);
-        if (!file || file->has_extension() || choice.DefaultExtension.empty()) {
+        if (!file) {
+            return file;
+        }
+        kind = ChosenKind(dialog);
+        const std::string ending = MissingEnding(*file, choice, kind);
+        if (ending.empty()) {
             return file;
         }
         // The ending is put on here and not by the dialog, because some platforms' dialogs ask
         // about the name as it was typed: the file that would be lost goes by the longer name.
-        *file += PathOf("." + choice.DefaultExtension);
+        *file += PathOf("." + ending);
         std::error_code error;
         if (!fs::exists(*file, error) ||
             Ask(PathText(file->filename()) + " already exists.  Do you want to replace it?",
@@ -230,7 +271,8 @@ QStringList QtUserDoor::NameFilters(const std::string& filter) {
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
         QStringList patterns;
         for (const QString& pattern : parts[i + 1].split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
-            patterns << AnyCase(pattern.trimmed());
+            // As it stands first, since the dialog takes the ending of a name from there.
+            patterns << pattern.trimmed() << AnyCase(pattern.trimmed());
         }
         filters << QStringLiteral("%1 (%2)").arg(parts[i], patterns.join(QLatin1Char(' ')));
     }

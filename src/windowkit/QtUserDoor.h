@@ -34,8 +34,8 @@ public:
     [[nodiscard]] std::optional<std::filesystem::path>
     AskSaveFile(const FileChoice& choice) override;
 
-    /// "Words|*.PAT|More|*.bmp;*.gif" as Qt writes filters, with letters of either case:
-    /// "Words (*.[pP][aA][tT])" and "More (*.[bB][mM][pP] *.[gG][iI][fF])".
+    /// "Words|*.PAT|More|*.bmp" as Qt writes filters, as it stands and with letters of either case:
+    /// "Words (*.PAT *.[pP][aA][tT])" and "More (*.bmp *.[bB][mM][pP])".
     [[nodiscard]] static QStringList NameFilters(const std::string& filter);
 
 private:

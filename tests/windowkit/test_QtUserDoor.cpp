@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <QApplication>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -111,6 +112,10 @@ private Q_SLOTS:
     void OpenDialogStartsInTheFolderAndGivesTheFile();
     void CancelledDialogGivesNothing();
     void SaveDialogAddsTheEnding();
+    void ChosenKindGivesTheEnding_data();
+    void ChosenKindGivesTheEnding();
+    void ChosenKindChangesTheProposedEnding();
+    void ChosenKindStaysWhenAFileIsNotReplaced();
     void SaveDialogAsksBeforeReplacingTheFullName();
     void SaveDialogAsksOnceForANameWithItsEnding();
 
@@ -257,8 +262,10 @@ void test_QtUserDoor::WaitCursorStepsAsideForABox() {
 void test_QtUserDoor::FiltersIgnoreTheCase() {
     const QStringList filters =
         QtUserDoor::NameFilters("Korvanta Pattern Files|*.PAT|Pictures|*.bmp;*.tif2");
-    QCOMPARE(filters, (QStringList{QStringLiteral("Korvanta Pattern Files (*.[pP][aA][tT])"),
-                                   QStringLiteral("Pictures (*.[bB][mM][pP] *.[tT][iI][fF]2)")}));
+    QCOMPARE(
+        filters,
+        (QStringList{QStringLiteral("Korvanta Pattern Files (*.PAT *.[pP][aA][tT])"),
+                     QStringLiteral("Pictures (*.bmp *.[bB][mM][pP] *.tif2 *.[tT][iI][fF]2)")}));
     QVERIFY(QtUserDoor::NameFilters("").isEmpty());
 }
 
@@ -295,6 +302,88 @@ void test_QtUserDoor::SaveDialogAddsTheEnding() {
     QVERIFY(plain == m_folder / "lily.pat");
     QVERIFY(ended == m_folder / "lily.bpt");
     QCOMPARE(QString::fromStdString(seen.SuggestedName), QStringLiteral("old.pat"));
+}
+
+void test_QtUserDoor::ChosenKindGivesTheEnding_data() {
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("saved");
+    const auto row = [](const char* what, int kind, const char* typed, const char* saved) {
+        QTest::newRow(what) << kind << QString::fromLatin1(typed) << QString::fromLatin1(saved);
+    };
+    row("the first kind's", 0, "rose", "rose.bmp");
+    row("another kind's", 1, "rose", "rose.png");
+    row("behind an unknown ending", 2, "rose.v2", "rose.v2.svg");
+    row("first kind behind an unknown ending", 0, "rose.v2", "rose.v2.bmp");
+    row("the name's own of another kind", 0, "rose.SVG", "rose.SVG");
+    row("the name's own of a second pattern", 0, "rose.dib", "rose.dib");
+}
+
+namespace {
+
+constexpr char Pictures[] = "Bitmap|*.bmp;*.dib|PNG Picture|*.png|Drawing|*.svg";
+
+void ChooseKind(QDialog& dialog, int kind) {
+    auto* kinds = dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+    for (int step = 0; step < kind; ++step) {
+        QTest::keyClick(kinds, Qt::Key_Down);
+    }
+}
+
+DialogDriver::Step TypeAs(int kind, const QString& name) {
+    return [kind, name](QDialog& dialog) {
+        ChooseKind(dialog, kind);
+        Type(name)(dialog);
+    };
+}
+
+} // namespace
+
+void test_QtUserDoor::ChosenKindGivesTheEnding() {
+    QFETCH(const int, kind);
+    QFETCH(const QString, typed);
+    QFETCH(const QString, saved);
+    DialogDriver driver({TypeAs(kind, typed)});
+    FileChoice choice = Choice();
+    choice.Filter = Pictures;
+    choice.DefaultExtension = "bmp";
+    const std::optional<fs::path> file = m_user.AskSaveFile(choice);
+    QVERIFY(driver.AllDone());
+    QVERIFY(file == m_folder / saved.toStdString());
+}
+
+void test_QtUserDoor::ChosenKindChangesTheProposedEnding() {
+    DialogDriver driver({[](QDialog& dialog) {
+        ChooseKind(dialog, 2);
+        QTest::keyClick(dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit")),
+                        Qt::Key_Return);
+    }});
+    FileChoice choice = Choice();
+    choice.Filter = Pictures;
+    choice.SuggestedName = "rose page 2.png";
+    const std::optional<fs::path> file = m_user.AskSaveFile(choice);
+    QVERIFY(driver.AllDone());
+    QVERIFY(file == m_folder / "rose page 2.svg");
+}
+
+void test_QtUserDoor::ChosenKindStaysWhenAFileIsNotReplaced() {
+    MakeFile("old.png");
+    QString kind;
+    QString name;
+    DialogDriver driver(
+        {TypeAs(1, QStringLiteral("old")), Click(QMessageBox::No), [&](QDialog& dialog) {
+             kind = dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"))->currentText();
+             name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text();
+             dialog.reject();
+         }});
+    FileChoice choice = Choice();
+    choice.Filter = Pictures;
+    choice.DefaultExtension = "bmp";
+    const std::optional<fs::path> file = m_user.AskSaveFile(choice);
+    QVERIFY(driver.AllDone());
+    QVERIFY(!file);
+    QCOMPARE(kind, QStringLiteral("PNG Picture"));
+    QCOMPARE(name, QStringLiteral("old.png"));
 }
 
 void test_QtUserDoor::SaveDialogAsksBeforeReplacingTheFullName() {
