@@ -10,6 +10,7 @@
 
 #include "import/FlossChoices.h"
 #include "import/ImportSession.h"
+#include "import/SampleCatalogue.h"
 #include "model/Pattern.h"
 #include "model/ProgramContext.h"
 #include "support/RecordingDoors.h"
@@ -28,20 +29,7 @@ protected:
     Preview() { context.AppPath = folder.Path(); }
 
     AvailColors CatalogueOf(const std::vector<Colour>& colours) const {
-        AvailColors catalogue(context);
-        catalogue.Setheader("Maker and Sons", 20000, "Maker", 1);
-        int number = 0;
-        for (const Colour colour : colours) {
-            CatalogueRow row;
-            row.MasterID = 1000 + number;
-            row.FlossID.Set(std::to_string(++number));
-            row.Description.Set("floss " + std::to_string(number));
-            row.Red = static_cast<std::int16_t>(colour & 255U);
-            row.Green = static_cast<std::int16_t>((colour >> 8U) & 255U);
-            row.Blue = static_cast<std::int16_t>((colour >> 16U) & 255U);
-            catalogue.AppendRow(row);
-        }
-        return catalogue;
+        return test::CatalogueOf(context, colours);
     }
     Palette PaletteOf(Colour colour) {
         Palette palette = Palette::Empty(context);
@@ -183,8 +171,7 @@ TEST_F(Preview, AFileThatCannotBeReadLeavesNothingChosen) {
 
 TEST_F(Preview, SavedPalettesAndCataloguesAreChosenByTheirFiles) {
     ASSERT_EQ(PaletteOf(Blue).SaveToDisk(folder.Path() / "mill.fls"), 0);
-    std::filesystem::create_directory(folder.Path() / "Flosses");
-    ASSERT_TRUE(CatalogueOf({Red, Green}).SaveToFile(folder.Path() / "Flosses" / "maker.col"));
+    ASSERT_TRUE(test::WriteCatalogue(context, "maker.col", "Maker and Sons", {Red, Green}));
     Pattern pattern(context);
     const auto palettes = FlossChoices::Palettes(context);
     ASSERT_EQ(palettes.size(), 2U);

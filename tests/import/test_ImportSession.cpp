@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include "import/SampleCatalogue.h"
+#include "model/CodePage.h"
 #include "model/Pattern.h"
 #include "model/ProgramContext.h"
 #include "support/RecordingDoors.h"
@@ -23,24 +25,7 @@ protected:
     Import() { context.Progress = &progress; }
 
     AvailColors CatalogueOf(const std::vector<Colour>& colours) const {
-        AvailColors catalogue(context);
-        catalogue.Setheader("Maker and Sons", 20000, "Maker", 1);
-        for (std::size_t i = 0; i < colours.size(); ++i) {
-            CatalogueRow row;
-            row.MasterID = static_cast<std::int32_t>(1000 + i);
-            row.FlossID.Set(std::to_string(i + 1));
-            row.Description.Set("floss " + std::to_string(i + 1));
-            row.Red = static_cast<std::int16_t>(colours[i] & 255U);
-            row.Green = static_cast<std::int16_t>((colours[i] >> 8U) & 255U);
-            row.Blue = static_cast<std::int16_t>((colours[i] >> 16U) & 255U);
-            catalogue.AppendRow(row);
-        }
-        // The long name is known of a catalogue that was read.
-        const std::vector<std::uint8_t> bytes = catalogue.Bytes();
-        ByteReader reader(bytes);
-        AvailColors read(context);
-        read.Read(reader);
-        return read;
+        return test::CatalogueOf(context, colours);
     }
 
     Palette PaletteOf(const std::vector<Colour>& colours, const std::string& symbols) {
@@ -297,6 +282,30 @@ TEST_F(ImportIntoEditBox, ASavedPalettesSurvivorsJoinAndKeepSymbolsThatAreFree) 
     EXPECT_EQ(palette.GetFlossBackStitchStrands(3), 1);
     EXPECT_EQ(palette.GetDefaultBSType(3), 4);
     EXPECT_EQ(palette.GetManufLongDesc(3), "The Mill");
+}
+
+TEST_F(ImportIntoEditBox, SymbolsForASavedPaletteAreSearchedUpToCode212) {
+    // The pattern's flosses take all codes from 33 to 211.
+    Palette own = Palette::Empty(context);
+    for (unsigned code = 33; code < 212; ++code) {
+        const bool gap =
+            (code > 126 && code < 130) || (code > 140 && code < 145) || (code > 156 && code < 159);
+        if (!gap) {
+            std::string symbol;
+            CodePage::AppendUtf8(symbol, CodePage::ToUnicode(static_cast<std::uint8_t>(code)));
+            own.AddPaletteEntry(MakeColour(code, 255, 0), "1", "own", "Own", symbol, 2, 1, 1, 1, 0,
+                                "Own");
+        }
+    }
+    pattern.GetPalette() = own;
+    const int flosses = own.GetEntriesCount();
+    session.UseEditBox(2, 1, pattern.GetPalette());
+    session.SetImage(RowOf({Blue, MakeColour(90, 0, 90)}));
+    session.ChoosePalette(PaletteOf({Blue, MakeColour(90, 0, 90)}, "!!"));
+    ASSERT_EQ(Create().Result, Done);
+    ASSERT_EQ(pattern.GetPalette().GetEntriesCount(), flosses + 2);
+    EXPECT_EQ(pattern.GetPalette().GetFlossSymbol(flosses + 1), 212);
+    EXPECT_EQ(pattern.GetPalette().GetFlossSymbol(flosses + 2), 212); // the search ends there
 }
 
 TEST_F(ImportIntoEditBox, TheCurrentPaletteStaysAsItsOwnCopy) {

@@ -19,6 +19,7 @@
 #include <fstream>
 #include <memory>
 
+#include "import/SampleCatalogue.h"
 #include "import/windows/DeskKit.h"
 #include "import/windows/MappingScreen.h"
 #include "import/windows/PictureViewKit.h"
@@ -72,7 +73,6 @@ private:
     void Come(std::shared_ptr<Picture> picture);
     void ChooseLine(const QString& text);
     void PickPalette() { ClickIn(*m_window, "optPalette"); }
-    void WriteCatalogue(const char* file, const char* name, const std::vector<Colour>& colours);
     void WritePalette(const char* file, int entries);
     void UseEditBoxWith(int flosses);
     [[nodiscard]] QString MaxColors();
@@ -91,13 +91,12 @@ void TestMappingScreen::init() {
     m_folder = std::make_unique<TempFolder>();
     m_kit = std::make_unique<DeskKit>();
     m_kit->Context.AppPath = m_folder->Path();
-    std::filesystem::create_directory(m_folder->Path() / "Flosses");
-    WriteCatalogue("few.col", "Few Threads", {Red, Green, Blue});
+    QVERIFY(WriteCatalogue(m_kit->Context, "few.col", "Few Threads", {Red, Green, Blue}));
     std::vector<Colour> many;
     for (unsigned i = 0; i < 60; ++i) {
         many.push_back(MakeColour(4 * i, 255 - 4 * i, 100));
     }
-    WriteCatalogue("many.col", "Many Threads", many);
+    QVERIFY(WriteCatalogue(m_kit->Context, "many.col", "Many Threads", many));
     ShowScreen();
     auto picture = std::make_shared<Picture>(4, 1);
     picture->Pixels() = {Red, Blue, EraseColor, Red};
@@ -123,24 +122,6 @@ void TestMappingScreen::ShowScreen() {
 void TestMappingScreen::Come(std::shared_ptr<Picture> picture) {
     m_kit->Work.TheImage = std::move(picture);
     m_screen->DisplayScreen(false);
-}
-
-void TestMappingScreen::WriteCatalogue(const char* file, const char* name,
-                                       const std::vector<Colour>& colours) {
-    AvailColors catalogue(m_kit->Context);
-    catalogue.Setheader(name, 20000, "Thr", 1);
-    int number = 0;
-    for (const Colour colour : colours) {
-        CatalogueRow row;
-        row.MasterID = 1000 + number;
-        row.FlossID.Set(std::to_string(++number));
-        row.Description.Set("floss " + std::to_string(number));
-        row.Red = static_cast<std::int16_t>(colour & 255U);
-        row.Green = static_cast<std::int16_t>((colour >> 8U) & 255U);
-        row.Blue = static_cast<std::int16_t>((colour >> 16U) & 255U);
-        catalogue.AppendRow(row);
-    }
-    QVERIFY(catalogue.SaveToFile(m_folder->Path() / "Flosses" / file));
 }
 
 void TestMappingScreen::WritePalette(const char* file, int entries) {

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void RoughColorsAreThoseOfThePicture();
     void TheEditBoxIsFilled();
     void ItIsShownAtRealSize();
+    void ErasedSquaresShowTheCloth();
     void ComingBackResizesWhatCameIn();
 
 private:
@@ -46,6 +47,7 @@ private:
             Kit.Design.Initialize(140, 70, 14, 14);
             Kit.Work.Size = {true, 14, 14, CmPerUnitInches};
             Kit.Settings.Units = "inches";
+            Kit.Settings.ClothColor = MakeColour(10, 220, 240);
             Kit.Work.EditBox = editBox;
             Kit.Work.TheImage = PlacePicture(40, 30);
             return Kit.Desk;
@@ -219,6 +221,15 @@ void SizeScreenTest::ItIsShownAtRealSize() {
     // A stitch on cloth of 14 is a 14th of an inch of the screen.
     const double stitch = view.Place().ScaleX() / view.Place().Ratio;
     QVERIFY(std::abs(stitch - shown.Screen.logicalDpiX() / 14.0) < 0.05);
+}
+
+void SizeScreenTest::ErasedSquaresShowTheCloth() {
+    Shown shown;
+    auto& view = PartOf<PictureView>(shown.Screen, "lpicResized");
+    shown.Kit.Work.TheImage = PlainPicture(40, 30, EraseColor);
+    shown.Screen.DisplayScreen(false);
+    QTRY_VERIFY(view.Shown() != nullptr && view.Shown()->ImagePixel(3, 3) == EraseColor);
+    QCOMPARE(ShownAt(view, Shot(view), {3, 3}), OnScreen(shown.Kit.Settings.ClothColor));
 }
 
 void SizeScreenTest::ComingBackResizesWhatCameIn() {

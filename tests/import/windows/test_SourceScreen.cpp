@@ -189,6 +189,9 @@ void SourceScreenTest::WhatCannotBeDecodedIsToldByNumberAndText_data() {
     QTest::newRow("empty") << QByteArray() << QStringLiteral("Error ");
     QTest::newRow("text") << QByteArray("This is no picture at all.")
                           << QStringLiteral("Error 321: ");
+    QTest::newRow("drawing") << QByteArray("<svg xmlns=\"http://www.w3.org/2000/svg\" "
+                                           "width=\"90000000\" height=\"90000000\"/>")
+                             << QStringLiteral("Error 321: ");
     QTest::newRow("cut") << cut(png, png.size() / 2) << QStringLiteral("Error 57: ");
     // 100 000 by 100 000 pixels, by its header.
     QByteArray huge("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\x01\x86\xa0\0\x01\x86\xa0\x08\x02\0\0\0", 29);
@@ -219,10 +222,13 @@ void SourceScreenTest::WhatCannotBeDecodedIsToldByNumberAndText() {
 void SourceScreenTest::OddPicturesArrive_data() {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QSize>("size");
-    const auto row = [](const char* name, const std::vector<std::uint8_t>& bytes, QSize size) {
+    QTest::addColumn<QPoint>("place");
+    QTest::addColumn<Colour>("colour");
+    const auto row = [](const char* name, const std::vector<std::uint8_t>& bytes, QSize size,
+                        QPoint place = {0, 0}, Colour colour = Brick) {
         QTest::newRow(name) << QByteArray(reinterpret_cast<const char*>(bytes.data()),
                                           static_cast<qsizetype>(bytes.size()))
-                            << size;
+                            << size << place << colour;
     };
     using vips::VImage;
     row("one pixel", SavedAs(Plain(1, 1, Brick), ".png"), {1, 1});
@@ -232,29 +238,43 @@ void SourceScreenTest::OddPicturesArrive_data() {
                     .copy(VImage::option()->set("interpretation", VIPS_INTERPRETATION_RGB16)),
                 ".png"),
         {9, 7});
-    row("alpha", SavedAs(Plain(9, 7, Brick).bandjoin(255), ".png"), {9, 7});
-    row("rotated", SavedLying(Plain(9, 7, Brick), 6, ".jpg"), {9, 7});
-    // Two pages of 9 by 7, one below the other.
-    VImage pages = Plain(9, 14, Brick).copy_memory();
+    // The left half is transparent.
+    const VImage covered = VipsPicture(9, 7, [](int x, int) { return x < 4 ? 0U : 0xFFFFFFU; });
+    row("alpha", SavedAs(Plain(9, 7, Brick).bandjoin(covered.extract_band(0)), ".png"), {9, 7},
+        {2, 3}, TransparentPixel);
+    row("alpha, covered", SavedAs(Plain(9, 7, Brick).bandjoin(covered.extract_band(0)), ".png"),
+        {9, 7}, {6, 3});
+    // Upright the upper left pixel is black.
+    const VImage marked =
+        VipsPicture(9, 7, [](int x, int y) { return x + y == 0 ? Colour{0} : Brick; });
+    row("rotated", SavedLying(marked, 6, ".tif"), {9, 7}, {0, 0}, 0);
+    row("rotated photo", SavedLying(Plain(9, 7, MakeColour(0, 0, 0)), 8, ".jpg"), {9, 7}, {4, 4},
+        0);
+    // Two pictures of 9 by 7, one below the other.
+    VImage pages =
+        VipsPicture(9, 14, [](int, int y) { return y < 7 ? Brick : Colour{0}; }).copy_memory();
     pages.set(VIPS_META_PAGE_HEIGHT, 7);
-    row("animated", SavedAs(pages, ".gif"), {9, 7});
-    // No ink but black: 0 of each.
+    row("animated", SavedAs(pages, ".gif"), {9, 7}, {4, 6});
+    // No ink at all.
     const VImage cmyk =
         VipsPicture(9, 7, [](int, int) { return Colour{0}; })
             .bandjoin(0)
             .copy(VImage::option()->set("interpretation", VIPS_INTERPRETATION_CMYK));
-    row("CMYK", SavedAs(cmyk, ".tif"), {9, 7});
+    row("CMYK", SavedAs(cmyk, ".tif"), {9, 7}, {4, 4}, EraseColor);
 }
 
 void SourceScreenTest::OddPicturesArrive() {
     QFETCH(QByteArray, bytes);
     QFETCH(QSize, size);
+    QFETCH(QPoint, place);
+    QFETCH(Colour, colour);
     DeskKit kit;
     Shown shown(kit);
     shown.Screen.TakeFile(Write("odd", {bytes.begin(), bytes.end()}));
     QVERIFY(shown.Screen.ValidateScreen());
     QVERIFY(kit.User.told.empty());
     QCOMPARE(QSize(kit.Work.TheImage->ImageWidth(), kit.Work.TheImage->ImageHeight()), size);
+    QCOMPARE(kit.Work.TheImage->ImagePixel(place.x(), place.y()), colour);
 }
 
 void SourceScreenTest::TheClipboardIsPasted() {
