@@ -25,9 +25,9 @@ public:
     /// The device's pixels that a rectangle of the widget touches.
     [[nodiscard]] QRect Covering(const QRect& rect) const;
     /// Device pixels of a widget that is being painted, where they lie in its window's memory: as a
-    /// picture of Format_RGB32 that is painted into without being copied. `rect` has to be exposed,
-    /// since nothing is cut. A null picture where the window has no such memory, or its pixels and
-    /// the widget's do not meet.
+    /// picture of Format_RGB32 that is painted into without being copied. Nothing is cut: only what
+    /// is exposed may be touched. A null picture where the window has no such memory, or its pixels
+    /// and the widget's do not meet.
     [[nodiscard]] QImage PixelsOf(const QWidget& widget, const QPainter& painter,
                                   const QRect& rect) const;
 

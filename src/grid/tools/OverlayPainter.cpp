@@ -10,9 +10,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <vector>
 
 #include "grid/painting/Capsule.h"
+#include "grid/painting/FillHere.h"
 #include "grid/painting/PixelMasks.h"
 #include "grid/tools/FloatingPicture.h"
 
@@ -111,64 +113,71 @@ QRect Widened(const QRect& rect, int by) {
     return rect.adjusted(-by, -by, by, by);
 }
 
-/// Accent with casing round it.
-void FillCased(QPainter& painter, const QRect& rect, int casing, const OverlayStyle& style) {
-    painter.fillRect(Widened(rect, casing), style.Casing);
-    painter.fillRect(rect, style.Accent);
+/// What of the painter's device may be painted; far more where nothing is cut.
+QRect VisibleOf(const QPainter& painter) {
+    constexpr int far = 1 << 28;
+    return painter.hasClipping() ? painter.clipBoundingRect().toAlignedRect()
+                                 : QRect(QPoint(-far, -far), QPoint(far, far));
 }
 
-void PaintFrame(QPainter& painter, const QRect& frame, int width, const OverlayStyle& style) {
+/// Accent with casing round it.
+void FillCased(QPainter& painter, const QRect& visible, const QRect& rect, int casing,
+               const OverlayStyle& style) {
+    FillHere(painter, Widened(rect, casing) & visible, style.Casing);
+    FillHere(painter, rect & visible, style.Accent);
+}
+
+void PaintFrame(QPainter& painter, const QRect& visible, const QRect& frame, int width,
+                const OverlayStyle& style) {
     for (const QRect& side : RimOf(Widened(frame, width), 3 * width)) {
-        painter.fillRect(side, style.Casing);
+        FillHere(painter, side & visible, style.Casing);
     }
     for (const QRect& side : RimOf(frame, width)) {
-        painter.fillRect(side, style.Accent);
+        FillHere(painter, side & visible, style.Accent);
     }
 }
 
-/// What of the painter's device may be painted; null if that is not known.
-QRect VisibleOf(const QPainter& painter) {
-    return painter.hasClipping() ? painter.clipBoundingRect().toAlignedRect() : QRect();
-}
-
-/// Mixes a colour into the scan lines of a picture whose first pixel is `corner`.
-void CoverPiece(QImage& picture, QPoint corner, const Capsule& piece, QRgb colour) {
-    for (int y = 0; y < picture.height(); ++y) {
-        const auto [from, to] = piece.Row(corner.y() + y);
-        auto* row = reinterpret_cast<QRgb*>(picture.scanLine(y));
-        const int last = std::min(to - corner.x(), picture.width() - 1);
-        for (int x = std::max(0, from - corner.x()); x <= last; ++x) {
-            const unsigned cover = piece.Cover(corner.x() + x, corner.y() + y);
-            row[x] = PixelOf(LanesOf(colour) * cover + LanesOf(row[x]) * (255 - cover));
+/// Mixes a colour into the pixels of a strip, row by row without a gap.
+void CoverPiece(std::vector<QRgb>& pixels, const QRect& strip, const Capsule& piece, QRgb colour) {
+    const std::uint64_t ink = LanesOf(colour);
+    QRgb* row = pixels.data();
+    for (int y = strip.top(); y <= strip.bottom(); ++y, row += strip.width()) {
+        const auto [from, to] = piece.Row(y);
+        const int last = std::min(to, strip.right());
+        for (int x = std::max(from, strip.left()); x <= last; ++x) {
+            const unsigned cover = piece.Cover(x, y);
+            QRgb& pixel = row[x - strip.left()];
+            pixel = PixelOf(ink * cover + LanesOf(pixel) * (255 - cover));
         }
     }
 }
 
 /// As a backstitch line is painted: some scan lines at a time, so that only the pixels along the
 /// line are touched. The system's own smooth lines cost a view's repaint half as much again.
-void PaintBand(QPainter& painter, const QLineF& band, const Layout& layout,
+void PaintBand(QPainter& painter, const QRect& visible, const QLineF& band, const Layout& layout,
                const OverlayStyle& style) {
     constexpr int rows = 32;
     const double width = layout.LineWidth();
     const Capsule cased(band.p1(), band.p2(), width / 2 + layout.Casing());
     const Capsule accent(band.p1(), band.p2(), width / 2);
-    const QRect visible = VisibleOf(painter);
-    const int first = visible.isNull() ? cased.Top() : std::max(visible.top(), cased.Top());
-    const int last = visible.isNull() ? cased.Bottom() : std::min(visible.bottom(), cased.Bottom());
-    for (int top = first; top <= last; top += rows) {
+    const int last = std::min(visible.bottom(), cased.Bottom());
+    std::vector<QRgb> pixels;
+    for (int top = std::max(visible.top(), cased.Top()); top <= last; top += rows) {
         const int bottom = std::min(top + rows - 1, last);
         const auto [upperLeft, upperRight] = cased.Row(top);
         const auto [lowerLeft, lowerRight] = cased.Row(bottom);
-        QRect strip(QPoint(std::min(upperLeft, lowerLeft), top),
-                    QPoint(std::max(upperRight, lowerRight), bottom));
-        strip = visible.isNull() ? strip : strip & visible;
+        const QRect strip = QRect(QPoint(std::min(upperLeft, lowerLeft), top),
+                                  QPoint(std::max(upperRight, lowerRight), bottom)) &
+                            visible;
         if (strip.isEmpty()) {
             continue;
         }
-        QImage picture(strip.size(), QImage::Format_ARGB32_Premultiplied);
-        picture.fill(0);
-        CoverPiece(picture, strip.topLeft(), cased, style.Casing.rgb());
-        CoverPiece(picture, strip.topLeft(), accent, style.Accent.rgb());
+        pixels.assign(
+            static_cast<std::size_t>(strip.width()) * static_cast<std::size_t>(strip.height()), 0);
+        CoverPiece(pixels, strip, cased, style.Casing.rgb());
+        CoverPiece(pixels, strip, accent, style.Accent.rgb());
+        const QImage picture(reinterpret_cast<const uchar*>(pixels.data()), strip.width(),
+                             strip.height(), QImage::Format_ARGB32_Premultiplied);
         painter.drawImage(strip.topLeft(), picture);
     }
 }
@@ -208,6 +217,7 @@ QRegion OverlayPainter::Covered() const {
 
 void OverlayPainter::Paint(QPainter& painter) const {
     const Layout layout(m_geometry, m_style.LineWidth);
+    const QRect visible = VisibleOf(painter);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, false);
     if (m_overlay.Mirror) {
@@ -215,21 +225,21 @@ void OverlayPainter::Paint(QPainter& painter) const {
         if (!axis.isEmpty()) {
             OverlayStyle fine = m_style;
             fine.Casing.setAlpha(AxisCasingAlpha);
-            FillCased(painter, axis, layout.Casing(), fine);
+            FillCased(painter, visible, axis, layout.Casing(), fine);
         }
     }
     if (m_overlay.Frame) {
         const QRect frame = layout.FrameOf(*m_overlay.Frame);
         if (!frame.isEmpty()) {
-            PaintFrame(painter, frame, layout.Casing(), m_style);
+            PaintFrame(painter, visible, frame, layout.Casing(), m_style);
         }
     }
     if (m_overlay.RubberBand) {
-        PaintBand(painter, layout.BandOf(*m_overlay.RubberBand), layout, m_style);
+        PaintBand(painter, visible, layout.BandOf(*m_overlay.RubberBand), layout, m_style);
     }
     if (m_overlay.Handles) {
         for (const LatticePos& end : {m_overlay.Handles->Start, m_overlay.Handles->End}) {
-            FillCased(painter, layout.HandleAt(end), layout.Casing(), m_style);
+            FillCased(painter, visible, layout.HandleAt(end), layout.Casing(), m_style);
         }
     }
     painter.restore();

@@ -107,8 +107,15 @@ private:
     void PaintPart(QImage& image, const QRect& pixels, const Layers& layers);
     /// The design into all of an image; its upper left pixel is `corner` of the grid.
     void PaintCloth(QImage& image, QPoint corner);
-    void ShowBand(QPainter& painter, const DevicePixels& device, const QRect& band,
-                  const QImage& image, const QRegion& exposed) const;
+    /// Pixels from one of the grid's on.
+    struct Piece {
+        QImage& Image; // one that is shared would be copied before it is painted into
+        QPoint Corner;
+    };
+    /// Brings what is exposed of a band onto the screen: into the window's own pixels, or by the
+    /// painter if that piece is null.
+    static void ShowBand(QPainter& painter, const Piece& window, const Piece& band,
+                         const QRegion& exposed);
     void UpdatePixels(const QRegion& pixels);
     [[nodiscard]] OverlayPainter OverlayOf(const Overlay& overlay) const;
     [[nodiscard]] PointerEvent EventOf(const QMouseEvent& event, PointerButton button) const;

@@ -48,12 +48,15 @@ std::vector<QRect> FewRectsOf(const QRegion& region) {
     return rects;
 }
 
-/// Copies the part `from` of a picture into all of another.
-void CopyPart(const QImage& picture, QPoint from, QImage& to) {
-    const auto bytes = static_cast<std::size_t>(to.width()) * sizeof(QRgb);
-    for (int y = 0; y < to.height(); ++y) {
-        std::memcpy(to.scanLine(y), picture.constScanLine(from.y() + y) + qsizetype{from.x()} * 4,
-                    bytes);
+/// Copies so many pixels of a picture to a place of another.
+void CopyPart(const QImage& picture, QPoint from, QImage& image, QPoint to, const QSize& size) {
+    const uchar* source = picture.constScanLine(from.y()) + qsizetype{from.x()} * 4;
+    uchar* target = image.scanLine(to.y()) + qsizetype{to.x()} * 4;
+    const auto bytes = static_cast<std::size_t>(size.width()) * sizeof(QRgb);
+    for (int y = 0; y < size.height(); ++y) {
+        std::memcpy(target, source, bytes);
+        source += picture.bytesPerLine();
+        target += image.bytesPerLine();
     }
 }
 
@@ -73,17 +76,16 @@ void GridCanvas::PaintExposed(const QRegion& region) {
     const Layers layers{overlay, overlay.Covered(),
                         device.Covering(visibleRegion().boundingRect())};
     for (const QRect& part : FewRectsOf(exposed)) {
+        QImage window = device.PixelsOf(*this, painter, part);
         // What lies wholly in what is exposed is painted where the window keeps its pixels.
-        QImage pixels =
-            (QRegion(part) - exposed).isEmpty() ? device.PixelsOf(*this, painter, part) : QImage();
-        if (!pixels.isNull()) {
-            PaintPart(pixels, part, layers);
+        if (!window.isNull() && (QRegion(part) - exposed).isEmpty()) {
+            PaintPart(window, part, layers);
             continue;
         }
         for (const QRect& band : BandsOf(part)) {
             QImage image = BandImage(band.size());
             PaintPart(image, band, layers);
-            ShowBand(painter, device, band, image, exposed);
+            ShowBand(painter, {window, part.topLeft()}, {image, band.topLeft()}, exposed);
         }
     }
 }
@@ -142,20 +144,21 @@ void GridCanvas::PaintCloth(QImage& image, QPoint corner) {
     }
 }
 
-void GridCanvas::ShowBand(QPainter& painter, const DevicePixels& device, const QRect& band,
-                          const QImage& image, const QRegion& exposed) const {
+void GridCanvas::ShowBand(QPainter& painter, const Piece& window, const Piece& band,
+                          const QRegion& exposed) {
     // A rectangle that lies wholly in what is exposed is copied as it is; one that the system had
     // to cut would go to the screen in little pieces, handed from thread to thread.
+    const QRect pixels(band.Corner, band.Image.size());
     for (const QRect& rect : exposed) {
-        const QRect shown = rect & band;
+        const QRect shown = rect & pixels;
         if (shown.isEmpty()) {
             continue;
         }
-        const QRect part = shown.translated(-band.topLeft());
-        if (QImage pixels = device.PixelsOf(*this, painter, shown); !pixels.isNull()) {
-            CopyPart(image, part.topLeft(), pixels);
+        const QPoint from = shown.topLeft() - band.Corner;
+        if (window.Image.isNull()) {
+            painter.drawImage(shown.topLeft(), band.Image, QRect(from, shown.size()));
         } else {
-            painter.drawImage(shown.topLeft(), image, part);
+            CopyPart(band.Image, from, window.Image, shown.topLeft() - window.Corner, shown.size());
         }
     }
 }

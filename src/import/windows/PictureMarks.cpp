@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "grid/painting/FillHere.h"
+
 namespace zol::PictureMarks {
 
 namespace {
@@ -91,7 +93,7 @@ void DrawBand(QPainter& painter, const PicturePlace& place, const QRectF& band,
     const QRect exposed = painter.clipBoundingRect().toAlignedRect();
     const auto fill = [&](const QRect& rect, const QColor& colour) {
         if (rect.intersects(exposed)) {
-            painter.fillRect(rect & exposed, colour);
+            FillHere(painter, rect & exposed, colour);
         }
     };
     for (const QRect& side : sides) {
@@ -122,20 +124,29 @@ QRegion BandChange(const PicturePlace& place, const QRectF& before, const QRectF
     if (before.isEmpty() || after.isEmpty()) {
         return place.Content; // what is dimmed
     }
-    // A strip along each side, from where it was to where it is: few rectangles paint faster than
-    // many that cover less.
+    // A strip along each side that moves, from where it was to where it is: few rectangles paint
+    // faster than many that cover less. Of one that stays only the handle in its middle may move.
     const QRect old = OnPixels(place, before);
     const QRect now = OnPixels(place, after);
     const QRect both = old | now;
     const int reach = HandleReach(place);
-    const auto strip = [&](QPoint from, QPoint to) {
-        return QRect(from, to).adjusted(-reach, -reach, reach, reach);
-    };
+    const QRect middles = QRect(old.center(), old.center()) | QRect(now.center(), now.center());
     QRegion change;
-    change += strip(both.topLeft(), {both.right(), std::max(old.top(), now.top())});
-    change += strip({both.left(), std::min(old.bottom(), now.bottom())}, both.bottomRight());
-    change += strip(both.topLeft(), {std::max(old.left(), now.left()), both.bottom()});
-    change += strip({std::min(old.right(), now.right()), both.top()}, both.bottomRight());
+    const auto side = [&](bool moves, const QRect& strip, const QRect& handles) {
+        change += (moves ? strip : handles).adjusted(-reach, -reach, reach, reach);
+    };
+    side(old.top() != now.top(),
+         {both.topLeft(), QPoint(both.right(), std::max(old.top(), now.top()))},
+         {middles.left(), now.top(), middles.width(), 1});
+    side(old.bottom() != now.bottom(),
+         {QPoint(both.left(), std::min(old.bottom(), now.bottom())), both.bottomRight()},
+         {middles.left(), now.bottom(), middles.width(), 1});
+    side(old.left() != now.left(),
+         {both.topLeft(), QPoint(std::max(old.left(), now.left()), both.bottom())},
+         {now.left(), middles.top(), 1, middles.height()});
+    side(old.right() != now.right(),
+         {QPoint(std::min(old.right(), now.right()), both.top()), both.bottomRight()},
+         {now.right(), middles.top(), 1, middles.height()});
     return change;
 }
 

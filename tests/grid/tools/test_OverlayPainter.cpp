@@ -102,6 +102,26 @@ TEST_P(OverlayTest, NothingIsPaintedOutsideWhatIsCovered) {
     }
 }
 
+TEST_P(OverlayTest, PieceByPieceItLooksTheSame) {
+    Overlay overlay;
+    overlay.RubberBand = OverlayLine{{3, 5}, {46, 30}};
+    overlay.Handles = OverlayLine{{3, 5}, {46, 30}};
+    overlay.Frame = SquareRect{5, 4, 20, 15};
+    overlay.Mirror = OverlayAxis{MirrorVertical, {12, 9}};
+    const QImage whole = Paint(overlay);
+    QImage image(whole.size(), QImage::Format_RGB32);
+    image.fill(Cloth);
+    constexpr int side = 37;
+    for (int y = 0; y < image.height(); y += side) {
+        for (int x = 0; x < image.width(); x += side) {
+            QPainter painter(&image);
+            painter.setClipRect(x, y, side, side);
+            OverlayPainter(overlay, geometry, style).Paint(painter);
+        }
+    }
+    EXPECT_EQ(image, whole);
+}
+
 TEST_P(OverlayTest, ASlantingBandCoversAStripAndNotItsWholeRectangle) {
     Overlay overlay;
     overlay.RubberBand = OverlayLine{{1, 1}, {49, 37}};

@@ -3,13 +3,17 @@
 
 #include <QDialog>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <random>
 
 #include "DeskKit.h"
 #include "PictureViewKit.h"
 #include "import/PictureOps.h"
 #include "import/windows/CropScreen.h"
+#include "import/windows/PictureMarks.h"
 #include "support/DialogHands.h"
 
 namespace zol {
@@ -58,6 +62,7 @@ private Q_SLOTS:
     void aBandWithoutSizeIsDropped();
     void theBandsSidesAndCornersAreDragged();
     void whatLiesOutsideTheBandIsDimmed();
+    void whatChangesWithTheBandIsRepainted();
     void arrowsNudgeAndStretchTheBand();
     void escapeFreesTheBandFirst();
     void resetBringsThePictureBack();
@@ -137,6 +142,40 @@ void test_CropScreen::whatLiesOutsideTheBandIsDimmed() {
     scene.View().viewport()->update();
     QCOMPARE(moved, Shot(scene.View()));
     QCOMPARE(ShownAt(scene.View(), moved, {100, 120}), ShownAt(scene.View(), plain, {100, 120}));
+}
+
+void test_CropScreen::whatChangesWithTheBandIsRepainted() {
+    std::mt19937 random(11); // NOLINT(cert-msc51-cpp): the same bands each time
+    const auto upTo = [&](int last) {
+        return static_cast<int>(random() % static_cast<unsigned>(last + 1));
+    };
+    const auto paint = [](QImage& image, const PicturePlace& place, const QRectF& band,
+                          const QRegion& part) {
+        QPainter painter(&image);
+        for (const QRect& rect : part) {
+            painter.setClipRect(rect);
+            painter.fillRect(rect, QColor(90, 160, 40));
+            PictureMarks::DrawBand(painter, place, band, Qt::blue);
+        }
+    };
+    for (int round = 0; round < 300; ++round) {
+        const double ratio = 1 + upTo(4) / 4.0;
+        const PicturePlace place{
+            {upTo(20) - 10, upTo(20) - 10, 90 + upTo(90), 150}, {80, 70}, ratio};
+        QImage image(200, 170, QImage::Format_RGB32);
+        const QRectF before(upTo(40), upTo(30), 1 + upTo(39), 1 + upTo(39));
+        // Each side moves or stays by itself.
+        const auto move = [&] { return upTo(1) * (upTo(18) - 9); };
+        const QRectF after = before.adjusted(move(), move(), move(), move());
+        if (after.width() < 1 || after.height() < 1 || !QRectF(0, 0, 80, 70).contains(after)) {
+            continue;
+        }
+        paint(image, place, before, image.rect());
+        paint(image, place, after, PictureMarks::BandChange(place, before, after));
+        QImage anew(image.size(), image.format());
+        paint(anew, place, after, anew.rect());
+        QCOMPARE(image, anew);
+    }
 }
 
 void test_CropScreen::arrowsNudgeAndStretchTheBand() {
