@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QAbstractScrollArea>
+#include <QBasicTimer>
 #include <QColor>
 #include <QCursor>
 #include <QImage>
@@ -27,7 +28,8 @@ namespace zol {
 /// cost of its own size, whatever the picture's.
 ///
 /// Ctrl and the wheel zoom at the pointer; the middle button, or the blank's key with the left
-/// one, drags the picture; arrows, Page Up and Down, Home and End scroll it.
+/// one, drags the picture; arrows, Page Up and Down, Home and End scroll it. While the left button
+/// is held with the pointer past the edge of the view, the picture scrolls on, up to its own edge.
 class PictureView : public QAbstractScrollArea {
     Q_OBJECT
 
@@ -94,7 +96,7 @@ Q_SIGNALS:
     /// The left button, in places of the picture, also outside it.
     void Pressed(QPointF place, Qt::KeyboardModifiers modifiers);
     void Released(QPointF place);
-    /// The pointer has moved; `dragging` from a press to its release.
+    /// The pointer has moved, or the picture under it; `dragging` from a press to its release.
     void Moved(QPointF place, bool dragging);
     /// The pointer has left the view.
     void Left();
@@ -112,6 +114,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
 
@@ -125,6 +128,7 @@ private:
     void Repaint();
     void SetPanning(bool panning, QPoint at = {});
     void ShowPointer();
+    void ScrollOn();
     [[nodiscard]] PictureGround Ground() const;
 
     PictureLevels m_levels;
@@ -146,6 +150,8 @@ private:
     bool m_panning = false;
     bool m_blankHeld = false;
     QPoint m_panFrom;
+    QPointF m_dragAt;        ///< where in the viewport the pointer drags
+    QBasicTimer m_scrolling; ///< while it drags past the edge
     QCursor m_pointer;
 };
 

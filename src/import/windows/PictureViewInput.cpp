@@ -6,8 +6,10 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QTimerEvent>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <cmath>
 
 #include "import/windows/PictureView.h"
@@ -19,6 +21,24 @@ namespace {
 /// What a notch of the wheel zooms by, and how far it turns.
 constexpr double NotchFactor = 1.25;
 constexpr double NotchAngle = 120;
+/// Of a drag past the edge: milliseconds from step to step, and the longest step in pixels of the
+/// window.
+constexpr int ScrollEveryMs = 16;
+constexpr double LongestStep = 40;
+
+/// How far to scroll for a pointer that far along a view of that length: 0 inside, more the farther
+/// outside it is.
+double StepFor(double place, int length) {
+    const double outside = place < 0 ? place : std::max(0.0, place - length + 1);
+    return std::clamp(outside / 2, -LongestStep, LongestStep);
+}
+
+/// Scrolls by that much; false if there is nothing to scroll that way.
+bool Scroll(QScrollBar& bar, double step) {
+    const int before = bar.value();
+    bar.setValue(before + static_cast<int>(step < 0 ? std::floor(step) : std::ceil(step)));
+    return bar.value() != before;
+}
 
 } // namespace
 
@@ -69,7 +89,38 @@ void PictureView::mouseMoveEvent(QMouseEvent* event) {
                                       static_cast<int>(std::lround(moved.y())));
         return;
     }
-    Q_EMIT Moved(InPicture(event->position()), m_dragging);
+    m_dragAt = event->position();
+    if (m_dragging && !QRectF(viewport()->rect()).contains(m_dragAt)) {
+        // A pointer that keeps moving does not hurry it.
+        if (!m_scrolling.isActive()) {
+            m_scrolling.start(ScrollEveryMs, this);
+        }
+    } else {
+        m_scrolling.stop();
+    }
+    Q_EMIT Moved(InPicture(m_dragAt), m_dragging);
+}
+
+void PictureView::timerEvent(QTimerEvent* event) {
+    if (event->timerId() == m_scrolling.timerId()) {
+        ScrollOn();
+    } else {
+        QAbstractScrollArea::timerEvent(event);
+    }
+}
+
+/// A step of a drag past the edge: what is drawn goes along with the picture.
+void PictureView::ScrollOn() {
+    const double ratio = m_place.Ratio;
+    const bool across =
+        Scroll(*horizontalScrollBar(), StepFor(m_dragAt.x(), viewport()->width()) * ratio);
+    const bool down =
+        Scroll(*verticalScrollBar(), StepFor(m_dragAt.y(), viewport()->height()) * ratio);
+    if (m_dragging && !m_place.IsEmpty() && (across || down)) {
+        Q_EMIT Moved(InPicture(m_dragAt), true);
+    } else {
+        m_scrolling.stop();
+    }
 }
 
 void PictureView::mouseReleaseEvent(QMouseEvent* event) {
@@ -77,6 +128,7 @@ void PictureView::mouseReleaseEvent(QMouseEvent* event) {
         SetPanning(false);
     } else if (m_dragging && event->button() == Qt::LeftButton) {
         m_dragging = false;
+        m_scrolling.stop();
         Q_EMIT Released(InPicture(event->position()));
     }
 }

@@ -65,6 +65,17 @@ inline void Drag(PictureView& view, QPointF from, QPointF to) {
     ReleaseAt(view, to);
 }
 
+/// The pointer goes past an edge of the view while the left button is held: -1 to the left or
+/// above, 1 to the right or below, 0 to the middle.
+inline void MovePast(PictureView& view, int across, int down) {
+    const auto past = [](int way, int length) {
+        constexpr int farther = 30;
+        return way == 0 ? length / 2 : (way < 0 ? -farther : length + farther);
+    };
+    const QSize size = view.viewport()->size();
+    MoveTo(view, view.InPicture(QPointF(past(across, size.width()), past(down, size.height()))));
+}
+
 /// The viewport's pixels as they are on the screen.
 inline QImage Shot(PictureView& view) {
     QCoreApplication::processEvents(); // scroll bars come and go by a posted event

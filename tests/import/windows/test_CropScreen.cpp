@@ -1,20 +1,16 @@
 // SPDX-FileCopyrightText: 2026 Korvanta contributors
 // SPDX-License-Identifier: MIT
 
-#include <QDialog>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include <random>
 
-#include "DeskKit.h"
-#include "PictureViewKit.h"
 #include "import/PictureOps.h"
 #include "import/windows/CropScreen.h"
 #include "import/windows/PictureMarks.h"
-#include "support/DialogHands.h"
+#include "import/windows/ScreenScene.h"
 
 namespace zol {
 
@@ -24,33 +20,12 @@ using test::PlacePicture;
 using test::Shot;
 using test::ShownAt;
 
-/// The screen in a dialog, as in the wizard, with a picture of 300 by 200 that came from the
-/// first screen.
-class CropScene {
+/// The screen with a picture of 300 by 200.
+class CropScene : public test::ScreenScene<CropScreen> {
 public:
-    explicit CropScene(SharedPicture picture = PlacePicture(300, 200)) {
-        Kit.Work.TheImage = std::move(picture);
-        Screen = new CropScreen(Kit.Desk, &Dialog);
-        (new QVBoxLayout(&Dialog))->addWidget(Screen);
-        Screen->DisplayScreen(false);
-        Dialog.resize(800, 500);
-        Dialog.show();
-        Dialog.activateWindow();
-        if (!QTest::qWaitForWindowActive(&Dialog)) {
-            qFatal("the dialog does not come up");
-        }
-    }
-    [[nodiscard]] PictureView& View() { return PartOf<PictureView>(*Screen, "lpicCrop"); }
-    [[nodiscard]] const Picture& Shown() { return *View().Shown(); }
+    explicit CropScene(SharedPicture picture = PlacePicture(300, 200))
+        : ScreenScene("lpicCrop", std::move(picture)) {}
     [[nodiscard]] QString Text(const char* label) { return PartOf<QLabel>(*Screen, label).text(); }
-    [[nodiscard]] QPushButton& CropButton() { return PartOf<QPushButton>(*Screen, "cmdCrop"); }
-    void Press(const char* button) {
-        QTest::mouseClick(&PartOf<QPushButton>(*Screen, button), Qt::LeftButton);
-    }
-
-    test::DeskKit Kit;
-    QDialog Dialog;
-    CropScreen* Screen = nullptr;
 };
 
 class test_CropScreen : public QObject {
@@ -71,6 +46,7 @@ private Q_SLOTS:
     void goingBackKeepsThePictureGoingForwardTakesItAnew();
     void erasedSquaresSurviveAResetAfterwards();
     void cropsAtEachZoomAndPixel();
+    void aBandGoesOnPastTheEdgeOfTheView();
     void withoutAPictureNothingHappens();
 };
 
@@ -86,13 +62,13 @@ void test_CropScreen::theInstructionIsAsTold() {
 void test_CropScreen::aBandIsDrawnAndCropped() {
     CropScene scene;
     const Picture before = scene.Shown();
-    QVERIFY(!scene.CropButton().isEnabled());
+    QVERIFY(!scene.Offers("cmdCrop"));
     Drag(scene.View(), {40, 30}, {140, 90});
     QCOMPARE(scene.Text("lblBandSize"), QStringLiteral("100 × 60 pixels"));
     scene.Press("cmdCrop");
     QCOMPARE(scene.Shown(), CropPicture(before, {40, 30, 100, 60}));
     QCOMPARE(scene.Text("lblPictureSize"), QStringLiteral("100 × 60 pixels"));
-    QVERIFY(!scene.CropButton().isEnabled());
+    QVERIFY(!scene.Offers("cmdCrop"));
     // The picture that travels is that of the screen before until this one is left.
     QCOMPARE(*scene.Kit.Work.TheImage, before);
 }
@@ -100,11 +76,11 @@ void test_CropScreen::aBandIsDrawnAndCropped() {
 void test_CropScreen::aBandWithoutSizeIsDropped() {
     CropScene scene;
     Drag(scene.View(), {40, 30}, {140, 30});
-    QVERIFY(!scene.CropButton().isEnabled());
+    QVERIFY(!scene.Offers("cmdCrop"));
     Drag(scene.View(), {40, 30}, {140, 90});
-    QVERIFY(scene.CropButton().isEnabled());
+    QVERIFY(scene.Offers("cmdCrop"));
     Drag(scene.View(), {250, 150}, {250, 150});
-    QVERIFY(!scene.CropButton().isEnabled());
+    QVERIFY(!scene.Offers("cmdCrop"));
     QCOMPARE(scene.Text("lblBandSize"), QStringLiteral("Nothing is selected."));
     QCOMPARE(scene.Shown().ImageWidth(), 300);
 }
@@ -198,7 +174,7 @@ void test_CropScreen::escapeFreesTheBandFirst() {
     QTest::keyClick(&scene.View(), Qt::Key_A, Qt::ControlModifier);
     QCOMPARE(scene.Text("lblBandSize"), QStringLiteral("300 × 200 pixels"));
     QTest::keyClick(&scene.View(), Qt::Key_Escape);
-    QVERIFY(!scene.CropButton().isEnabled());
+    QVERIFY(!scene.Offers("cmdCrop"));
     QVERIFY(scene.Dialog.isVisible());
     QTest::keyClick(&scene.View(), Qt::Key_Escape);
     QVERIFY(!scene.Dialog.isVisible());
@@ -280,14 +256,31 @@ void test_CropScreen::cropsAtEachZoomAndPixel() {
     QCOMPARE(scene.Shown(), before);
 }
 
+void test_CropScreen::aBandGoesOnPastTheEdgeOfTheView() {
+    CropScene scene;
+    const Picture before = scene.Shown();
+    scene.View().SetZoom(400);
+    QCoreApplication::processEvents();
+    test::PressAt(scene.View(), {20, 10});
+    test::MovePast(scene.View(), 1, 1);
+    QTRY_COMPARE(scene.Text("lblBandSize"), QStringLiteral("280 × 190 pixels"));
+    test::MovePast(scene.View(), -1, -1);
+    QTRY_COMPARE(scene.Text("lblBandSize"), QStringLiteral("20 × 10 pixels"));
+    test::MovePast(scene.View(), 1, 1);
+    QTRY_COMPARE(scene.Text("lblBandSize"), QStringLiteral("280 × 190 pixels"));
+    test::ReleaseAt(scene.View(), {320, 220});
+    scene.Press("cmdCrop");
+    QCOMPARE(scene.Shown(), CropPicture(before, {20, 10, 280, 190}));
+}
+
 void test_CropScreen::withoutAPictureNothingHappens() {
     CropScene scene(nullptr);
     QTest::mouseClick(scene.View().viewport(), Qt::LeftButton);
     scene.View().setFocus();
     QTest::keyClick(&scene.View(), Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&scene.View(), Qt::Key_Right);
-    QVERIFY(!scene.CropButton().isEnabled());
-    QVERIFY(!PartOf<QPushButton>(*scene.Screen, "cmdResetCrop").isEnabled());
+    QVERIFY(!scene.Offers("cmdCrop"));
+    QVERIFY(!scene.Offers("cmdResetCrop"));
     QVERIFY(scene.Screen->ValidateScreen());
     QVERIFY(scene.Kit.Work.TheImage == nullptr);
 }

@@ -1,17 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Korvanta contributors
 // SPDX-License-Identifier: MIT
 
-#include <QDialog>
 #include <QLabel>
-#include <QPushButton>
 #include <QRadioButton>
-#include <QVBoxLayout>
+#include <QScrollBar>
 
-#include "DeskKit.h"
-#include "PictureViewKit.h"
 #include "import/Eraser.h"
 #include "import/windows/EraseScreen.h"
-#include "support/DialogHands.h"
+#include "import/windows/ScreenScene.h"
 
 namespace zol {
 
@@ -21,41 +17,17 @@ using test::PlacePicture;
 using test::Shot;
 using test::ShownAt;
 
-/// The screen in a dialog, as in the wizard, with a picture of 300 by 200.
-class EraseScene {
+/// The screen with a picture of 300 by 200.
+class EraseScene : public test::ScreenScene<EraseScreen> {
 public:
-    explicit EraseScene(SharedPicture picture = PlacePicture(300, 200)) {
-        Kit.Work.TheImage = std::move(picture);
-        Screen = new EraseScreen(Kit.Desk, &Dialog);
-        (new QVBoxLayout(&Dialog))->addWidget(Screen);
-        Screen->DisplayScreen(false);
-        Dialog.resize(800, 500);
-        Dialog.show();
-        Dialog.activateWindow();
-        if (!QTest::qWaitForWindowActive(&Dialog)) {
-            qFatal("the dialog does not come up");
-        }
-    }
-    [[nodiscard]] PictureView& View() { return PartOf<PictureView>(*Screen, "lpicErase"); }
-    [[nodiscard]] const Picture& Shown() { return *View().Shown(); }
+    explicit EraseScene(SharedPicture picture = PlacePicture(300, 200))
+        : ScreenScene("lpicErase", std::move(picture)) {}
     [[nodiscard]] bool IsErased(int x, int y) { return Shown().ImagePixel(x, y) == EraseColor; }
-    [[nodiscard]] bool Offers(const char* button) {
-        return PartOf<QPushButton>(*Screen, button).isEnabled();
-    }
-    void Press(const char* button) { test::ClickIn(*Screen, button); }
     void SelectRectangle(QPointF from, QPointF to) {
         Press("optEraseBy1");
         Press("optMaskMode1");
         Drag(View(), from, to);
     }
-    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-        View().setFocus();
-        QTest::keyClick(&View(), key, modifiers);
-    }
-
-    test::DeskKit Kit;
-    QDialog Dialog;
-    EraseScreen* Screen = nullptr;
 };
 
 class test_EraseScreen : public QObject {
@@ -81,6 +53,9 @@ private Q_SLOTS:
     void resetBringsThePictureBack();
     void leavingFreesTheRegionAndHandsOn();
     void goingBackKeepsThePictureGoingForwardTakesItAnew();
+    void aStrokeGoesOnPastTheEdgeOfTheView();
+    void anAreaGoesOnPastTheEdgeOfTheView_data();
+    void anAreaGoesOnPastTheEdgeOfTheView();
     void withoutAPictureNothingHappens();
 };
 
@@ -392,6 +367,56 @@ void test_EraseScreen::goingBackKeepsThePictureGoingForwardTakesItAnew() {
     scene.Screen->DisplayScreen(false);
     QCOMPARE(scene.Shown(), *scene.Kit.Work.TheImage);
     QVERIFY(!scene.Offers("cmdUndo"));
+}
+
+void test_EraseScreen::aStrokeGoesOnPastTheEdgeOfTheView() {
+    EraseScene scene;
+    PictureView& view = scene.View();
+    view.SetZoom(400);
+    QCoreApplication::processEvents();
+    const int row = int(view.InPicture(QPointF(0, view.viewport()->height() / 2)).y());
+    test::PressAt(view, {20, row + 0.5});
+    test::MovePast(view, 1, 0);
+    QTRY_VERIFY(scene.IsErased(299, row));
+    test::MovePast(view, -1, 0);
+    QTRY_VERIFY(scene.IsErased(0, row));
+    test::ReleaseAt(view, {0, row + 0.5});
+    for (int x = 0; x < 300; ++x) {
+        QVERIFY(scene.IsErased(x, row));
+    }
+}
+
+void test_EraseScreen::anAreaGoesOnPastTheEdgeOfTheView_data() {
+    QTest::addColumn<QByteArray>("mode");
+    QTest::newRow("freehand") << QByteArray("optMaskMode0");
+    QTest::newRow("rectangle") << QByteArray("optMaskMode1");
+    QTest::newRow("oval") << QByteArray("optMaskMode2");
+}
+
+/// A drag round three sides; the fourth is closed by itself.
+void test_EraseScreen::anAreaGoesOnPastTheEdgeOfTheView() {
+    QFETCH(QByteArray, mode);
+    EraseScene scene;
+    scene.Press("optEraseBy1");
+    scene.Press(mode.constData());
+    PictureView& view = scene.View();
+    view.SetZoom(400);
+    QCoreApplication::processEvents();
+    const QScrollBar& across = *view.horizontalScrollBar();
+    const QScrollBar& down = *view.verticalScrollBar();
+    test::PressAt(view, {1, 1});
+    test::MovePast(view, 1, 0);
+    QTRY_COMPARE(across.value(), across.maximum());
+    test::MovePast(view, 1, 1);
+    QTRY_COMPARE(down.value(), down.maximum());
+    const QPointF end = view.InPicture(QPointF(view.viewport()->rect().bottomRight()));
+    QVERIFY(end.x() > 295 && end.y() > 195);
+    test::ReleaseAt(view, end);
+    QVERIFY(scene.Offers("cmdClearSelected"));
+    scene.Press("cmdClearSelected");
+    QVERIFY(scene.IsErased(200, 95));
+    QVERIFY(scene.IsErased(260, 120));
+    QVERIFY(!scene.IsErased(10, 190) || mode == "optMaskMode1");
 }
 
 void test_EraseScreen::withoutAPictureNothingHappens() {

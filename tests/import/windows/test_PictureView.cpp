@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Korvanta contributors
 // SPDX-License-Identifier: MIT
 
+#include <QAbstractEventDispatcher>
 #include <QPainter>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -35,6 +36,8 @@ private Q_SLOTS:
     void theMouseTellsPlacesAlsoOutside();
     void ctrlAndTheWheelZoomAtThePointer();
     void theMiddleButtonAndTheBlankDragThePicture();
+    void aDragPastTheEdgeScrollsUpToThePicturesEdge();
+    void onlyADragPastTheEdgeScrolls();
     void keysScroll();
     void realSizeIsTheBaseScale();
     void anOverlayPaintsWhatChangedOnly();
@@ -44,6 +47,9 @@ private Q_SLOTS:
     void extremePicturesShow();
 
 private:
+    [[nodiscard]] bool IsScrolling() const {
+        return !QAbstractEventDispatcher::instance()->registeredTimers(m_view.get()).isEmpty();
+    }
     std::unique_ptr<PictureView> m_view;
 };
 
@@ -246,6 +252,61 @@ void test_PictureView::theMiddleButtonAndTheBlankDragThePicture() {
     QVERIFY((m_view->InPicture({50, 50}) - start).manhattanLength() < 2);
     QCOMPARE(m_view->viewport()->cursor().shape(), Qt::ArrowCursor);
     QCOMPARE(pressed.size(), 0);
+}
+
+void test_PictureView::aDragPastTheEdgeScrollsUpToThePicturesEdge() {
+    m_view->ShowPicture(PlacePicture(300, 200));
+    m_view->SetZoom(400);
+    QCoreApplication::processEvents();
+    const QScrollBar& across = *m_view->horizontalScrollBar();
+    const QScrollBar& down = *m_view->verticalScrollBar();
+    test::PressAt(*m_view, m_view->InPicture({100, 100}));
+    m_view->verticalScrollBar()->setValue(50);
+    QSignalSpy moved(m_view.get(), &PictureView::Moved);
+    const int from = across.value();
+    test::MovePast(*m_view, 1, 0);
+    QCOMPARE(across.value(), from); // not with the event itself: a still pointer scrolls as well
+    QTRY_COMPARE(across.value(), across.maximum());
+    QCOMPARE(down.value(), 50);
+    QVERIFY(moved.size() > 2);
+    for (int i = 1; i < moved.size(); ++i) {
+        QVERIFY(moved[i][1].toBool());
+        QVERIFY(moved[i][0].toPointF().x() > moved[i - 1][0].toPointF().x());
+    }
+    QVERIFY(moved.back()[0].toPointF().x() >= 300);
+    QTRY_VERIFY(!IsScrolling()); // at the picture's edge there is nothing left to do
+    test::MovePast(*m_view, -1, -1);
+    QTRY_VERIFY(across.value() == 0 && down.value() == 0);
+    QTRY_VERIFY(!IsScrolling());
+    test::MovePast(*m_view, 0, 1);
+    QTRY_COMPARE(down.value(), down.maximum());
+    QCOMPARE(across.value(), 0);
+}
+
+void test_PictureView::onlyADragPastTheEdgeScrolls() {
+    m_view->ShowPicture(PlacePicture(300, 200));
+    m_view->SetZoom(400);
+    QCoreApplication::processEvents();
+    const QPointF inside = m_view->InPicture({100, 100});
+    test::MoveTo(*m_view, m_view->InPicture({-20, -20}), Qt::NoButton);
+    QVERIFY(!IsScrolling());
+    test::PressAt(*m_view, inside);
+    test::MovePast(*m_view, 1, 1);
+    QVERIFY(IsScrolling());
+    test::MoveTo(*m_view, m_view->InPicture({100, 100}));
+    QVERIFY(!IsScrolling());
+    test::MovePast(*m_view, 1, 1);
+    QVERIFY(IsScrolling());
+    test::ReleaseAt(*m_view, inside);
+    QVERIFY(!IsScrolling());
+    // A picture that is shown whole stays where it is.
+    m_view->ZoomToFit();
+    QCoreApplication::processEvents();
+    test::PressAt(*m_view, {150, 100});
+    const PicturePlace place = m_view->Place();
+    test::MovePast(*m_view, 1, 1);
+    QTRY_VERIFY(!IsScrolling());
+    QCOMPARE(m_view->Place(), place);
 }
 
 void test_PictureView::keysScroll() {
