@@ -4,46 +4,16 @@
 #pragma once
 
 #include <cstdint>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "flosses/Palette.h"
 #include "model/Doors.h"
+#include "support/TempFolder.h"
 
 namespace zol::test {
-
-/// A folder of its own that goes away with the test.
-class TempFolder {
-public:
-    TempFolder() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "korvanta-XXXXXX").string();
-        if (::mkdtemp(pattern.data()) == nullptr) {
-            throw std::runtime_error("no temporary folder");
-        }
-        m_path = pattern;
-    }
-    ~TempFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(m_path, ignored);
-    }
-    TempFolder(const TempFolder&) = delete;
-    TempFolder& operator=(const TempFolder&) = delete;
-
-    [[nodiscard]] const std::filesystem::path& Path() const { return m_path; }
-    [[nodiscard]] std::filesystem::path operator/(const std::string& name) const {
-        return m_path / name;
-    }
-
-private:
-    std::filesystem::path m_path;
-};
 
 /// Keeps what the user would have been shown.
 class RecordedMessages : public MessageDoor {
@@ -74,17 +44,6 @@ public:
 private:
     std::optional<std::string> m_answer;
 };
-
-inline void WriteFile(const std::filesystem::path& path, const std::vector<std::uint8_t>& bytes) {
-    std::ofstream file(path, std::ios::binary);
-    file.write(reinterpret_cast<const char*>(bytes.data()),
-               static_cast<std::streamsize>(bytes.size()));
-}
-
-[[nodiscard]] inline std::vector<std::uint8_t> ReadFile(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
 
 /// Bytes written out by hand, independent of the program's own writer.
 class HandWritten {

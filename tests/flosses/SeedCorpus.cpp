@@ -24,8 +24,8 @@ void WriteSeed(const std::string& target, const std::string& name, const Bytes& 
     }
     const std::filesystem::path folder = std::filesystem::path(corpus) / target;
     std::filesystem::create_directories(folder);
-    test::WriteFile(folder / name, bytes);
-    EXPECT_EQ(test::ReadFile(folder / name), bytes);
+    test::WriteBytes(folder / name, bytes);
+    EXPECT_EQ(test::ReadBytes(folder / name), bytes);
 }
 
 TEST(SeedCorpus, PalettesOfEveryForm) {

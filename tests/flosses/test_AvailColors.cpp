@@ -77,7 +77,7 @@ TEST_F(AvailColorsTest, ReadsBytesWrittenByHand) {
     HandWritten file = Header("Anchor", "Anch");
     Row(file, 300, "Deep red", "20", 1, 2, 3);
     Row(file, 5, "Blue", "10", 4, 5, 6);
-    test::WriteFile(Flosses() / "anchor.col", file.Bytes);
+    test::WriteBytes(Flosses() / "anchor.col", file.Bytes);
     ASSERT_TRUE(catalogue.Initialize("anchor.col"));
     EXPECT_EQ(catalogue.GetFileName(), Flosses() / "anchor.col");
     EXPECT_EQ(catalogue.GetManuDesc(), "Anchor");
@@ -109,7 +109,7 @@ TEST_F(AvailColorsTest, WritesTheSameBytes) {
 }
 
 TEST_F(AvailColorsTest, AHeaderAloneHasNoRows) {
-    test::WriteFile(Flosses() / "x.col", Header("Anchor", "Anch").Bytes);
+    test::WriteBytes(Flosses() / "x.col", Header("Anchor", "Anch").Bytes);
     EXPECT_TRUE(catalogue.Initialize("x.col"));
     EXPECT_EQ(catalogue.GetFlossCount(), 0);
     EXPECT_EQ(catalogue.GetManuDesc(), "Anchor");
@@ -120,8 +120,9 @@ TEST_F(AvailColorsTest, AShortLastRecordIsDroppedWhereverTheFileEnds) {
     Row(file, 300, "Deep red", "20", 1, 2, 3);
     Row(file, 5, "Blue", "10", 4, 5, 6);
     for (std::size_t size = 0; size <= file.Bytes.size(); ++size) {
-        test::WriteFile(folder / "x.col", {file.Bytes.begin(),
-                                           file.Bytes.begin() + static_cast<std::ptrdiff_t>(size)});
+        test::WriteBytes(
+            folder / "x.col",
+            {file.Bytes.begin(), file.Bytes.begin() + static_cast<std::ptrdiff_t>(size)});
         EXPECT_EQ(catalogue.Initialize(folder / "x.col"), size >= 54) << size;
         EXPECT_EQ(catalogue.GetFlossCount(), size < 54 ? 0 : static_cast<int>((size - 54) / 57));
     }
@@ -144,7 +145,7 @@ TEST_F(AvailColorsTest, AMissingFileOrAFolderLeavesTheEmptyObject) {
 }
 
 TEST_F(AvailColorsTest, ABareNameIsFoundWhateverItsCase) {
-    test::WriteFile(Flosses() / "Dmc.COL", Header("DMC", "DMC").Bytes);
+    test::WriteBytes(Flosses() / "Dmc.COL", Header("DMC", "DMC").Bytes);
     EXPECT_TRUE(catalogue.Initialize("dmc.col"));
 }
 
@@ -166,12 +167,12 @@ TEST_F(AvailColorsTest, BritishSpellingReplacesTheFirstGrayAndIsSavedSo) {
     HandWritten file = Header("DMC", "DMC");
     Row(file, 1, "gray gray Gray", "1", 0, 0, 0);
     Row(file, 2, "Beaver Gray", "2", 0, 0, 0);
-    test::WriteFile(folder / "x.col", file.Bytes);
+    test::WriteBytes(folder / "x.col", file.Bytes);
     context.BritishSpelling = true;
     ASSERT_TRUE(catalogue.Initialize(folder / "x.col"));
     EXPECT_EQ(catalogue.GetFlossDesc(1), "grey gray Gray");
     EXPECT_EQ(catalogue.GetFlossDesc(2), "Beaver Gray");
-    EXPECT_EQ(test::ReadFile(folder / "x.col"), file.Bytes) << "loading leaves the file";
+    EXPECT_EQ(test::ReadBytes(folder / "x.col"), file.Bytes) << "loading leaves the file";
     ASSERT_TRUE(catalogue.SaveToFile({}));
     context.BritishSpelling = false;
     ASSERT_TRUE(catalogue.Initialize(folder / "x.col"));
@@ -287,7 +288,7 @@ TEST_F(AvailColorsTest, TheOrderOnDiskFollowsTheLastSort) {
     Add("1", "b");
     catalogue.SortByCategory(2);
     ASSERT_TRUE(catalogue.SaveToFile(Flosses() / "My Colors.col"));
-    const auto bytes = test::ReadFile(Flosses() / "My Colors.col");
+    const auto bytes = test::ReadBytes(Flosses() / "My Colors.col");
     AvailColors stored(context);
     ByteReader stream(bytes);
     stored.Read(stream);
@@ -299,27 +300,27 @@ TEST_F(AvailColorsTest, TheOrderOnDiskFollowsTheLastSort) {
 
 TEST_F(AvailColorsTest, SavingOverTheOwnFileKeepsTheOldOneAsBak) {
     const auto old = Header("Anchor", "Anch").Bytes;
-    test::WriteFile(Flosses() / "a.Col", old);
-    test::WriteFile(Flosses() / "a.BAK", {1, 2, 3});
+    test::WriteBytes(Flosses() / "a.Col", old);
+    test::WriteBytes(Flosses() / "a.BAK", {1, 2, 3});
     ASSERT_TRUE(catalogue.Initialize(Flosses() / "a.Col"));
     Add("1");
     ASSERT_TRUE(catalogue.SaveToFile({}));
-    EXPECT_EQ(test::ReadFile(Flosses() / "a.BAK"), old);
-    EXPECT_EQ(test::ReadFile(Flosses() / "a.Col"), catalogue.Bytes());
+    EXPECT_EQ(test::ReadBytes(Flosses() / "a.BAK"), old);
+    EXPECT_EQ(test::ReadBytes(Flosses() / "a.Col"), catalogue.Bytes());
 }
 
 TEST_F(AvailColorsTest, AFileOfAnotherNameIsKeptWithColBehindIt) {
     const auto old = Header("Anchor", "Anch").Bytes;
-    test::WriteFile(folder / "threads", old);
+    test::WriteBytes(folder / "threads", old);
     ASSERT_TRUE(catalogue.Initialize(folder / "threads"));
     Add("1");
     ASSERT_TRUE(catalogue.SaveToFile(folder / "threads"));
-    EXPECT_EQ(test::ReadFile(folder / "threads.COL"), old);
+    EXPECT_EQ(test::ReadBytes(folder / "threads.COL"), old);
 }
 
 TEST_F(AvailColorsTest, SavingUnderAnotherNameMakesNoBackup) {
-    test::WriteFile(folder / "a.col", Header("Anchor", "Anch").Bytes);
-    test::WriteFile(folder / "b.col", {1});
+    test::WriteBytes(folder / "a.col", Header("Anchor", "Anch").Bytes);
+    test::WriteBytes(folder / "b.col", {1});
     ASSERT_TRUE(catalogue.Initialize(folder / "a.col"));
     ASSERT_TRUE(catalogue.SaveToFile(folder / "b.col"));
     EXPECT_FALSE(std::filesystem::exists(folder / "b.BAK"));
@@ -330,9 +331,9 @@ TEST_F(AvailColorsTest, SavingUnderAnotherNameMakesNoBackup) {
 // --- The folder's list --------------------------------------------------------------------------
 
 TEST_F(AvailColorsTest, TheListHoldsLowerCaseFileNamesAndTrimmedNames) {
-    test::WriteFile(Flosses() / "Zed.COL", Header("Zed Threads", "Zed").Bytes);
-    test::WriteFile(Flosses() / "anchor.col", Header("Anchor", "Anch").Bytes);
-    test::WriteFile(Flosses() / "readme.txt", {1});
+    test::WriteBytes(Flosses() / "Zed.COL", Header("Zed Threads", "Zed").Bytes);
+    test::WriteBytes(Flosses() / "anchor.col", Header("Anchor", "Anch").Bytes);
+    test::WriteBytes(Flosses() / "readme.txt", {1});
     const auto list = ListCatalogues(context);
     ASSERT_EQ(list.size(), 2U);
     EXPECT_EQ(list[0].FileName, "anchor.col");

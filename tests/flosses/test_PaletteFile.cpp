@@ -22,11 +22,11 @@ protected:
 
     void InstallCatalogue() const {
         std::filesystem::create_directory(folder / "flosses");
-        WriteFile(folder / "flosses" / "DMC.col", test::CatalogueBytes());
+        test::WriteBytes(folder / "flosses" / "DMC.col", test::CatalogueBytes());
     }
 
     bool LoadBytes(const std::vector<std::uint8_t>& bytes) {
-        WriteFile(folder / "x.fls", bytes);
+        test::WriteBytes(folder / "x.fls", bytes);
         return palette.LoadFromDisk(folder / "x.fls");
     }
 
@@ -69,7 +69,7 @@ TEST_F(PaletteFile, ReadsRelease6) {
 TEST_F(PaletteFile, WritesTheSameBytes) {
     ASSERT_TRUE(LoadBytes(test::Rel6Bytes()));
     ASSERT_EQ(palette.SaveToDisk(folder / "y.fls"), ErrNone);
-    EXPECT_EQ(test::ReadFile(folder / "y.fls"), test::Rel6Bytes());
+    EXPECT_EQ(test::ReadBytes(folder / "y.fls"), test::Rel6Bytes());
 }
 
 TEST_F(PaletteFile, TheDisplayOrderIsZeroUntilItIsSorted) {
@@ -129,22 +129,22 @@ TEST_F(PaletteFile, LoadingAStandAloneFileLeavesChanged) {
 }
 
 TEST_F(PaletteFile, ASaveOverALongerFileLeavesNoOldTail) {
-    WriteFile(folder / "y.fls", std::vector<std::uint8_t>(5000, 1));
+    test::WriteBytes(folder / "y.fls", std::vector<std::uint8_t>(5000, 1));
     ASSERT_EQ(palette.SaveToDisk(folder / "y.fls"), ErrNone);
     ByteWriter stream;
     palette.SaveToDisk(stream);
-    EXPECT_EQ(test::ReadFile(folder / "y.fls"), stream.Bytes());
+    EXPECT_EQ(test::ReadBytes(folder / "y.fls"), stream.Bytes());
     EXPECT_NE(palette.SaveToDisk(folder / "none" / "y.fls"), ErrNone);
 }
 
 TEST_F(PaletteFile, ADirectReadOfAnotherFormIsRefusedWithAMessage) {
     test::AddFloss(palette, 0, "1");
-    WriteFile(folder / "x.fls", test::Rel5Bytes());
+    test::WriteBytes(folder / "x.fls", test::Rel5Bytes());
     EXPECT_FALSE(palette.LoadRel6FromDisk(folder / "x.fls"));
     EXPECT_THAT(messages.Told, testing::ElementsAre(testing::Pair("Invalid Palette Information",
                                                                   MessageIcon::Exclamation)));
     EXPECT_EQ(palette.GetEntriesCount(), 1);
-    WriteFile(folder / "x.fls", test::Rel6Bytes());
+    test::WriteBytes(folder / "x.fls", test::Rel6Bytes());
     EXPECT_TRUE(palette.LoadRel6FromDisk(folder / "x.fls"));
     EXPECT_EQ(palette.GetEntriesCount(), 2);
 }
@@ -223,7 +223,7 @@ TEST_F(PaletteFile, AnOldFileIsLoadedAndStillAnsweredAsAFailure) {
 }
 
 TEST_F(PaletteFile, LoadOldPaletteAnswersZeroOnSuccess) {
-    WriteFile(folder / "x.fls", test::OldBytes());
+    test::WriteBytes(folder / "x.fls", test::OldBytes());
     EXPECT_EQ(palette.LoadOldPalette(folder / "x.fls"), 0);
     EXPECT_EQ(palette.GetEntriesCount(), 2);
     EXPECT_EQ(palette.LoadOldPalette(folder / "none.fls"), 1);
@@ -256,7 +256,7 @@ TEST_F(PaletteFile, AnEmptySymbolOfAnOldRecordIsAskedFor) {
 // --- Startup ------------------------------------------------------------------------------------
 
 TEST_F(PaletteFile, DefaultFlsIsTheStartupPaletteWhateverItsCase) {
-    WriteFile(folder / "DEFAULT.FLS", test::Rel6Bytes());
+    test::WriteBytes(folder / "DEFAULT.FLS", test::Rel6Bytes());
     LoadStartupPalette(context);
     ASSERT_NE(context.StartupPalette, nullptr);
     const Palette fresh(context);
@@ -269,7 +269,7 @@ TEST_F(PaletteFile, DefaultFlsIsTheStartupPaletteWhateverItsCase) {
 TEST_F(PaletteFile, WithoutASuccessfulDefaultFlsTheBuiltInListServes) {
     LoadStartupPalette(context);
     EXPECT_EQ(context.StartupPalette, nullptr);
-    WriteFile(folder / "Default.fls", test::OldBytes());
+    test::WriteBytes(folder / "Default.fls", test::OldBytes());
     LoadStartupPalette(context);
     EXPECT_EQ(context.StartupPalette, nullptr) << "the old form counts as a failure";
     EXPECT_EQ(Palette(context).GetEntriesCount(), 16);

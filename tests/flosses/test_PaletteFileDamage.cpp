@@ -18,7 +18,7 @@ protected:
     PaletteFileDamage() { context.Messages = &messages; }
 
     bool Load(const Bytes& bytes) {
-        test::WriteFile(folder / "x.fls", bytes);
+        test::WriteBytes(folder / "x.fls", bytes);
         return palette.LoadFromDisk(folder / "x.fls");
     }
 

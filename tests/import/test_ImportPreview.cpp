@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <thread>
 
 #include "import/FlossChoices.h"
@@ -42,7 +41,7 @@ protected:
         return picture;
     }
     void Touch(const std::string& name, const std::string& content = {}) const {
-        std::ofstream(folder.Path() / name, std::ios::binary) << content;
+        test::WriteFile(folder / name, content);
     }
 
     test::TempFolder folder;

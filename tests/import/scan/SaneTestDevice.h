@@ -6,7 +6,6 @@
 #include <dlfcn.h>
 
 #include <cstdlib>
-#include <fstream>
 #include <initializer_list>
 #include <map>
 #include <string>
@@ -54,10 +53,8 @@ public:
         for (const auto& [name, value] : all) {
             text.append(name).append(" ").append(value).append("\n");
         }
-        // No assertion, as tests of windows know another kind: without its files there is no
-        // device, which every test notices.
-        std::ofstream(Folder() / "test.conf", std::ios::binary) << text;
-        std::ofstream(Folder() / "dll.conf", std::ios::binary) << "test\n";
+        WriteFile(Folder() / "test.conf", text);
+        WriteFile(Folder() / "dll.conf", "test\n");
         static const bool isKept = KeepDriver();
         static_cast<void>(isKept);
     }

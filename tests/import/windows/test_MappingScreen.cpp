@@ -16,7 +16,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 
 #include "import/SampleCatalogue.h"
@@ -258,7 +257,7 @@ void TestMappingScreen::WithTheEditBoxASavedPaletteAddsThePatternsCount() {
 }
 
 void TestMappingScreen::AFileThatCannotBeReadIsNotChosen() {
-    std::ofstream(m_folder->Path() / "Bad.fls") << "nothing of the kind";
+    WriteFile(*m_folder / "Bad.fls", "nothing of the kind");
     PickPalette();
     ChooseLine(QStringLiteral("Current Palette"));
     auto& box = PartOf<QComboBox>(*m_window, "cmbFlossFamily");

@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
@@ -13,11 +12,8 @@
 #include "import/PictureOps.h"
 #include "import/scan/SaneScanner.h"
 #include "import/scan/SaneTestDevice.h"
-#include "import/windows/DeskKit.h"
-#include "import/windows/PictureView.h"
-#include "import/windows/SourceScreen.h"
+#include "import/windows/SourceScene.h"
 #include "support/DialogDriver.h"
-#include "support/DialogHands.h"
 #include "support/ScriptedScanner.h"
 
 namespace zol::test {
@@ -34,20 +30,6 @@ private Q_SLOTS:
     void TheTestDeviceGoesAllTheWay();
 
 private:
-    struct Shown {
-        explicit Shown(DeskKit& kit) : Screen(kit.Desk, nullptr) {
-            Screen.resize(800, 500);
-            Screen.DisplayScreen(false);
-            Screen.show();
-        }
-        [[nodiscard]] SharedPicture Picture() {
-            return PartOf<PictureView>(Screen, "LPicPreview").Shown();
-        }
-        [[nodiscard]] bool CanAcquire() {
-            return PartOf<QPushButton>(Screen, "cmdAcquire").isEnabled();
-        }
-        SourceScreen Screen;
-    };
     /// What a user does with the window of the scanner.
     static void ScanThere(QDialog& window) {
         QTRY_VERIFY(PartOf<QPushButton>(window, "cmdScan").isEnabled());
@@ -63,8 +45,7 @@ void ScanInWizardTest::init() {
     m_folder.reset();
     qunsetenv("TMPDIR");
     const SaneTestDevice inNoFolderOfATest;
-    m_folder = std::make_unique<QTemporaryDir>();
-    qputenv("TMPDIR", m_folder->path().toUtf8());
+    UseTempFolder(m_folder);
     m_scanner = std::make_unique<ScriptedScanner>();
     m_scanner->found.Sources = {{"flatbed", "Maker Flatbed 9"}};
     Picture scanned(7, 5);
@@ -75,7 +56,7 @@ void ScanInWizardTest::init() {
 void ScanInWizardTest::AScanBecomesThePictureToImport() {
     DeskKit kit;
     kit.Desk.Scanners = m_scanner.get();
-    Shown shown(kit);
+    SourceScene shown(kit);
     QCOMPARE(m_scanner->Looks(), 0); // not before it is asked for
     QVERIFY(!shown.CanAcquire());
     ClickIn(shown.Screen, "optScan");
@@ -98,7 +79,7 @@ void ScanInWizardTest::AScanBecomesThePictureToImport() {
 void ScanInWizardTest::ACancelledScanKeepsThePictureOfBefore() {
     DeskKit kit;
     kit.Desk.Scanners = m_scanner.get();
-    Shown shown(kit);
+    SourceScene shown(kit);
     ClickIn(shown.Screen, "optScan");
     QTRY_VERIFY(shown.CanAcquire());
     DialogDriver driver({ScanThere, [](QDialog& window) { ClickIn(window, "cmdCancel"); }});
@@ -114,7 +95,7 @@ void ScanInWizardTest::AnotherSourceDropsWhatIsStillFound() {
     DeskKit kit;
     kit.Desk.Scanners = m_scanner.get();
     m_scanner->Hold();
-    Shown shown(kit);
+    SourceScene shown(kit);
     ClickIn(shown.Screen, "optScan");
     QTRY_COMPARE(m_scanner->Looks(), 1);
     ClickIn(shown.Screen, "optFile");
@@ -131,7 +112,7 @@ void ScanInWizardTest::TheTestDeviceGoesAllTheWay() {
     SaneScanner scanners;
     DeskKit kit;
     kit.Desk.Scanners = &scanners;
-    Shown shown(kit);
+    SourceScene shown(kit);
     ClickIn(shown.Screen, "optScan");
     QTRY_VERIFY(shown.CanAcquire());
     DialogDriver driver({ScanThere});

@@ -16,15 +16,11 @@
 #include <QTest>
 
 #include <filesystem>
-#include <fstream>
 
 #include "import/Imaging.h"
 #include "import/PictureFiles.h"
 #include "import/SamplePictures.h"
-#include "import/windows/DeskKit.h"
-#include "import/windows/PictureView.h"
-#include "import/windows/SourceScreen.h"
-#include "support/DialogHands.h"
+#include "import/windows/SourceScene.h"
 
 namespace zol::test {
 
@@ -52,25 +48,9 @@ private Q_SLOTS:
     void FieldsOfOtherSourcesAreOff();
 
 private:
-    struct Shown {
-        explicit Shown(DeskKit& kit) : Screen(kit.Desk, nullptr) {
-            Screen.resize(800, 500);
-            Screen.DisplayScreen(false);
-            Screen.show();
-            (void)QTest::qWaitForWindowActive(&Screen);
-        }
-        [[nodiscard]] SharedPicture Picture() {
-            return PartOf<PictureView>(Screen, "LPicPreview").Shown();
-        }
-        [[nodiscard]] QString Name() { return PartOf<QLineEdit>(Screen, "txtFileName").text(); }
-        SourceScreen Screen;
-    };
-
     [[nodiscard]] fs::path Write(const std::string& name, const std::vector<std::uint8_t>& bytes) {
         fs::path file = fs::path(m_folder->path().toStdString()) / name;
-        std::ofstream stream(file, std::ios::binary);
-        stream.write(reinterpret_cast<const char*>(bytes.data()),
-                     static_cast<std::streamsize>(bytes.size()));
+        WriteBytes(file, bytes);
         return file;
     }
     [[nodiscard]] fs::path LastImport() const {
@@ -91,15 +71,13 @@ const Colour Brick = MakeColour(189, 57, 33); // one that 16 bits a pixel can ho
 } // namespace
 
 void SourceScreenTest::init() {
-    qunsetenv("TMPDIR"); // else the new one would lie in the old one
-    m_folder = std::make_unique<QTemporaryDir>();
-    qputenv("TMPDIR", m_folder->path().toUtf8());
+    UseTempFolder(m_folder);
     QGuiApplication::clipboard()->clear();
 }
 
 void SourceScreenTest::NothingChosenIsToldAndTheFieldHasTheFocus() {
     DeskKit kit;
-    Shown shown(kit);
+    SourceScene shown(kit);
     QVERIFY(QTest::qWaitForWindowActive(&shown.Screen));
     PartOf<QPushButton>(shown.Screen, "cmdBrowse").setFocus();
     QVERIFY(!shown.Screen.ValidateScreen());
@@ -112,7 +90,7 @@ void SourceScreenTest::NothingChosenIsToldAndTheFieldHasTheFocus() {
 
 void SourceScreenTest::ATypedFileIsLoadedOnLeaving() {
     DeskKit kit;
-    Shown shown(kit);
+    SourceScene shown(kit);
     const fs::path file = Write("a b.png", SavedAs(Plain(30, 20, Brick), ".png"));
     TypeIn(shown.Screen, "txtFileName", QString::fromStdString(file.string()));
     QVERIFY(shown.Picture() == nullptr);
@@ -130,7 +108,7 @@ void SourceScreenTest::ATypedFileIsLoadedOnLeaving() {
 
 void SourceScreenTest::BrowsingLoadsAndShowsAtOnce() {
     DeskKit kit;
-    Shown shown(kit);
+    SourceScene shown(kit);
     const fs::path file = Write("photo.jpg", SavedAs(Plain(40, 10, Brick), ".jpg[Q=98]"));
     kit.User.files = {file};
     ClickIn(shown.Screen, "cmdBrowse");
@@ -154,11 +132,11 @@ void SourceScreenTest::BrowsingLoadsAndShowsAtOnce() {
 void SourceScreenTest::BrowsingComesBackToTheSameFolder() {
     DeskKit kit;
     {
-        Shown shown(kit);
+        SourceScene shown(kit);
         kit.User.files = {Write("a.png", SavedAs(Plain(3, 3, Brick), ".png"))};
         ClickIn(shown.Screen, "cmdBrowse");
     }
-    Shown again(kit);
+    SourceScene again(kit);
     kit.User.files = {std::nullopt};
     ClickIn(again.Screen, "cmdBrowse");
     QCOMPARE(kit.User.openDialogs.back().Folder, fs::path(m_folder->path().toStdString()));
@@ -166,7 +144,7 @@ void SourceScreenTest::BrowsingComesBackToTheSameFolder() {
 
 void SourceScreenTest::ATypedNameTakesTheOldPictureAway() {
     DeskKit kit;
-    Shown shown(kit);
+    SourceScene shown(kit);
     shown.Screen.TakeFile(Write("a.png", SavedAs(Plain(3, 3, Brick), ".png")));
     QTRY_VERIFY(shown.Picture() != nullptr);
     TypeIn(shown.Screen, "txtFileName",
@@ -204,7 +182,7 @@ void SourceScreenTest::WhatCannotBeDecodedIsToldByNumberAndText() {
     QFETCH(QByteArray, bytes);
     QFETCH(QString, told);
     DeskKit kit;
-    Shown shown(kit);
+    SourceScene shown(kit);
     const fs::path file = Write("bad.png", {bytes.begin(), bytes.end()});
     TypeIn(shown.Screen, "txtFileName", QString::fromStdString(file.string()));
     QVERIFY(!shown.Screen.ValidateScreen());
@@ -269,7 +247,7 @@ void SourceScreenTest::OddPicturesArrive() {
     QFETCH(QPoint, place);
     QFETCH(Colour, colour);
     DeskKit kit;
-    Shown shown(kit);
+    SourceScene shown(kit);
     shown.Screen.TakeFile(Write("odd", {bytes.begin(), bytes.end()}));
     QVERIFY(shown.Screen.ValidateScreen());
     QVERIFY(kit.User.told.empty());
@@ -279,7 +257,7 @@ void SourceScreenTest::OddPicturesArrive() {
 
 void SourceScreenTest::TheClipboardIsPasted() {
     DeskKit kit;
-    Shown shown(kit);
+    SourceScene shown(kit);
     QImage image(6, 4, QImage::Format_ARGB32);
     image.fill(qRgb(189, 57, 33));
     image.setPixel(0, 0, qRgba(9, 9, 9, 0));
@@ -298,7 +276,7 @@ void SourceScreenTest::TheClipboardIsPasted() {
 
 void SourceScreenTest::AnEmptyClipboardIsTold() {
     DeskKit kit;
-    Shown shown(kit);
+    SourceScene shown(kit);
     ClickIn(shown.Screen, "optClipboard");
     QCOMPARE(kit.User.ToldTexts(), std::vector<std::string>{"There is no image on the clipboard."});
     QVERIFY(shown.Picture() == nullptr);
@@ -309,7 +287,7 @@ void SourceScreenTest::EachOptionEmptiesPreviewAndName() {
     const fs::path file = Write("a.png", SavedAs(Plain(3, 3, Brick), ".png"));
     (void)Write("LastImport.jpg", SavedAs(Plain(7, 7, Brick), ".jpg"));
     for (const char* option : {"optFile", "optClipboard", "optScan", "optLastImage"}) {
-        Shown shown(kit);
+        SourceScene shown(kit);
         shown.Screen.TakeFile(file);
         QTRY_VERIFY(shown.Picture() != nullptr);
         ClickIn(shown.Screen, option);
@@ -321,14 +299,14 @@ void SourceScreenTest::EachOptionEmptiesPreviewAndName() {
 void SourceScreenTest::TheLastImageIsOfferedOnceThereIsOne() {
     DeskKit kit;
     {
-        Shown first(kit);
+        SourceScene first(kit);
         QVERIFY(!PartOf<QRadioButton>(first.Screen, "optLastImage").isEnabled());
         first.Screen.TakeFile(Write("a.png", SavedAs(Plain(11, 3, Brick), ".png")));
         QVERIFY(first.Screen.ValidateScreen());
         QTRY_VERIFY(fs::exists(LastImport()));
     }
     DeskKit next;
-    Shown shown(next);
+    SourceScene shown(next);
     QVERIFY(PartOf<QRadioButton>(shown.Screen, "optLastImage").isEnabled());
     ClickIn(shown.Screen, "optLastImage");
     QTRY_VERIFY(shown.Picture() != nullptr);
@@ -339,13 +317,13 @@ void SourceScreenTest::TheLastImageIsOfferedOnceThereIsOne() {
     QCOMPARE(fs::last_write_time(LastImport()), saved);
     (void)Write("LastImport.jpg", {1, 2, 3});
     DeskKit damaged;
-    Shown without(damaged);
+    SourceScene without(damaged);
     QVERIFY(!PartOf<QRadioButton>(without.Screen, "optLastImage").isEnabled());
 }
 
 void SourceScreenTest::FieldsOfOtherSourcesAreOff() {
     DeskKit kit;
-    Shown shown(kit);
+    SourceScene shown(kit);
     const auto enabled = [&shown](const char* name) {
         return PartOf<QWidget>(shown.Screen, name).isEnabled();
     };
