@@ -33,7 +33,7 @@ int main(int argc, char** argv) {
         now += std::chrono::minutes(11);
         program.ClickIn(4, 6, 0.1, 0.1);
     }
-    zol::test::WriteText(home / "design.bytes", zol::test::BytesOf(program.Parts().Open.Get()));
+    zol::test::WriteFile(home / "design.bytes", zol::test::BytesOf(program.Parts().Open.Get()));
     std::puts("saved");
     std::fflush(stdout);
     return QApplication::exec();

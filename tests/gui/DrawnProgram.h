@@ -182,6 +182,8 @@ private:
     }
 };
 
+using OpenedProgram = AtHome<DrawnProgram, &DrawnProgram::Open>;
+
 } // namespace zol::test
 
 /// The design is the twin's, and the screen shows it.

@@ -31,7 +31,7 @@ public:
         run.kill();
         run.waitForFinished();
         m_saved = m_saved && run.exitStatus() == QProcess::CrashExit;
-        m_design = ReadText(home / "design.bytes");
+        m_design = ReadFile(home / "design.bytes");
         for (const auto& entry : std::filesystem::recursive_directory_iterator(home / "state")) {
             if (entry.path().filename() == basAutoSave::FileName) {
                 m_file = entry.path();

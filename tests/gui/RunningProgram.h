@@ -11,7 +11,6 @@
 
 #include <chrono>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <string>
 #include <utility>
@@ -25,18 +24,10 @@
 #include "support/ScriptedPrinter.h"
 #include "support/ScriptedScanner.h"
 #include "support/ScriptedUser.h"
+#include "support/TestFiles.h"
 #include "support/TestPaths.h"
 
 namespace zol::test {
-
-inline void WriteText(const std::filesystem::path& file, const std::string& text) {
-    std::ofstream(file, std::ios::binary) << text;
-}
-
-inline std::string ReadText(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-}
 
 /// Files below a folder, at any depth.
 inline int CountFiles(const std::filesystem::path& folder) {
@@ -98,7 +89,11 @@ public:
         Window().resize(1280, 800);
         return QTest::qWaitForWindowExposed(&Window());
     }
-    void End() { m_main->End(); }
+    void End() {
+        m_ended = true;
+        m_main->End();
+    }
+    [[nodiscard]] bool HasEnded() const { return m_ended; }
     [[nodiscard]] int ExitCode() const { return m_main->ExitCode(); }
 
     [[nodiscard]] frmDesignGrid& Window() { return m_main->MainWindow(); }
@@ -149,6 +144,33 @@ public:
 
 private:
     std::unique_ptr<basMain> m_main;
+    bool m_ended = false;
 };
+
+/// For what begins with its members.
+struct OwnHome {
+    const ProgramHome Home;
+};
+
+/// A program in a home of its own, begun; it ends with the test, whatever has changed.
+template<typename Program, bool (Program::*Begin)()>
+class AtHome : public OwnHome, public Program {
+public:
+    AtHome() : Program(Home) {
+        if (!(this->*Begin)()) {
+            qFatal("the program does not start");
+        }
+    }
+    ~AtHome() {
+        if (!this->HasEnded()) {
+            this->Design().SetChanged(false);
+            this->End();
+        }
+    }
+    AtHome(const AtHome&) = delete;
+    AtHome& operator=(const AtHome&) = delete;
+};
+
+using StartedProgram = AtHome<RunningProgram, &RunningProgram::Start>;
 
 } // namespace zol::test

@@ -37,9 +37,7 @@ private:
 };
 
 void ClosingTest::UnchangedClosesWithoutAQuestion() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     program.Choose("mnuFileExit");
     QVERIFY(!program.Window().isVisible());
     QVERIFY(program.User.asked.empty());
@@ -51,7 +49,6 @@ void ClosingTest::UnchangedClosesWithoutAQuestion() {
     QCOMPARE(stored("FormHeight"), std::to_string(program.Window().height()));
     QVERIFY(stored("FormLeft") != "none");
     QVERIFY(stored("FormTop") != "none");
-    program.End();
 }
 
 void ClosingTest::CancelKeepsEverything_data() {
@@ -62,9 +59,7 @@ void ClosingTest::CancelKeepsEverything_data() {
 
 void ClosingTest::CancelKeepsEverything() {
     QFETCH(const bool, byMenu);
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     program.ClickSquare(6, 6);
     program.User.answers = {MessageAnswer::Cancel};
     if (byMenu) {
@@ -80,39 +75,30 @@ void ClosingTest::CancelKeepsEverything() {
     QCOMPARE(program.Design().GetStitchCount(6, 6), 1);
     QVERIFY(program.Command("mnuEditUndo").isEnabled());
     QCOMPARE(program.Parts().Store.ReadSetting("Options", "WinState", "none"), std::string("none"));
-    program.End();
 }
 
 void ClosingTest::NoClosesWithoutSaving() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     program.ClickSquare(6, 6);
     program.User.answers = {MessageAnswer::No};
     QVERIFY(program.Window().close());
     QVERIFY(program.User.saveDialogs.empty());
-    program.End();
 }
 
 void ClosingTest::YesSavesFirst() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     program.ClickSquare(6, 6);
     program.User.answers = {MessageAnswer::Yes};
-    program.User.files = {home / "kept.pat"};
+    program.User.files = {program.Home / "kept.pat"};
     QVERIFY(program.Window().close());
-    QVERIFY(std::filesystem::file_size(home / "kept.pat") > 0);
-    program.End();
+    QVERIFY(std::filesystem::file_size(program.Home / "kept.pat") > 0);
 }
 
 void ClosingTest::FailedSaveKeepsTheWindowOpen() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     program.ClickSquare(6, 6);
     program.User.answers = {MessageAnswer::Yes};
-    program.User.files = {home / "no such folder" / "kept.pat"};
+    program.User.files = {program.Home / "no such folder" / "kept.pat"};
     QVERIFY(!program.Window().close());
     QVERIFY(program.Window().isVisible());
     QVERIFY(!program.User.told.empty());
@@ -122,32 +108,25 @@ void ClosingTest::FailedSaveKeepsTheWindowOpen() {
     program.User.answers = {MessageAnswer::Yes};
     program.User.files = {std::nullopt};
     QVERIFY(!program.Window().close());
-    program.End();
 }
 
 void ClosingTest::BusyProgramIsNotClosed() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     {
         const BusyScope work;
         program.Window().close();
         QVERIFY(program.Window().isVisible());
     }
     QVERIFY(program.Window().close());
-    program.End();
 }
 
 void ClosingTest::OtherWindowsAreClosedToo() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     QWidget other;
     other.show();
     QVERIFY(QTest::qWaitForWindowExposed(&other));
     QVERIFY(program.Window().close());
     QVERIFY(!other.isVisible());
-    program.End();
 }
 
 void ClosingTest::MaximizedComesBackMaximized() {
@@ -172,7 +151,7 @@ void ClosingTest::MaximizedComesBackMaximized() {
 
 void ClosingTest::PlaceOutsideEveryScreenComesBack() {
     const ProgramHome home;
-    WriteText(home / "settings.ini", "[Options]\nFormLeft=-30000\nFormTop=9000\n"
+    WriteFile(home / "settings.ini", "[Options]\nFormLeft=-30000\nFormTop=9000\n"
                                      "FormWidth=900\nFormHeight=700\nWinState=1\n");
     ScriptedUser nobody;
     basMain program(home.CalledWith(), UserDoors{nobody, nobody, m_printers, m_scanners});
@@ -185,7 +164,7 @@ void ClosingTest::PlaceOutsideEveryScreenComesBack() {
 
 void ClosingTest::UnwritableSettingsAreToldOnce() {
     const ProgramHome home;
-    WriteText(home / "file", "no folder");
+    WriteFile(home / "file", "no folder");
     ScriptedUser user;
     Arguments arguments = home.CalledWith();
     arguments.Settings = home / "file" / "settings.ini";

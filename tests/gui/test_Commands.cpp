@@ -59,9 +59,7 @@ private:
 };
 
 void CommandsTest::ToolTipsShowTheKeys() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     QCOMPARE(program.Find<QToolButton>("New")->toolTip(), QStringLiteral("New (Ctrl+N)"));
     QCOMPARE(program.Find<QToolButton>("Open")->toolTip(), QStringLiteral("Open (Ctrl+O)"));
     QCOMPARE(program.Find<QToolButton>("ZOOMTOOL")->toolTip(), QStringLiteral("Zoom Tool (Z)"));
@@ -71,7 +69,6 @@ void CommandsTest::ToolTipsShowTheKeys() {
              QStringLiteral("Mirror Mode: Vertical"));
     QCOMPARE(program.Find<QToolButton>("ZOOMTOOL3")->toolTip(),
              QStringLiteral("Previous Zoom (Ctrl+0)"));
-    program.End();
 }
 
 void CommandsTest::ToolButtonsSetTheDrawMode_data() {
@@ -93,9 +90,7 @@ void CommandsTest::ToolButtonsSetTheDrawMode() {
     QFETCH(const QString, key);
     QFETCH(const int, on);
     QFETCH(const int, off);
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     const QByteArray name = key.toLatin1();
     auto* button = program.Find<QToolButton>(name.constData());
     program.Click(name.constData());
@@ -104,13 +99,10 @@ void CommandsTest::ToolButtonsSetTheDrawMode() {
     program.Click(name.constData());
     QCOMPARE(int{program.Window().Modes().GetDrawMode()}, off);
     QCOMPARE(button->isChecked(), on == off);
-    program.End();
 }
 
 void CommandsTest::EraseIsAFlagWhilePainting() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     program.Click("PAINT");
     program.Click("ERASE");
     QCOMPARE(program.Window().Modes().GetDrawMode(), DrawPaint);
@@ -120,13 +112,10 @@ void CommandsTest::EraseIsAFlagWhilePainting() {
     program.Click("ERASE");
     QCOMPARE(program.Window().Modes().GetDrawMode(), DrawPaint);
     QVERIFY(!program.Find<QToolButton>("ERASE")->isChecked());
-    program.End();
 }
 
 void CommandsTest::PaintOnceShowsPaintPressed() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     program.Choose("mnuPaintOnce");
     QCOMPARE(program.Window().Modes().GetDrawMode(), DrawPaintOnce);
     QVERIFY(program.Find<QToolButton>("PAINT")->isChecked());
@@ -135,13 +124,10 @@ void CommandsTest::PaintOnceShowsPaintPressed() {
     program.Click("PAINT");
     QCOMPARE(program.Window().Modes().GetDrawMode(), DrawStitches);
     QVERIFY(!program.Command("mnuPaintOnce").isChecked());
-    program.End();
 }
 
 void CommandsTest::MirrorButtonsGoOnAndOff() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     QVERIFY(program.Command("mnuMirrorNone").isChecked());
     program.Click("MIRRORMODE_V");
     QVERIFY(program.Find<QToolButton>("MIRRORMODE_V")->isChecked());
@@ -157,13 +143,10 @@ void CommandsTest::MirrorButtonsGoOnAndOff() {
     program.ClickSquare(10, 10);
     program.ClickSquare(8, 10);
     QCOMPARE(program.Design().GetStitchType(12, 10, 0), int{StitchWhole});
-    program.End();
 }
 
 void CommandsTest::StitchButtonsFollowTheMenu() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     program.Click("STITCH_TBH");
     QVERIFY(program.Command("mnuStitchHalfT2B").isChecked());
     QVERIFY(!program.Find<QToolButton>("STITCH_WHOLE")->isChecked());
@@ -175,13 +158,10 @@ void CommandsTest::StitchButtonsFollowTheMenu() {
     QCOMPARE(program.Window().Modes().GetDrawMode(), DrawStitches);
     QVERIFY(program.Find<QToolButton>("DRAWMODE_STITCHES")->isChecked());
     QVERIFY(!program.Find<QToolButton>("DRAWMODE_LINES")->isChecked());
-    program.End();
 }
 
 void CommandsTest::KnotStyleTakesTheMark() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     QVERIFY(program.Command("mnuFK0").isChecked());
     program.Choose("mnuFK3");
     QVERIFY(program.Command("mnuFK3").isChecked());
@@ -189,26 +169,20 @@ void CommandsTest::KnotStyleTakesTheMark() {
     QCOMPARE(int{program.Parts().Context.FrenchKnotStyle}, 3);
     program.Choose("mnuFK3");
     QVERIFY(program.Command("mnuFK3").isChecked());
-    program.End();
 }
 
 void CommandsTest::FlexibleBackstitchIsKept() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     QVERIFY(program.Command("mnuOptionsFlexBackstitch").isChecked());
     program.Choose("mnuOptionsFlexBackstitch");
     QVERIFY(!program.Command("mnuOptionsFlexBackstitch").isChecked());
     QVERIFY(program.Parts().Settings.AnchorBackstitches);
     QCOMPARE(program.Parts().Store.ReadSetting("Design Grid Opts", "AnchorBackstitches", ""),
              std::string("TRUE"));
-    program.End();
 }
 
 void CommandsTest::LettersTypedIntoTheZoomBoxAreNoCommands() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     QVERIFY(Activate(program));
     auto* box = program.Find<QComboBox>("cmbZoom");
     box->setFocus();
@@ -223,13 +197,10 @@ void CommandsTest::LettersTypedIntoTheZoomBoxAreNoCommands() {
     QTest::keyClick(box, Qt::Key_Return);
     QCOMPARE(program.Area().Zoom().GridZoom(), 25);
     QCOMPARE(box->lineEdit()->selectedText(), QStringLiteral("25%"));
-    program.End();
 }
 
 void CommandsTest::LettersOnTheClothAre() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     QVERIFY(Activate(program));
     QTest::keyClick(&program.Grid(), Qt::Key_P);
     QCOMPARE(program.Window().Modes().GetDrawMode(), DrawPaint);
@@ -244,13 +215,10 @@ void CommandsTest::LettersOnTheClothAre() {
     QCOMPARE(program.Window().Modes().GetDrawMode(), DrawZoom);
     QTest::keyClick(&program.Grid(), Qt::Key_Escape);
     QCOMPARE(program.Window().Modes().GetDrawMode(), DrawStitches);
-    program.End();
 }
 
 void CommandsTest::ControlEqualsZoomsIn() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     QVERIFY(Activate(program));
     QTest::keyClick(&program.Grid(), Qt::Key_Equal, Qt::ControlModifier);
     QTRY_COMPARE(program.Area().Zoom().GridZoom(), 200);
@@ -260,25 +228,19 @@ void CommandsTest::ControlEqualsZoomsIn() {
     QTRY_COMPARE(program.Area().Zoom().GridZoom(), 200);
     QTest::keyClick(&program.Grid(), Qt::Key_Minus, Qt::ControlModifier);
     QTRY_COMPARE(program.Area().Zoom().GridZoom(), 100);
-    program.End();
 }
 
 void CommandsTest::ToolButtonsLeaveTheFocusOnTheCloth() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     QVERIFY(Activate(program));
     for (const char* key : {"GRIDLINES", "DRAWMODE_LINES", "STITCH_WHOLE", "ZOOMTOOL1"}) {
         program.Click(key);
         QVERIFY2(program.Area().Canvas().hasFocus(), key);
     }
-    program.End();
 }
 
 void CommandsTest::ZoomBoxGivesTheFocusBack() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     QVERIFY(Activate(program));
     auto* box = program.Find<QComboBox>("cmbZoom");
     box->setFocus();
@@ -295,13 +257,10 @@ void CommandsTest::ZoomBoxGivesTheFocusBack() {
     QVERIFY(program.Area().Zoom().GridZoom() != 7);
     QCOMPARE(box->currentText(),
              QString::number(program.Area().Zoom().GridZoom()) + QLatin1Char('%'));
-    program.End();
 }
 
 void CommandsTest::TabsGoFromBarsOverTheClothToTheSlider() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     QVERIFY(Activate(program));
     program.Find<QToolButton>("New")->setFocus();
     QStringList seen;
@@ -320,13 +279,10 @@ void CommandsTest::TabsGoFromBarsOverTheClothToTheSlider() {
         seen.indexOf(QStringLiteral("picPalette")),   seen.indexOf(QStringLiteral("zoomSlider"))};
     QVERIFY2(places.first() == 0 && std::is_sorted(places.begin(), places.end()),
              qPrintable(seen.join(u' ')));
-    program.End();
 }
 
 void CommandsTest::NarrowWindowKeepsEveryTool() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     program.Window().resize(640, 480);
     QTRY_COMPARE(program.Window().width(), 640);
     auto* bar = program.Find<QToolBar>("tbKorvantaToolBar");
@@ -340,13 +296,10 @@ void CommandsTest::NarrowWindowKeepsEveryTool() {
     QTRY_VERIFY(bar->rect().contains(erase->geometry()));
     QTest::mouseClick(erase, Qt::LeftButton);
     QCOMPARE(program.Window().Modes().GetDrawMode(), DrawErase);
-    program.End();
 }
 
 void CommandsTest::ZoomToolRemembersTheScrollBars() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     program.Area().Zoom().ChangeZoom(600);
     program.Area().ScrollGrid(20, 30, true);
     program.Click("ZOOMTOOL");
@@ -355,13 +308,10 @@ void CommandsTest::ZoomToolRemembersTheScrollBars() {
     program.Area().ScrollGrid(22, 33, true);
     program.Click("ZOOMTOOL");
     QCOMPARE(program.Area().Zoom().SavedScrollX(), 20);
-    program.End();
 }
 
 void CommandsTest::CenterIsOneStep() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     program.ClickSquare(3, 3);
     program.Design().SetChanged(false);
     program.Choose("mnuCenterBoth");
@@ -372,13 +322,10 @@ void CommandsTest::CenterIsOneStep() {
     QCOMPARE(program.Design().GetStitchType(3, 3, 0), int{StitchWhole});
     QVERIFY(!program.Command("mnuEditUndo").isEnabled());
     QCOMPARE(program.Command("mnuEditUndo").text(), QStringLiteral("Undo"));
-    program.End();
 }
 
 void CommandsTest::CropIsOneStepAndUndoBringsTheSizeBack() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     const QSize whole = program.Grid().size();
     program.ClickSquare(2, 2);
     program.ClickSquare(5, 5);
@@ -389,13 +336,10 @@ void CommandsTest::CropIsOneStepAndUndoBringsTheSizeBack() {
     program.Choose("mnuEditUndo");
     QCOMPARE(program.Design().GetPatternWidth(), 100);
     QCOMPARE(program.Grid().size(), whole);
-    program.End();
 }
 
 void CommandsTest::EmptyPatternStaysAsItIs() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     for (const char* name : {"mnuCenterVertical", "mnuCenterHorizontal", "mnuCenterBoth",
                              "mnuToolsShrink", "mnuClearPalette"}) {
         program.Choose(name);
@@ -407,13 +351,10 @@ void CommandsTest::EmptyPatternStaysAsItIs() {
     QCOMPARE(program.Design().GetPalette().GetEntriesCount(), 1);
     QCOMPARE(Current(program), 1);
     QVERIFY(program.User.told.empty());
-    program.End();
 }
 
 void CommandsTest::ClearPaletteKeepsTheCurrentFloss() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     const int before = program.Design().GetPalette().GetEntriesCount();
     QVERIFY(before > 4);
     program.Window().Modes().SetCurrentColor(4);
@@ -428,13 +369,10 @@ void CommandsTest::ClearPaletteKeepsTheCurrentFloss() {
     QCOMPARE(Current(program), 4);
     program.ClickSquare(8, 8);
     QCOMPARE(program.Design().GetStitchPaletteIndex(8, 8), 4);
-    program.End();
 }
 
 void CommandsTest::ClearPaletteTakesTheCurrentFloss() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     for (const int floss : {2, 3, 4}) {
         program.Window().Modes().SetCurrentColor(floss);
         program.ClickSquare(floss, 7);
@@ -445,7 +383,6 @@ void CommandsTest::ClearPaletteTakesTheCurrentFloss() {
     QCOMPARE(program.Design().GetPalette().GetEntriesCount(), 3);
     QCOMPARE(Current(program), 1);
     QVERIFY(DescriptionOfCurrent(program, 1) != gone);
-    program.End();
 }
 
 } // namespace zol::test

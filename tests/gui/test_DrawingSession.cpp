@@ -33,7 +33,7 @@ std::string FileOf(const std::string& design, const std::filesystem::path& path)
     const std::vector<std::uint8_t> bytes(design.begin(), design.end());
     ByteReader stream(bytes);
     return pattern.Load(std::string(), stream, 0, 0) == 0 && pattern.Save(path) == 0
-               ? ReadText(path)
+               ? ReadFile(path)
                : std::string("no file");
 }
 
@@ -72,7 +72,7 @@ private:
 
 void DrawingSessionTest::EveryFixedStitchByItsButton() {
     const ProgramHome home;
-    WriteText(home / "settings.ini", "[Options]\nUseSmartQS=0\nUseSmart3QS=0\n");
+    WriteFile(home / "settings.ini", "[Options]\nUseSmartQS=0\nUseSmart3QS=0\n");
     DrawnProgram program(home);
     QVERIFY(program.Open());
     program.Take(30, 30, 200);
@@ -93,9 +93,7 @@ void DrawingSessionTest::EveryFixedStitchByItsButton() {
 }
 
 void DrawingSessionTest::SmartStitchesTakeTheQuarterClicked() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(12, 12, 500);
     Twin twin(program.Design());
     const int corners[] = {1, 3, 7, 9};
@@ -117,13 +115,10 @@ void DrawingSessionTest::SmartStitchesTakeTheQuarterClicked() {
         twin.SetStitch(8, row, type, 1, 1); // and none on the way
         COMPARE_TWIN(program, twin);
     }
-    program.End();
 }
 
 void DrawingSessionTest::KnotsInEveryStyleAtEveryPoint() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 11, 300);
     Twin twin(program.Design());
     program.Tool("STITCH_FKNOT");
@@ -141,13 +136,10 @@ void DrawingSessionTest::KnotsInEveryStyleAtEveryPoint() {
         QCOMPARE(program.Design().GetFrenchKnotOrientation(9, 2 * style + 1, index), style);
     }
     QCOMPARE(program.Design().FrenchKnots().Count(), std::size_t{45});
-    program.End();
 }
 
 void DrawingSessionTest::KnotsAreSetByThePressAlone() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(12, 12, 400);
     Twin twin(program.Design());
     program.Tool("STITCH_FKNOT");
@@ -157,13 +149,10 @@ void DrawingSessionTest::KnotsAreSetByThePressAlone() {
     program.ClickIn(1, 1, 0.05, 0.05);
     twin.SetStitch(1, 1, StitchFKnot, 1, 1);
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void DrawingSessionTest::KeysKeepAStrokeStraight() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Twin twin(program.Design());
     program.DragOver({{5, 5}, {7, 7}, {3, 9}}, Qt::LeftButton, Qt::ShiftModifier);
     for (int y = 5; y <= 9; ++y) {
@@ -178,13 +167,10 @@ void DrawingSessionTest::KeysKeepAStrokeStraight() {
         twin.DeleteStitch(x, 5, 0);
     }
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void DrawingSessionTest::BothButtonsErase() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 200);
     Twin twin(program.Design());
     program.DragOver({{2, 2}, {9, 2}});
@@ -209,13 +195,10 @@ void DrawingSessionTest::BothButtonsErase() {
     program.ClickIn(12, 2);
     twin.SetStitch(12, 2, StitchFKnot, 1, 5);
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void DrawingSessionTest::ErasingUnderALineBringsItBack() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 300);
     Twin twin(program.Design());
     program.DragOver({{2, 3}, {9, 3}});
@@ -230,13 +213,10 @@ void DrawingSessionTest::ErasingUnderALineBringsItBack() {
         twin.DeleteStitch(x, 3, 0);
     }
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void DrawingSessionTest::FillsOnceAndAgain() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(12, 12, 200);
     Twin twin(program.Design());
     program.DragOver({{1, 6}, {12, 6}});
@@ -258,13 +238,10 @@ void DrawingSessionTest::FillsOnceAndAgain() {
     QCOMPARE(int{program.Window().Modes().GetDrawMode()}, int{DrawPaint});
     program.Tool("PAINT");
     QCOMPARE(int{program.Window().Modes().GetDrawMode()}, int{DrawStitches});
-    program.End();
 }
 
 void DrawingSessionTest::FillTakesAwayWithTheEraseButton() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(12, 12, 200);
     Twin twin(program.Design());
     program.DragOver({{2, 6}, {9, 6}});
@@ -284,13 +261,10 @@ void DrawingSessionTest::FillTakesAwayWithTheEraseButton() {
     program.ClickIn(4, 6);
     twin.Paint(4, 6, StitchWhole, 1, NoFloss);
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void DrawingSessionTest::PickerTakesTheFlossOfAStitch() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Twin twin(program.Design());
     const int floss = PickFloss(program, 4);
     program.ClickIn(3, 3);
@@ -308,13 +282,10 @@ void DrawingSessionTest::PickerTakesTheFlossOfAStitch() {
     program.ClickIn(7, 3);
     twin.SetStitch(7, 3, StitchWhole, floss, 5);
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void DrawingSessionTest::MirrorAcrossAColumn() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 200);
     Twin twin(program.Design());
     program.Tool("MIRRORMODE_V");
@@ -342,13 +313,10 @@ void DrawingSessionTest::MirrorAcrossAColumn() {
     program.ClickIn(2, 15);
     twin.SetStitch(2, 15, StitchTBH, 1, 5);
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void DrawingSessionTest::MirrorAcrossARow() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 200);
     Twin twin(program.Design());
     program.Tool("MIRRORMODE_H");
@@ -366,13 +334,10 @@ void DrawingSessionTest::MirrorAcrossARow() {
     program.Choose("mnuMirrorNone");
     QVERIFY(!program.OnTop().Mirror.has_value());
     QVERIFY(!program.Find<QToolButton>("MIRRORMODE_H")->isChecked());
-    program.End();
 }
 
 void DrawingSessionTest::MirroredKnotsChangeTheirPoint() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 400);
     Twin twin(program.Design());
     program.Tool("MIRRORMODE_V");
@@ -386,13 +351,10 @@ void DrawingSessionTest::MirroredKnotsChangeTheirPoint() {
     twin.SetStitch(3, 6, StitchFKnot, 1, 2);
     twin.SetStitch(7, 6, StitchFKnot, 1, 2);
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void DrawingSessionTest::CommandsOnTheWholeDesign() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(40, 40, 100);
     Twin twin(program.Design());
     const int floss = PickFloss(program, 3);
@@ -415,7 +377,6 @@ void DrawingSessionTest::CommandsOnTheWholeDesign() {
     program.ClickIn(2, 3); // with a floss that is there
     twin.SetStitch(2, 3, StitchWhole, 1, 5);
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void DrawingSessionTest::KilledSessionIsRecoveredAndSaved() {
@@ -424,7 +385,7 @@ void DrawingSessionTest::KilledSessionIsRecoveredAndSaved() {
     const auto other = home / "other.pat";
     const KilledRun dead(home, file);
     QVERIFY(dead.IsDead());
-    const std::string firstSave = ReadText(file);
+    const std::string firstSave = ReadFile(file);
     {
         DrawnProgram program(home);
         program.User.answers = {MessageAnswer::Yes};
@@ -442,8 +403,8 @@ void DrawingSessionTest::KilledSessionIsRecoveredAndSaved() {
         QVERIFY(program.Window().close());
         program.End();
     }
-    QVERIFY2(ReadText(file) == firstSave, "what was saved before the end is as it was");
-    QVERIFY(ReadText(other) == FileOf(dead.Design(), home / "expected.pat"));
+    QVERIFY2(ReadFile(file) == firstSave, "what was saved before the end is as it was");
+    QVERIFY(ReadFile(other) == FileOf(dead.Design(), home / "expected.pat"));
     DrawnProgram program(home);
     program.User.files = {other};
     QVERIFY(program.Open());

@@ -35,19 +35,17 @@ private:
 };
 
 void EditBoxFilesTest::CopyToWritesTheContentWithTheHeader() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     PatternHeader header = program.Design().GetHeader();
     header.Reserved3[7] = 0x5A;
     program.Design().Setheader(header);
-    program.User.files = {home / "block.pat"};
+    program.User.files = {program.Home / "block.pat"};
     program.Choose("mnuEditCopyTo");
     QCOMPARE(program.User.saveDialogs.size(), std::size_t{1});
     ProgramContext context;
     Pattern block(context);
-    QCOMPARE(block.Load(home / "block.pat"), 0);
+    QCOMPARE(block.Load(program.Home / "block.pat"), 0);
     QCOMPARE(block.GetPatternWidth(), 3);
     QCOMPARE(block.GetPatternHeight(), 2);
     QCOMPARE(block.GetStitchPaletteIndex(1, 1), 1);
@@ -55,26 +53,20 @@ void EditBoxFilesTest::CopyToWritesTheContentWithTheHeader() {
     QCOMPARE(int{block.GetHeader().Reserved3[7]}, 0x5A);
     QVERIFY(Box(program).IsActive());
     QVERIFY(program.User.told.empty());
-    program.End();
 }
 
 void EditBoxFilesTest::CopyToThatFailsIsTold() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
-    program.User.files = {home / "no folder" / "block.pat"};
+    program.User.files = {program.Home / "no folder" / "block.pat"};
     program.Choose("mnuEditCopyTo");
     QCOMPARE(program.User.ToldTexts(), (std::vector<std::string>{"76error saving pattern: "}));
     QVERIFY(Box(program).IsActive());
-    program.End();
 }
 
 void EditBoxFilesTest::PasteFromLetsAFileFloat() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
-    program.User.files = {home / "app" / "Patterns" / "robin.pat"};
+    OpenedProgram program;
+    program.User.files = {program.Home / "app" / "Patterns" / "robin.pat"};
     program.User.answers = {MessageAnswer::No};
     const Twin empty(program.Design());
     program.Choose("mnuEditPasteFrom");
@@ -92,17 +84,14 @@ void EditBoxFilesTest::PasteFromLetsAFileFloat() {
     QTRY_COMPARE(program.WrongPixels(), 0);
     program.Key(Qt::Key_Z, Qt::ControlModifier);
     COMPARE_TWIN(program, empty);
-    program.End();
 }
 
 void EditBoxFilesTest::PasteFromThatFailsIsTold() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
-    WriteText(home / "broken.pat", "Korvanta 6 Pattern File and no more");
-    const std::string name = (home / "broken.pat").string();
-    program.User.files = {home / "broken.pat"};
+    WriteFile(program.Home / "broken.pat", "Korvanta 6 Pattern File and no more");
+    const std::string name = (program.Home / "broken.pat").string();
+    program.User.files = {program.Home / "broken.pat"};
     program.Choose("mnuEditPasteFrom");
     QCOMPARE(program.User.told.size(), std::size_t{1});
     QVERIFY2(program.User.told[0].text.find(" loading " + name) != std::string::npos,
@@ -111,13 +100,10 @@ void EditBoxFilesTest::PasteFromThatFailsIsTold() {
             program.User.told[0].text.find(" loading "));
     QVERIFY2(Box(program).IsActive(), "what was selected stays");
     QCOMPARE(program.Design().GetStitchPaletteIndex(4, 4), 1);
-    program.End();
 }
 
 void EditBoxFilesTest::CancelledDialogsChangeNothing() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.ClickIn(9, 9);
     program.User.files = {std::nullopt, std::nullopt};
     program.Choose("mnuEditPasteFrom");
@@ -126,73 +112,63 @@ void EditBoxFilesTest::CancelledDialogsChangeNothing() {
     program.DragOver({{4, 4}, {6, 5}});
     program.Choose("mnuEditCopyTo");
     QVERIFY(Box(program).IsActive());
-    program.End();
 }
 
 void EditBoxFilesTest::SavingWritesWhatFloats() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     program.Choose("mnuFlipHorizontal");
     QCOMPARE(program.Design().GetStitchCount(6, 4), 0);
-    program.User.files = {home / "saved.pat"};
+    program.User.files = {program.Home / "saved.pat"};
     program.Key(Qt::Key_S, Qt::ControlModifier);
     QVERIFY(!Box(program).IsActive());
     QVERIFY(!program.Design().IsChanged());
     ProgramContext context;
     Pattern saved(context);
-    QCOMPARE(saved.Load(home / "saved.pat"), 0);
+    QCOMPARE(saved.Load(program.Home / "saved.pat"), 0);
     QCOMPARE(saved.GetStitchPaletteIndex(6, 4), 1);
     QCOMPARE(saved.GetStitchType(4, 5, 0), int{StitchBTH});
     QCOMPARE(program.Command("mnuEditUndo").text(), QStringLiteral("Undo Flip"));
     QTRY_COMPARE(program.WrongPixels(), 0);
-    program.End();
 }
 
 void EditBoxFilesTest::ClosingAsksAboutWhatFloats() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     program.Tool("Copy");
     program.Key(Qt::Key_Escape);
-    program.User.files = {home / "saved.pat"};
+    program.User.files = {program.Home / "saved.pat"};
     program.Key(Qt::Key_S, Qt::ControlModifier);
     program.Tool("Paste");
     QVERIFY(!program.Design().IsChanged());
     program.User.answers = {MessageAnswer::Yes};
     // What lies in the system's folder for temporary files may vanish, so a name is asked for.
-    program.User.files = {home / "again.pat"};
+    program.User.files = {program.Home / "again.pat"};
     program.Window().close();
     QCOMPARE(program.User.asked.size(), std::size_t{1});
     ProgramContext context;
     Pattern saved(context);
-    QCOMPARE(saved.Load(home / "again.pat"), 0);
+    QCOMPARE(saved.Load(program.Home / "again.pat"), 0);
     QCOMPARE(saved.GetStitchPaletteIndex(1, 1), 1);
     QCOMPARE(saved.GetStitchPaletteIndex(4, 4), 1);
-    program.End();
 }
 
 void EditBoxFilesTest::AnotherDesignTakesNoBlockAlong() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     program.Choose("mnuFlipHorizontal");
     program.User.answers = {MessageAnswer::No};
-    program.User.files = {home / "app" / "Patterns" / "robin.pat"};
+    program.User.files = {program.Home / "app" / "Patterns" / "robin.pat"};
     program.Choose("mnuFileOpen");
     QCOMPARE(program.Design().Title, std::string("Winter Robin"));
     QVERIFY(!Box(program).IsActive());
     QVERIFY(!program.OnTop().Frame.has_value());
     ProgramContext context;
     Pattern robin(context);
-    QCOMPARE(robin.Load(home / "app" / "Patterns" / "robin.pat"), 0);
+    QCOMPARE(robin.Load(program.Home / "app" / "Patterns" / "robin.pat"), 0);
     const std::string difference = DifferenceOf(program.Design(), robin);
     QVERIFY2(difference.empty(), difference.c_str());
     QVERIFY(!program.Design().IsChanged());
-    program.End();
 }
 
 void EditBoxFilesTest::AutoSaveWaitsForTheBlock() {

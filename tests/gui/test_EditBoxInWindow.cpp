@@ -55,9 +55,7 @@ private:
 };
 
 void EditBoxInWindowTest::MenusAndButtonsFollowTheBox() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     const auto enabled = [&](bool box, bool paste) {
         for (const char* name : {"mnuEditCut", "mnuEditCopy", "mnuEditErase", "mnuEditCopyTo",
@@ -84,13 +82,10 @@ void EditBoxInWindowTest::MenusAndButtonsFollowTheBox() {
     program.User.answers = {MessageAnswer::No};
     program.NewPatternByMenu();
     QVERIFY2(enabled(false, true), "the clipboard outlives a design");
-    program.End();
 }
 
 void EditBoxInWindowTest::SelectionShowsItsSize() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     auto* panel = program.Find<QLabel>("selectionPanel");
     program.Pointer.MoveTo(program.Grid(), program.In(3, 3));
@@ -101,13 +96,10 @@ void EditBoxInWindowTest::SelectionShowsItsSize() {
     QCOMPARE(panel->text(), QStringLiteral("5 × 3 squares"));
     program.Key(Qt::Key_Escape);
     QCOMPARE(panel->text(), QString());
-    program.End();
 }
 
 void EditBoxInWindowTest::DragMovesTheSection() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     Twin before = Prepared(program);
     program.DragOver({{3, 3}, {7, 6}});
@@ -122,13 +114,10 @@ void EditBoxInWindowTest::DragMovesTheSection() {
     QCOMPARE(program.Command("mnuEditUndo").text(), QStringLiteral("Undo Move Section"));
     program.Key(Qt::Key_Z, Qt::ControlModifier);
     COMPARE_TWIN(program, before);
-    program.End();
 }
 
 void EditBoxInWindowTest::DragShowsTheBlockUnderWay() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     const Twin before = Prepared(program);
     program.DragOver({{3, 3}, {7, 6}});
@@ -146,13 +135,10 @@ void EditBoxInWindowTest::DragShowsTheBlockUnderWay() {
     program.Pointer.Release();
     QCOMPARE(Box(program).GetEditBoxRect(), (SquareRect{3, 3, 7, 6}));
     COMPARE_TWIN(program, before);
-    program.End();
 }
 
 void EditBoxInWindowTest::DragCarriesTheBoxOverTheEdgeOfTheView() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     program.Design().Resize(200, 24, 14, 14);
     program.Resized(300);
@@ -172,13 +158,10 @@ void EditBoxInWindowTest::DragCarriesTheBoxOverTheEdgeOfTheView() {
     QVERIFY(program.Design().GetStitchPaletteIndex(visible.Right, 4) == 1 ||
             program.Design().GetStitchPaletteIndex(visible.Right - 1, 4) == 1);
     QTRY_COMPARE(program.WrongPixels(), 0);
-    program.End();
 }
 
 void EditBoxInWindowTest::ZoomChangesWhileABlockFloats() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     program.DragOver({{3, 3}, {7, 6}});
     program.Choose("mnuFlipHorizontal");
@@ -191,13 +174,10 @@ void EditBoxInWindowTest::ZoomChangesWhileABlockFloats() {
     QTRY_COMPARE(program.WrongPixels(), 0);
     program.Area().ScrollGrid(3, 2, false);
     QTRY_COMPARE(program.WrongPixels(), 0);
-    program.End();
 }
 
 void EditBoxInWindowTest::DesignChangesBelowAFloatingBlock() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     program.DragOver({{3, 3}, {7, 6}});
     program.Choose("mnuFlipHorizontal");
@@ -205,13 +185,10 @@ void EditBoxInWindowTest::DesignChangesBelowAFloatingBlock() {
     program.Design().SetStitch(5, 5, StitchWhole, 3, 0);
     program.Area().RedrawSquares({5, 5, 5, 5});
     QTRY_COMPARE(program.WrongPixels(), 0);
-    program.End();
 }
 
 void EditBoxInWindowTest::CutAndPasteByKeys() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     const Twin empty(program.Design());
     program.DragOver({{4, 4}, {6, 5}});
@@ -233,7 +210,6 @@ void EditBoxInWindowTest::CutAndPasteByKeys() {
     program.Key(Qt::Key_Z, Qt::ControlModifier);
     QVERIFY(!Box(program).IsActive());
     COMPARE_TWIN(program, landed);
-    program.End();
 }
 
 void EditBoxInWindowTest::PasteIsLargerThanTheDesign_data() {
@@ -244,9 +220,7 @@ void EditBoxInWindowTest::PasteIsLargerThanTheDesign_data() {
 
 void EditBoxInWindowTest::PasteIsLargerThanTheDesign() {
     QFETCH(const bool, grow);
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     program.DragOver({{1, 1}, {20, 6}});
     program.Tool("Copy");
@@ -266,13 +240,10 @@ void EditBoxInWindowTest::PasteIsLargerThanTheDesign() {
     QTRY_COMPARE(program.WrongPixels(), 0);
     program.Key(Qt::Key_Return);
     QTRY_COMPARE(program.WrongPixels(), 0);
-    program.End();
 }
 
 void EditBoxInWindowTest::EraseByKey() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     const Twin before = Prepared(program);
     program.DragOver({{4, 4}, {5, 5}});
@@ -283,7 +254,6 @@ void EditBoxInWindowTest::EraseByKey() {
     QVERIFY(!Box(program).IsActive());
     program.Key(Qt::Key_Z, Qt::ControlModifier);
     COMPARE_TWIN(program, before);
-    program.End();
 }
 
 void EditBoxInWindowTest::TurnsByMenu_data() {
@@ -311,9 +281,7 @@ void EditBoxInWindowTest::TurnsByMenu() {
     QFETCH(const QRect, box);
     QFETCH(const QPoint, whole);
     QFETCH(const int, half);
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     const Twin empty(program.Design());
     const Twin before = Prepared(program);
@@ -330,13 +298,10 @@ void EditBoxInWindowTest::TurnsByMenu() {
     QTRY_COMPARE(program.WrongPixels(), 0);
     program.Key(Qt::Key_Z, Qt::ControlModifier);
     COMPARE_TWIN(program, before);
-    program.End();
 }
 
 void EditBoxInWindowTest::DragTurnDragAndUndo() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     program.DragOver({{4, 4}, {6, 5}});
     program.DragOver({{5, 4}, {15, 10}});
@@ -355,13 +320,10 @@ void EditBoxInWindowTest::DragTurnDragAndUndo() {
     COMPARE_TWIN(program, turned);
     program.Key(Qt::Key_Z, Qt::ControlModifier);
     COMPARE_TWIN(program, moved);
-    program.End();
 }
 
 void EditBoxInWindowTest::ArrowsAndEnter() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     const Twin empty(program.Design());
     const Twin before = Prepared(program);
@@ -379,13 +341,10 @@ void EditBoxInWindowTest::ArrowsAndEnter() {
     COMPARE_TWIN(program, after);
     program.Key(Qt::Key_Z, Qt::ControlModifier);
     COMPARE_TWIN(program, before);
-    program.End();
 }
 
 void EditBoxInWindowTest::ArrowsWithoutABoxScroll() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(100, 100, 600);
     program.Area().ScrollGrid(4, 5, true);
     for (const char* tool : {"DRAWMODE_STITCHES", "DRAWMODE_EDITBOX"}) {
@@ -418,26 +377,20 @@ void EditBoxInWindowTest::ArrowsWithoutABoxScroll() {
     QCOMPARE(SquarePos({program.Area().FirstColumn(), program.Area().FirstRow()}),
              SquarePos({1, 1}));
     QCOMPARE(Box(program).GetEditBoxRect(), (SquareRect{2, 1, 4, 2}));
-    program.End();
 }
 
 void EditBoxInWindowTest::SelectAllByKey() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     program.Tool("DRAWMODE_STITCHES");
     program.Key(Qt::Key_A, Qt::ControlModifier);
     QCOMPARE(program.Window().Modes().GetDrawMode(), DrawEditBox);
     QCOMPARE(Box(program).GetEditBoxRect(), (SquareRect{4, 4, 6, 5}));
     QTRY_COMPARE(program.WrongPixels(), 0);
-    program.End();
 }
 
 void EditBoxInWindowTest::EscapeDropsWhatFloats() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     program.DragOver({{4, 4}, {6, 5}});
     program.Choose("mnuFlipHorizontal");
@@ -449,13 +402,10 @@ void EditBoxInWindowTest::EscapeDropsWhatFloats() {
     COMPARE_TWIN(program, flipped);
     program.Key(Qt::Key_Escape);
     QCOMPARE(program.Window().Modes().GetDrawMode(), DrawStitches);
-    program.End();
 }
 
 void EditBoxInWindowTest::SquareUndoRefreshesASelection() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(30, 24, 200);
     const Twin empty(program.Design());
     program.ClickIn(4, 4);
@@ -465,7 +415,6 @@ void EditBoxInWindowTest::SquareUndoRefreshesASelection() {
     QVERIFY(Box(program).IsActive());
     program.DragOver({{4, 4}, {10, 10}});
     COMPARE_TWIN(program, empty);
-    program.End();
 }
 
 } // namespace zol::test

@@ -274,7 +274,7 @@ void FilesInWindowTest::FolderAndLibraryAreToldAndWorkStays() {
     if (name == QLatin1String("things")) {
         std::filesystem::create_directory(path);
     } else {
-        WriteText(path, "x");
+        WriteFile(path, "x");
     }
     m_program->ClickSquare(6, 6);
     QVERIFY(Drop(m_program->Grid(), {QString::fromStdString(path.string())}));

@@ -108,9 +108,7 @@ void ImportInWindowTest::init() {
 }
 
 void ImportInWindowTest::APhotoBecomesADesignAndUndoBringsTheOldOneBack() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 10, 300);
     program.ClickIn(2, 2);
     program.Design().FileName = "/patterns/rose.pat";
@@ -150,13 +148,10 @@ void ImportInWindowTest::APhotoBecomesADesignAndUndoBringsTheOldOneBack() {
     QCOMPARE(design.FileName, std::string("/patterns/rose.pat"));
     QTRY_COMPARE(program.WrongPixels(), 0);
     design.FileName.clear();
-    program.End();
 }
 
 void ImportInWindowTest::BackKeepsWhatWasDone() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Import(program, [&program](frmImportWizard& wizard) {
         TakeFile(program, wizard, "cat.png");
         SetWidth(wizard, QStringLiteral("24"));
@@ -184,14 +179,10 @@ void ImportInWindowTest::BackKeepsWhatWasDone() {
         QVERIFY(!PartOf<QPushButton>(wizard, "cmdBack").isEnabled());
         QVERIFY(PartOf<PictureView>(wizard, "LPicPreview").Shown() != nullptr);
     });
-    program.Design().SetChanged(false);
-    program.End();
 }
 
 void ImportInWindowTest::AnImportThatWasLeftIsResumedOrNot() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     const std::string before = BytesOf(program.Parts().Open.Get());
     // Nothing was chosen, so there is nothing to ask about.
     for (int i = 0; i < 2; ++i) {
@@ -223,13 +214,10 @@ void ImportInWindowTest::AnImportThatWasLeftIsResumedOrNot() {
         QVERIFY(PartOf<QWidget>(wizard, "optLastImage").isEnabled());
     });
     QVERIFY(program.User.unanswered.empty());
-    program.End();
 }
 
 void ImportInWindowTest::AnImportThatWasDoneIsResumedOnItsLastScreen() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Import(program, [&program](frmImportWizard& wizard) {
         TakeFile(program, wizard, "cat.png");
         SetWidth(wizard, QStringLiteral("24"));
@@ -249,14 +237,10 @@ void ImportInWindowTest::AnImportThatWasDoneIsResumedOnItsLastScreen() {
         QVERIFY(!wizard.isVisible());
     });
     QCOMPARE(BytesOf(program.Parts().Open.Get()), first);
-    program.Design().SetChanged(false);
-    program.End();
 }
 
 void ImportInWindowTest::AnImportIntoTheEditBoxLeavesTheRest() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 12, 300);
     program.ClickIn(1, 1);
     program.ClickIn(6, 6);
@@ -288,13 +272,10 @@ void ImportInWindowTest::AnImportIntoTheEditBoxLeavesTheRest() {
     QCOMPARE(design.GetStitchCount(4, 3), 0);
     QCOMPARE(design.GetStitchCount(6, 6), 1);
     design.SetChanged(false);
-    program.End();
 }
 
 void ImportInWindowTest::ADroppedPictureOpensTheWizardOnIt() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     DialogDriver driver({[](QDialog& dialog) {
         auto& wizard = dynamic_cast<frmImportWizard&>(dialog);
         auto& preview = PartOf<PictureView>(wizard, "LPicPreview");
@@ -320,13 +301,10 @@ void ImportInWindowTest::ADroppedPictureOpensTheWizardOnIt() {
     }});
     Q_EMIT program.Window().FileDropped(QString::fromStdString(Sample("cat.png").string()));
     QTRY_VERIFY(driver.AllDone());
-    program.End();
 }
 
 void ImportInWindowTest::FewFlossesThatShareTheirSymbolsAreTold() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     // A palette whose two flosses have the same symbol.
     Palette palette = Palette::Empty(program.Parts().Context);
     palette.AddPaletteEntry(MakeColour(200, 0, 10), "1", "red", "DMC", "R", 2, 1, 0, 0, 0, "DMC");
@@ -345,8 +323,6 @@ void ImportInWindowTest::FewFlossesThatShareTheirSymbolsAreTold() {
     });
     QCOMPARE(program.User.ToldTexts(),
              std::vector<std::string>{"2 flosses share their symbol with another one"});
-    program.Design().SetChanged(false);
-    program.End();
 }
 
 } // namespace zol::test

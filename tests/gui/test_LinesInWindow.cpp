@@ -77,9 +77,7 @@ private:
 };
 
 void LinesInWindowTest::DragAndTwoClicksDrawLines() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 300);
     Twin twin(program.Design());
     DrawOneLine(program, twin);
@@ -88,13 +86,10 @@ void LinesInWindowTest::DragAndTwoClicksDrawLines() {
     program.ClickIn(8, 9, 0.9, 0.5);
     twin.Line({4, 8}, 1, {8, 9}, 6);
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void LinesInWindowTest::ClickOnOnePointLeavesTheFirstEnd() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 300);
     Twin twin(program.Design());
     program.Tool("DRAWMODE_LINES");
@@ -104,13 +99,10 @@ void LinesInWindowTest::ClickOnOnePointLeavesTheFirstEnd() {
     program.ClickIn(6, 3);
     twin.Line({3, 3}, 5, {6, 3}, 5);
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void LinesInWindowTest::SamePointOfTwoSquaresIsRefused() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 300);
     const Twin empty(program.Design());
     program.Tool("DRAWMODE_LINES");
@@ -119,13 +111,10 @@ void LinesInWindowTest::SamePointOfTwoSquaresIsRefused() {
     program.Pointer.MoveTo(program.Grid(), program.In(6, 6, 0.1, 0.1));
     program.Pointer.Release();
     COMPARE_TWIN(program, empty);
-    program.End();
 }
 
 void LinesInWindowTest::RubberBandFollowsThePointer() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 300);
     const Twin empty(program.Design());
     program.Tool("DRAWMODE_LINES");
@@ -139,13 +128,10 @@ void LinesInWindowTest::RubberBandFollowsThePointer() {
     program.Tool("DRAWMODE_STITCHES");
     QVERIFY(!program.OnTop().RubberBand.has_value());
     COMPARE_TWIN(program, empty);
-    program.End();
 }
 
 void LinesInWindowTest::ChainEndsWithTheRightButton() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 300);
     Twin twin(program.Design());
     program.Tool("DRAWMODE_LINES");
@@ -163,13 +149,10 @@ void LinesInWindowTest::ChainEndsWithTheRightButton() {
     COMPARE_TWIN(program, twin);
     program.Pointer.MoveTo(program.Grid(), program.In(16, 9));
     QVERIFY(!program.OnTop().RubberBand.has_value());
-    program.End();
 }
 
 void LinesInWindowTest::HandleMovesAnEnd() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 300);
     Twin twin(program.Design());
     program.Tool("DRAWMODE_LINES");
@@ -188,13 +171,10 @@ void LinesInWindowTest::HandleMovesAnEnd() {
     twin.RemoveBackStitchLine(1);
     twin.Line({3, 3}, 5, {12, 9}, 5, 1, LineSquiggle);
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void LinesInWindowTest::EveryStyleByTheMenu() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 300);
     Twin twin(program.Design());
     DrawOneLine(program, twin);
@@ -205,13 +185,10 @@ void LinesInWindowTest::EveryStyleByTheMenu() {
         COMPARE_TWIN(program, twin);
         QVERIFY(!program.OnTop().Handles.has_value());
     }
-    program.End();
 }
 
 void LinesInWindowTest::MenuTakesTheLineAway() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 300);
     Twin twin(program.Design());
     DrawOneLine(program, twin);
@@ -224,13 +201,10 @@ void LinesInWindowTest::MenuTakesTheLineAway() {
     program.Key(Qt::Key_Z, Qt::ControlModifier);
     twin.RemoveBackStitchLine(1);
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void LinesInWindowTest::MenuGivesTheCurrentColor() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 300);
     Twin twin(program.Design());
     DrawOneLine(program, twin);
@@ -239,13 +213,10 @@ void LinesInWindowTest::MenuGivesTheCurrentColor() {
     twin.ChangeBSColor(1, 3);
     QVERIFY(program.OnTop().Handles.has_value());
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void LinesInWindowTest::MenuWithoutALineDoesNothing() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 300);
     Twin twin(program.Design());
     DrawOneLine(program, twin);
@@ -256,13 +227,10 @@ void LinesInWindowTest::MenuWithoutALineDoesNothing() {
     }
     QVERIFY(RightClick(program, program.In(10, 5), Choose("mnuLineDelete"))); // past its end
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void LinesInWindowTest::NearerLineIsSelected() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 100);
     Twin twin(program.Design());
     program.Tool("DRAWMODE_LINES");
@@ -271,13 +239,10 @@ void LinesInWindowTest::NearerLineIsSelected() {
     twin.Line({3, 5}, 5, {12, 5}, 5);
     QVERIFY(RightClick(program, program.In(7, 4, 0.5, 0.1), Choose("mnuLineDelete")));
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void LinesInWindowTest::AnchoredEndsFallOnTheUpperLeft() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 300);
     Twin twin(program.Design());
     program.Choose("mnuOptionsFlexBackstitch");
@@ -289,13 +254,10 @@ void LinesInWindowTest::AnchoredEndsFallOnTheUpperLeft() {
     program.ClickIn(8, 6, 0.9, 0.9);
     twin.Line({4, 4}, 1, {8, 6}, 1);
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void LinesInWindowTest::EraserTakesALineAway() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 300);
     Twin twin(program.Design());
     program.ClickIn(6, 4);
@@ -308,13 +270,10 @@ void LinesInWindowTest::EraserTakesALineAway() {
     program.ClickIn(6, 4);
     twin.RemoveBackStitchLine(1);
     COMPARE_TWIN(program, twin); // and not the stitch under it
-    program.End();
 }
 
 void LinesInWindowTest::EraserOpensTheMenu() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 300);
     Twin twin(program.Design());
     DrawOneLine(program, twin);
@@ -330,7 +289,6 @@ void LinesInWindowTest::EraserOpensTheMenu() {
     program.ClickIn(6, 4); // and the eraser hears the next press
     twin.RemoveBackStitchLine(1);
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 } // namespace zol::test

@@ -87,17 +87,12 @@ void MenusTest::StandInTheirOrder_data() {
 
 void MenusTest::StandInTheirOrder() {
     QFETCH(const QString, entries);
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     QCOMPARE(NamesIn(*program.Find<QMenu>(QTest::currentDataTag())), entries.split(u' '));
-    program.End();
 }
 
 void MenusTest::BarHasTheMenusInOrder() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     QStringList names;
     for (const QAction* action : program.Window().menuBar()->actions()) {
         names << action->menu()->objectName();
@@ -105,13 +100,10 @@ void MenusTest::BarHasTheMenusInOrder() {
     QCOMPARE(
         names,
         QStringLiteral("mnuFile mnuEdit mnuOptions mnuView mnuTools mnuLibs mnuHelp").split(u' '));
-    program.End();
 }
 
 void MenusTest::CaptionsAreAsFixed() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     const std::map<const char*, const char*> captions{
         {"mnuFK0", "&Normal"},
         {"mnuFK1", "&Horizontal Oval"},
@@ -132,13 +124,10 @@ void MenusTest::CaptionsAreAsFixed() {
     }
     QCOMPARE(program.Find<QMenu>("mnuFKType")->title().remove(u'&'),
              QStringLiteral("French Knot Style"));
-    program.End();
 }
 
 void MenusTest::MnemonicsStandOnceInAMenu() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     const QList<QMenu*> menus = program.Window().findChildren<QMenu*>();
     QVERIFY(menus.size() >= 16);
     for (const QMenu* menu : menus) {
@@ -151,13 +140,10 @@ void MenusTest::MnemonicsStandOnceInAMenu() {
             }
         }
     }
-    program.End();
 }
 
 void MenusTest::EveryCommandSaysWhatItDoes() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     std::map<QString, std::string> keys;
     for (const MainCommand& command : MainCommandTable()) {
         const QAction& action = program.Command(command.Name);
@@ -171,7 +157,6 @@ void MenusTest::EveryCommandSaysWhatItDoes() {
     QCOMPARE(program.Command("ZoomIn").shortcuts(),
              (QList<QKeySequence>{QKeySequence(Qt::CTRL | Qt::Key_Plus),
                                   QKeySequence(Qt::CTRL | Qt::Key_Equal)}));
-    program.End();
 }
 
 void MenusTest::CommandsThatNobodyCarriesOutAreDisabled() {
@@ -191,9 +176,7 @@ void MenusTest::CommandsThatNobodyCarriesOutAreDisabled() {
 }
 
 void MenusTest::SelectionCommandsWaitForASelection() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     for (const char* name : {"mnuEditUndo", "mnuEditCut", "mnuEditErase", "mnuEditCopy",
                              "mnuEditPaste", "mnuEditCopyTo"}) {
         QVERIFY2(!program.Command(name).isEnabled(), name);
@@ -208,12 +191,11 @@ void MenusTest::SelectionCommandsWaitForASelection() {
                              "mnuFileExit", "mnuPaintMode", "mnuEraseMode", "mnuViewGridLines"}) {
         QVERIFY2(program.Command(name).isEnabled(), name);
     }
-    program.End();
 }
 
 void MenusTest::ColorIsSpelledAsTheOptionSays() {
     const ProgramHome home;
-    WriteText(home / "settings.ini", "[Options]\nSpelling=British\n");
+    WriteFile(home / "settings.ini", "[Options]\nSpelling=British\n");
     RunningProgram program(home);
     QVERIFY(program.Start());
     QVERIFY(program.Parts().Context.BritishSpelling);
@@ -231,9 +213,7 @@ void MenusTest::ColorIsSpelledAsTheOptionSays() {
 }
 
 void MenusTest::EditMenuShowsWhatCanBeUndone() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     program.ClickSquare(5, 5);
     QCOMPARE(program.Design().GetStitchType(5, 5, 0), int{StitchWhole});
     QVERIFY(program.Command("mnuEditUndo").isEnabled());
@@ -248,25 +228,19 @@ void MenusTest::EditMenuShowsWhatCanBeUndone() {
     QCOMPARE(program.Command("mnuEditUndo").text(), QStringLiteral("Undo Half"));
     program.User.answers = {MessageAnswer::No};
     program.Window().close();
-    program.End();
 }
 
 void MenusTest::ToolsMenuRefreshesItsEnabling() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     QVERIFY(program.Command("mnuCenterBoth").isEnabled());
     program.Design().Resize(4, 0, 14, 14);
     Q_EMIT program.Find<QMenu>("mnuTools")->aboutToShow();
     QVERIFY(!program.Command("mnuCenterBoth").isEnabled());
     QVERIFY(!program.Command("mnuToolsShrink").isEnabled());
-    program.End();
 }
 
 void MenusTest::NewEnablesWhatAFontHadTakenAway() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     for (const char* menu : {"mnuOptions", "mnuTools", "mnuLibs"}) {
         program.Find<QMenu>(menu)->setEnabled(false);
     }
@@ -287,13 +261,10 @@ void MenusTest::NewEnablesWhatAFontHadTakenAway() {
     for (const char* key : {"PAINT", "ERASE", "GRIDLINES"}) {
         QVERIFY2(program.Find<QToolButton>(key)->isEnabled(), key);
     }
-    program.End();
 }
 
 void MenusTest::RecentFilesShowTheirPaths() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     for (const QAction* action : program.Find<QMenu>("mnuFile")->actions()) {
         QVERIFY(!action->objectName().startsWith(QLatin1String("mnuFileMRU")) ||
                 !action->isVisible());
@@ -302,7 +273,6 @@ void MenusTest::RecentFilesShowTheirPaths() {
     QVERIFY(program.Command("mnuFileMRU0").isVisible());
     QCOMPARE(program.Command("mnuFileMRU0").text(), QStringLiteral("/cloth/Jack && Jill.pat"));
     QVERIFY(!program.Command("mnuFileMRU1").isVisible());
-    program.End();
 }
 
 } // namespace zol::test

@@ -57,9 +57,7 @@ private Q_SLOTS:
 };
 
 void MouseOnGridTest::PaintReleasedBesideTheGridIsHarmless() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(8, 8, 100);
     const Twin twin(program.Design());
     for (const char* command : {"mnuPaintMode", "mnuPaintOnce"}) {
@@ -73,13 +71,10 @@ void MouseOnGridTest::PaintReleasedBesideTheGridIsHarmless() {
         QCOMPARE(Label(program), std::string());
     }
     QVERIFY(program.Window().Modes().GetDrawMode() == DrawStitches);
-    program.End();
 }
 
 void MouseOnGridTest::PickerReleasedBesideTheGridIsHarmless() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(8, 8, 100);
     program.Design().SetStitch(1, 1, StitchWhole, 5, 5);
     program.Tool("COLORPICKER");
@@ -91,13 +86,10 @@ void MouseOnGridTest::PickerReleasedBesideTheGridIsHarmless() {
     QVERIFY(program.Window().Modes().GetDrawMode() == DrawStitches);
     program.ClickIn(4, 4);
     QCOMPARE(program.Design().GetStitchPaletteIndex(4, 4), 1);
-    program.End();
 }
 
 void MouseOnGridTest::PressBesideTheGridDrawsNothing() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(8, 8, 100);
     const Twin twin(program.Design());
     for (const auto button : {Qt::LeftButton, Qt::RightButton}) {
@@ -107,13 +99,10 @@ void MouseOnGridTest::PressBesideTheGridDrawsNothing() {
     }
     COMPARE_TWIN(program, twin);
     QCOMPARE(Label(program), std::string());
-    program.End();
 }
 
 void MouseOnGridTest::MovesAreBroughtIntoThePattern() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(8, 8, 200);
     Twin twin(program.Design());
     program.DragOver({{3, 3}, {-4, 3}});
@@ -122,13 +111,10 @@ void MouseOnGridTest::MovesAreBroughtIntoThePattern() {
         twin.SetStitch(at.X, at.Y, StitchWhole, 1, 5);
     }
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void MouseOnGridTest::StrokeLeavesTheWindowAndComesBack() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 100);
     Twin twin(program.Design());
     program.Pointer.MoveTo(program.Grid(), program.In(3, 5));
@@ -146,13 +132,10 @@ void MouseOnGridTest::StrokeLeavesTheWindowAndComesBack() {
     program.Key(Qt::Key_Z, Qt::ControlModifier);
     const Twin empty(program.Design());
     COMPARE_TWIN(program, empty);
-    program.End();
 }
 
 void MouseOnGridTest::SecondButtonEndsTheStroke() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(12, 12, 100);
     Twin twin(program.Design());
     for (const SquarePos at : {SquarePos{2, 2}, {3, 2}}) {
@@ -173,13 +156,10 @@ void MouseOnGridTest::SecondButtonEndsTheStroke() {
     twin.SetStitch(5, 5, StitchWhole, 1, 5);
     twin.SetStitch(6, 5, StitchWhole, 1, 5);
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void MouseOnGridTest::SecondButtonAloneDoesNothing() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(12, 12, 100);
     Twin twin(program.Design());
     twin.SetStitch(2, 2, StitchWhole, 1, 5);
@@ -189,13 +169,10 @@ void MouseOnGridTest::SecondButtonAloneDoesNothing() {
     program.Pointer.Release();
     program.Pointer.Release(Qt::RightButton);
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void MouseOnGridTest::EscapeEndsAStroke() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(12, 12, 100);
     Twin twin(program.Design());
     twin.SetStitch(2, 2, StitchWhole, 1, 5);
@@ -206,7 +183,6 @@ void MouseOnGridTest::EscapeEndsAStroke() {
     program.Pointer.Release();
     COMPARE_TWIN(program, twin);
     QCOMPARE(Label(program), std::string("Stitches"));
-    program.End();
 }
 
 void MouseOnGridTest::EscapeLeavesEachTool_data() {
@@ -222,9 +198,7 @@ void MouseOnGridTest::EscapeLeavesEachTool_data() {
 void MouseOnGridTest::EscapeLeavesEachTool() {
     QFETCH(const QString, command);
     QFETCH(const bool, afterLines);
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     const DrawModes& modes = program.Window().Modes();
     program.Choose(afterLines ? "mnuDrawModeLines" : "mnuDrawModeStitches");
     program.Choose(command.toLatin1().constData());
@@ -234,13 +208,10 @@ void MouseOnGridTest::EscapeLeavesEachTool() {
     QVERIFY(program.Command(lines ? "mnuDrawModeLines" : "mnuDrawModeStitches").isChecked());
     QVERIFY(!program.Command("mnuEraseMode").isChecked());
     QVERIFY(!program.Command("mnuPaintMode").isChecked());
-    program.End();
 }
 
 void MouseOnGridTest::EscapeDropsALine() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(12, 12, 200);
     const Twin twin(program.Design());
     program.Tool("DRAWMODE_LINES");
@@ -254,13 +225,10 @@ void MouseOnGridTest::EscapeDropsALine() {
     program.Pointer.Release();
     program.ClickIn(4, 9);
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void MouseOnGridTest::WheelDuringAStroke() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(200, 200, 200);
     Twin twin(program.Design());
     program.Pointer.MoveTo(program.Grid(), program.In(5, 5));
@@ -277,13 +245,10 @@ void MouseOnGridTest::WheelDuringAStroke() {
     program.Key(Qt::Key_Z, Qt::ControlModifier);
     const Twin empty(program.Design());
     COMPARE_TWIN(program, empty);
-    program.End();
 }
 
 void MouseOnGridTest::ZoomDuringAStroke() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(60, 60, 100);
     Twin twin(program.Design());
     program.Pointer.MoveTo(program.Grid(), program.In(5, 5));
@@ -296,13 +261,10 @@ void MouseOnGridTest::ZoomDuringAStroke() {
         twin.SetStitch(x, 5, StitchWhole, 1, 5);
     }
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void MouseOnGridTest::DoubleClicksAreClicks() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(12, 12, 400);
     Twin twin(program.Design());
     program.Tool("STITCH_SQ");
@@ -322,13 +284,10 @@ void MouseOnGridTest::DoubleClicksAreClicks() {
     program.ClickIn(8, 8);
     twin.Line({8, 5}, 5, {8, 8}, 5);
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void MouseOnGridTest::LeftButtonDrawsAfterALineMenu() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(12, 12, 400);
     Twin twin(program.Design());
     program.Tool("DRAWMODE_LINES");
@@ -350,13 +309,10 @@ void MouseOnGridTest::LeftButtonDrawsAfterALineMenu() {
     program.DragOver({{3, 3}, {6, 7}});
     twin.Line({3, 3}, 5, {6, 7}, 5);
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void MouseOnGridTest::OneSquare() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(1, 1, 1000);
     Twin twin(program.Design());
     program.DragOver({{1, 1}, {3, 3}, {1, 1}});
@@ -372,13 +328,10 @@ void MouseOnGridTest::OneSquare() {
     program.Choose("mnuCenterBoth");
     program.Choose("mnuToolsShrink");
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void MouseOnGridTest::LargestPattern() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(999, 999, 100);
     Twin twin(program.Design());
     program.Area().ScrollGrid(999, 999, true);
@@ -391,13 +344,10 @@ void MouseOnGridTest::LargestPattern() {
     program.ClickIn(998, 999);
     twin.DeleteStitch(998, 999, 0);
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void MouseOnGridTest::PatternWithoutSquares() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Design().Resize(0, 0, 14, 14);
     program.Resized(100);
     const auto* holder = program.Find<QWidget>("picGridHolder");
@@ -416,7 +366,6 @@ void MouseOnGridTest::PatternWithoutSquares() {
     QCOMPARE(program.Design().GetBackStitchCount(), 0);
     QCOMPARE(Label(program), std::string());
     QVERIFY(program.User.unanswered.empty());
-    program.End();
 }
 
 void MouseOnGridTest::SmallestAndLargestZoom_data() {
@@ -428,9 +377,7 @@ void MouseOnGridTest::SmallestAndLargestZoom_data() {
 
 void MouseOnGridTest::SmallestAndLargestZoom() {
     QFETCH(const int, zoom);
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(300, 300, zoom);
     Twin twin(program.Design());
     // Which square lies under a pixel is the grid's to say; several share one at the smallest.
@@ -455,7 +402,6 @@ void MouseOnGridTest::SmallestAndLargestZoom() {
         }
     }
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 } // namespace zol::test

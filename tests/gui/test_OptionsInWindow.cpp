@@ -104,9 +104,7 @@ void OptionsInWindowTest::PartsOfTheWindowFollow_data() {
 void OptionsInWindowTest::PartsOfTheWindowFollow() {
     QFETCH(const QString, part);
     QFETCH(const QString, command);
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     auto* widget = program.Find<QWidget>(qPrintable(part));
     const char* tick = QTest::currentDataTag();
     for (const bool shown : {false, true}) {
@@ -114,7 +112,6 @@ void OptionsInWindowTest::PartsOfTheWindowFollow() {
         QCOMPARE(widget->isVisible(), shown);
         QCOMPARE(program.Command(qPrintable(command)).isChecked(), shown);
     }
-    program.End();
 }
 
 void OptionsInWindowTest::TheGridsPixelsFollow_data() {
@@ -131,9 +128,7 @@ void OptionsInWindowTest::TheGridsPixelsFollow_data() {
 
 void OptionsInWindowTest::TheGridsPixelsFollow() {
     QFETCH(const int, line);
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 300);
     program.ClickIn(3, 3);
     BackStitchLine stitch{1, 1, 1, 3, 3, 9, 1, 0};
@@ -151,13 +146,10 @@ void OptionsInWindowTest::TheGridsPixelsFollow() {
     });
     QVERIFY(program.Grid().grab().toImage() != before);
     QTRY_COMPARE(program.WrongPixels(), 0);
-    program.End();
 }
 
 void OptionsInWindowTest::TheStripFollows() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     auto* strip = program.Find<QWidget>("picPaletteHolder");
     const int low = strip->height();
     InOptions(program, [](QDialog& dialog) { Choose(dialog, "cmbPaletteSize", 2); });
@@ -168,13 +160,10 @@ void OptionsInWindowTest::TheStripFollows() {
     const QImage with = strip->grab().toImage();
     InOptions(program, [](QDialog& dialog) { Click(dialog, "chkDisplayPaletteSymbol"); });
     QVERIFY(strip->grab().toImage() != with);
-    program.End();
 }
 
 void OptionsInWindowTest::ToolsFollow() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     const auto* smart3 = program.Find<QToolButton>("STITCH_S3Q");
     const auto* smart1 = program.Find<QToolButton>("STITCH_SQ");
     QVERIFY(smart3->isVisible() && smart1->isVisible());
@@ -192,17 +181,13 @@ void OptionsInWindowTest::ToolsFollow() {
     QCOMPARE(program.Command("mnuOptionsFlexBackstitch").isChecked(), !flexible);
     InOptions(program, [](QDialog& dialog) { Click(dialog, "ChksUseSmartQS"); });
     QVERIFY(!smart1->isVisible());
-    program.End();
 }
 
 void OptionsInWindowTest::RulersFollowTheUnit() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     const QImage inches = program.Find<QWidget>("picHRuler")->grab().toImage();
     InOptions(program, [](QDialog& dialog) { Choose(dialog, "cmbUnits", 1); });
     QVERIFY(program.Find<QWidget>("picHRuler")->grab().toImage() != inches);
-    program.End();
 }
 
 void OptionsInWindowTest::ApplyThenCancelKeepsTheRunOnly() {

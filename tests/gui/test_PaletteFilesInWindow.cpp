@@ -61,9 +61,7 @@ void PaletteFilesInWindowTest::APaletteIsLoadedDrawnWithAndUndone() {
 }
 
 void PaletteFilesInWindowTest::StitchesRefuseTheLoad() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.ClickIn(2, 2);
     const int before = program.Design().GetPalette().GetEntriesCount();
     program.Choose("mnuLoadPalette");
@@ -72,7 +70,6 @@ void PaletteFilesInWindowTest::StitchesRefuseTheLoad() {
              std::string("You cannot load a new palette unless there are no stitches set."));
     QVERIFY(program.User.openDialogs.empty());
     QCOMPARE(program.Design().GetPalette().GetEntriesCount(), before);
-    program.End();
 }
 
 void PaletteFilesInWindowTest::TheDefaultPaletteIsTheNextRunsToo() {

@@ -45,9 +45,7 @@ private Q_SLOTS:
 };
 
 void PaletteInWindowTest::ReplacingIsOneStep() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.DragOver({{2, 2}, {6, 2}});
     const std::string drawn = BytesOf(program.Parts().Open.Get());
     program.User.answers = {MessageAnswer::Yes};
@@ -66,26 +64,20 @@ void PaletteInWindowTest::ReplacingIsOneStep() {
     program.Choose("mnuEditUndo");
     QVERIFY(BytesOf(program.Parts().Open.Get()) == drawn);
     QTRY_COMPARE(program.WrongPixels(), 0);
-    program.End();
 }
 
 void PaletteInWindowTest::NothingChangedIsNoStep() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.DragOver({{2, 2}, {6, 2}});
     InNextWindow("frmPalette", [](QDialog& editor) {
         QTest::keyClick(&PartOf<PaletteGrid>(editor, "picPalette"), Qt::Key_End);
     });
     program.Choose("mnuOptionsPalette");
     QCOMPARE(program.Command("mnuEditUndo").text(), QStringLiteral("Undo Stitches"));
-    program.End();
 }
 
 void PaletteInWindowTest::CurrentFlossFollows() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Window().Modes().SetCurrentColor(5);
     InNextWindow("frmPalette", [](QDialog& editor) {
         auto& grid = PartOf<PaletteGrid>(editor, "picPalette");
@@ -96,13 +88,10 @@ void PaletteInWindowTest::CurrentFlossFollows() {
     QCOMPARE(program.Window().findChild<PaletteStrip*>()->Current(), 4);
     program.Choose("mnuEditUndo");
     QCOMPARE(program.Window().findChild<PaletteStrip*>()->Current(), 5);
-    program.End();
 }
 
 void PaletteInWindowTest::AddedFlossAsksForItsSymbol() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     InNextWindow("frmPalette", [](QDialog& editor) {
         InNextWindow("frmSymbols", [](QDialog& window) { ClickIn(window, "cmdOK"); });
         ClickIn(editor, "cmdAdd");
@@ -113,13 +102,10 @@ void PaletteInWindowTest::AddedFlossAsksForItsSymbol() {
     QVERIFY(program.Design().IsChanged());
     // The same window serves every other palette of the program.
     QVERIFY(program.Parts().Context.Symbols != nullptr);
-    program.End();
 }
 
 void PaletteInWindowTest::SelectedAreaAloneIsReplaced() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.DragOver({{2, 2}, {9, 2}});
     program.Window().Modes().SetDrawMode(DrawEditBox);
     program.DragOver({{1, 1}, {4, 4}});
@@ -137,13 +123,10 @@ void PaletteInWindowTest::SelectedAreaAloneIsReplaced() {
     const EditBox& box = program.Window().Modes().Box();
     QCOMPARE(box.GetEditBoxRect(), (SquareRect{1, 1, 4, 4}));
     QCOMPARE(box.Content()->GetStitchPaletteIndex(4, 2), 2);
-    program.End();
 }
 
 void PaletteInWindowTest::FloatingBlockIsWrittenBackFirst() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.DragOver({{2, 2}, {4, 2}});
     program.Window().Modes().SetDrawMode(DrawEditBox);
     program.DragOver({{2, 2}, {4, 2}});
@@ -164,7 +147,6 @@ void PaletteInWindowTest::FloatingBlockIsWrittenBackFirst() {
     QCOMPARE(program.Design().GetStitchPaletteIndex(3, 7), 2);
     QCOMPARE(program.Window().Modes().Box().GetEditBoxRect(), (SquareRect{2, 7, 4, 7}));
     QTRY_COMPARE(program.WrongPixels(), 0);
-    program.End();
 }
 
 } // namespace zol::test

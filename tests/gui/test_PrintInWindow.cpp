@@ -60,22 +60,17 @@ void PrintInWindowTest::KeyCommandPrintsTheKeyAlone() {
 }
 
 void PrintInWindowTest::WithoutAPrinterTheDialogDoesNotOpen() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     program.Printers.isDefined = false;
     for (const char* command : {"mnuFilePrintPreview", "mnuPrintColorKey"}) {
         program.Choose(command);
         QCOMPARE(program.User.told.back().text, std::string("No Default Printer Defined!"));
     }
     QCOMPARE(program.User.told.size(), std::size_t{2});
-    program.End();
 }
 
 void PrintInWindowTest::SelectedAreaIsTheEditBox() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     program.ClickSquare(5, 6);
     program.Choose("mnuDrawModeEditBox");
     program.Drag({3, 4}, {12, 11});
@@ -91,13 +86,10 @@ void PrintInWindowTest::SelectedAreaIsTheEditBox() {
     QVERIFY(driver.AllDone());
     QCOMPARE(program.Printers.device.printed.size(), std::size_t{1});
     QVERIFY(program.Window().Modes().Box().IsActive());
-    program.End();
 }
 
 void PrintInWindowTest::FloatingBlockStaysAfloat() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     program.ClickSquare(5, 6);
     program.Choose("mnuDrawModeEditBox");
     program.Drag({5, 6}, {6, 7});
@@ -109,13 +101,10 @@ void PrintInWindowTest::FloatingBlockStaysAfloat() {
     QVERIFY(driver.AllDone());
     QVERIFY(!program.Printers.device.printed.empty());
     QVERIFY(program.Window().Modes().Box().HasPattern());
-    program.End();
 }
 
 void PrintInWindowTest::AdvancedSetupOpensThePrintouts() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     DialogDriver driver({[](QDialog& dialog) {
                              ClickIn(dialog, "cmdAdvanced");
                              QTest::keyClick(&dialog, Qt::Key_Escape);
@@ -128,13 +117,10 @@ void PrintInWindowTest::AdvancedSetupOpensThePrintouts() {
                          }});
     program.Choose("mnuFilePrintPreview");
     QVERIFY(driver.AllDone());
-    program.End();
 }
 
 void PrintInWindowTest::PageSetupTakesTheMargins() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     program.Choose("mnuFilePageSetup");
     QCOMPARE(program.Parts().Settings.LeftMargin, 0.5);
     program.Printers.newMargins = QMarginsF(1, 0.75, 0.5, 2);
@@ -144,7 +130,6 @@ void PrintInWindowTest::PageSetupTakesTheMargins() {
     QCOMPARE(program.Parts().Settings.BottomMargin, 2.0);
     QCOMPARE(program.Parts().Store.ReadSetting("Printer Opts", "TopMargin", ""),
              std::string("0.75"));
-    program.End();
 }
 
 } // namespace zol::test

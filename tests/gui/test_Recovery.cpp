@@ -35,7 +35,7 @@ private:
         return std::string(2, '\0') + 'P' + BytesOf(program.Parts().Open.Get());
     }
     static std::string RecoveryFile(DrawnProgram& program) {
-        return ReadText(program.Parts().AutoSave.AutoSavePath());
+        return ReadFile(program.Parts().AutoSave.AutoSavePath());
     }
     /// The window's timer, made to fire as often as it can.
     static QTimer* HurriedTimer(DrawnProgram& program) {
@@ -100,15 +100,15 @@ void RecoveryTest::UnknownKindIsLeftAlone() {
     const ProgramHome home;
     const KilledRun dead(home);
     QVERIFY(dead.IsDead());
-    std::string bytes = ReadText(dead.File());
+    std::string bytes = ReadFile(dead.File());
     bytes[2] = 'X';
-    WriteText(dead.File(), bytes);
+    WriteFile(dead.File(), bytes);
     DrawnProgram program(home);
     program.User.answers = {MessageAnswer::Yes};
     QVERIFY(program.Open());
     QCOMPARE(program.User.asked.size(), std::size_t{1});
     QVERIFY(program.User.told.empty());
-    QCOMPARE(ReadText(dead.File()), bytes);
+    QCOMPARE(ReadFile(dead.File()), bytes);
     QCOMPARE(program.Window().windowTitle(), QStringLiteral("Korvanta - Unsaved Pattern"));
     QVERIFY(!program.Design().IsChanged());
     const Twin empty(program.Design());
@@ -121,7 +121,7 @@ void RecoveryTest::RecoveredDesignAsksBeforeItIsClosed() {
     const auto file = home / "motif.pat";
     const KilledRun dead(home, file);
     QVERIFY(dead.IsDead());
-    const std::string saved = ReadText(file);
+    const std::string saved = ReadFile(file);
     DrawnProgram program(home);
     program.User.answers = {MessageAnswer::Yes, MessageAnswer::Cancel, MessageAnswer::No};
     QVERIFY(program.Open());
@@ -135,7 +135,7 @@ void RecoveryTest::RecoveredDesignAsksBeforeItIsClosed() {
     QVERIFY(program.Window().close());
     QCOMPARE(program.User.asked.size(), std::size_t{3});
     program.End();
-    QVERIFY2(ReadText(file) == saved, "a No saves nothing");
+    QVERIFY2(ReadFile(file) == saved, "a No saves nothing");
     QVERIFY(CountFiles(home / "state") <= 1);
 }
 
@@ -151,14 +151,14 @@ void RecoveryTest::SavesAtTheFirstStrokeAndEveryTenMinutes() {
     QVERIFY(!std::filesystem::exists(file));
     program.Pointer.Release();
     const std::string first = SavedBytes(program);
-    QVERIFY(ReadText(file) == first);
+    QVERIFY(ReadFile(file) == first);
     clock.Now += std::chrono::minutes(10) - std::chrono::seconds(1);
     program.ClickIn(4, 4);
-    QVERIFY(ReadText(file) == first);
+    QVERIFY(ReadFile(file) == first);
     clock.Now += std::chrono::seconds(1);
     program.ClickIn(6, 6);
     QVERIFY(first != SavedBytes(program));
-    QVERIFY(ReadText(file) == SavedBytes(program));
+    QVERIFY(ReadFile(file) == SavedBytes(program));
     program.End();
 }
 

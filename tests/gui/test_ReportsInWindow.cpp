@@ -45,14 +45,12 @@ QImage Read(const std::filesystem::path& file) {
 } // namespace
 
 void ReportsInWindowTest::WhatIsDrawnIsExported() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(10, 10, 300);
     program.ClickIn(2, 2);
     program.ClickIn(3, 2);
     const Colour floss = program.Design().GetPalette().GetFlossRGB(1);
-    program.User.files = {home / "out.png", home / "out.rtf"};
+    program.User.files = {program.Home / "out.png", program.Home / "out.rtf"};
     DialogDriver driver({[](QDialog& wizard) {
         WaitForPicture(wizard);
         SaveImage(wizard);
@@ -61,26 +59,23 @@ void ReportsInWindowTest::WhatIsDrawnIsExported() {
     }});
     program.Choose("mnuExport");
     QVERIFY(driver.AllDone());
-    const QImage picture = Read(home / "out.png");
+    const QImage picture = Read(program.Home / "out.png");
     QCOMPARE(picture.size(), QSize(100, 100));
     QCOMPARE(picture.pixel(15, 15), ToQColor(floss).rgb());
     QCOMPARE(picture.pixel(25, 15), ToQColor(floss).rgb());
     QVERIFY(picture.pixel(35, 15) != ToQColor(floss).rgb());
-    QCOMPARE(ReadText(home / "out.rtf"),
+    QCOMPARE(ReadFile(program.Home / "out.rtf"),
              RtfLegend::Write(program.Design(), PrintOptionsOf(program.Parts().Settings)));
     QVERIFY(program.User.told.empty());
-    program.End();
 }
 
 void ReportsInWindowTest::TheSelectedAreaIsExportedAsItFloats() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(10, 10, 300);
     program.ClickIn(2, 2);
     program.Tool("DRAWMODE_EDITBOX");
     program.DragOver({{2, 2}, {4, 3}});
-    program.User.files = {home / "out.png"};
+    program.User.files = {program.Home / "out.png"};
     DialogDriver driver({[](QDialog& wizard) {
         ClickIn(wizard, "chkSelectedOnly");
         WaitForPicture(wizard);
@@ -89,17 +84,14 @@ void ReportsInWindowTest::TheSelectedAreaIsExportedAsItFloats() {
     }});
     program.Choose("mnuExport");
     QVERIFY(driver.AllDone());
-    const QImage picture = Read(home / "out.png");
+    const QImage picture = Read(program.Home / "out.png");
     QCOMPARE(picture.size(), QSize(30, 20));
     QVERIFY(picture.pixel(5, 5) != picture.pixel(15, 5));
     QVERIFY(program.Window().Modes().Box().IsActive()); // the selection stays
-    program.End();
 }
 
 void ReportsInWindowTest::WhatWasChosenHoldsForTheRun() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     DialogDriver driver({[](QDialog& wizard) {
                              TypeIn(wizard, "txtPixelsPerSquare", QStringLiteral("3"));
                              PartOf<QComboBox>(wizard, "cmbSDA").setCurrentIndex(2);
@@ -114,17 +106,14 @@ void ReportsInWindowTest::WhatWasChosenHoldsForTheRun() {
     program.Choose("mnuExport");
     program.Choose("mnuExport");
     QVERIFY(driver.AllDone());
-    program.End();
 }
 
 void ReportsInWindowTest::WhatIsDrawnIsCountedAndPrinted() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(10, 10, 300);
     program.ClickIn(2, 2);
     program.ClickIn(3, 2);
-    program.User.files = {home / "out.csv"};
+    program.User.files = {program.Home / "out.csv"};
     program.Printers.choices.push_back({QStringLiteral("Loom"), true});
     DialogDriver driver({[](QDialog& window) {
         QCOMPARE(PartOf<QTreeView>(window, "lvFlossUsage").model()->rowCount(), 1);
@@ -135,11 +124,10 @@ void ReportsInWindowTest::WhatIsDrawnIsCountedAndPrinted() {
     program.Choose("mnuToolsFlossUsage");
     QVERIFY(driver.AllDone());
     const bool inches = program.Parts().Settings.UsesInches();
-    QCOMPARE(ReadText(home / "out.csv"),
+    QCOMPARE(ReadFile(program.Home / "out.csv"),
              FlossUsageCsv(GetFlossUsages(program.Design(), inches), inches));
     QCOMPARE(program.Printers.device.printed.size(), std::size_t{1});
     QVERIFY(program.User.told.empty());
-    program.End();
 }
 
 } // namespace zol::test

@@ -70,9 +70,7 @@ private:
 };
 
 void RowsInWindowTest::WordsOfBothModes() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     struct Mode {
         const char* command;
         QString title;
@@ -104,13 +102,10 @@ void RowsInWindowTest::WordsOfBothModes() {
         program.Choose(mode.command);
         QVERIFY(driver.AllDone());
     }
-    program.End();
 }
 
 void RowsInWindowTest::FieldsTakeDigitsAlone() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     DialogDriver driver({[&](QDialog& dialog) {
         for (const char* field : {"txtHowMany", "txtStartRow"}) {
             Type(dialog, field, "a1-2.,3x");
@@ -121,7 +116,6 @@ void RowsInWindowTest::FieldsTakeDigitsAlone() {
     }});
     program.Choose("mnuAddRows");
     QVERIFY(driver.AllDone());
-    program.End();
 }
 
 void RowsInWindowTest::Faults_data() {
@@ -163,9 +157,7 @@ void RowsInWindowTest::Faults() {
     QFETCH(const QByteArray, start);
     QFETCH(const QString, message);
     QFETCH(const QString, field);
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     Twin before(program.Design());
     for (int y = 1; y <= 5; ++y) {
@@ -189,13 +181,10 @@ void RowsInWindowTest::Faults() {
     QCOMPARE(focused, field);
     COMPARE_TWIN(program, before);
     QVERIFY(!program.Command("mnuEditUndo").isEnabled());
-    program.End();
 }
 
 void RowsInWindowTest::AddingInTheMiddleLosesTheLastRows() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     Run(program, "mnuAddRows", false, "2", "2");
     QCOMPARE(program.Design().GetPatternHeight(), 7);
@@ -211,13 +200,10 @@ void RowsInWindowTest::AddingInTheMiddleLosesTheLastRows() {
     QCOMPARE(program.Design().GetPatternHeight(), 5);
     QCOMPARE(program.Design().GetStitchPaletteIndex(2, 5), 5);
     QTRY_COMPARE(program.WrongPixels(), 0);
-    program.End();
 }
 
 void RowsInWindowTest::AddingAfterTheLastRowMovesNothing() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     Run(program, "mnuAddRows", false, "3", "5");
     QCOMPARE(program.Design().GetPatternHeight(), 8);
@@ -226,26 +212,20 @@ void RowsInWindowTest::AddingAfterTheLastRowMovesNothing() {
     }
     QCOMPARE(program.Design().GetStitchCount(2, 6), 0);
     QTRY_COMPARE(program.WrongPixels(), 0);
-    program.End();
 }
 
 void RowsInWindowTest::ColumnsUpTo999() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     Run(program, "mnuAddRows", true, "993", "6");
     QCOMPARE(program.Design().GetPatternWidth(), 999);
     QVERIFY(program.User.told.empty());
     QCOMPARE(program.Command("mnuEditUndo").text(), QStringLiteral("Undo Add Columns"));
     QTRY_COMPARE(program.WrongPixels(), 0);
-    program.End();
 }
 
 void RowsInWindowTest::DeletingAndItsUndo() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     Run(program, "mnuDelRows", false, "2", "2");
     QCOMPARE(program.Design().GetPatternHeight(), 3);
@@ -262,13 +242,10 @@ void RowsInWindowTest::DeletingAndItsUndo() {
     QCOMPARE(program.Design().GetStitchPaletteIndex(1, 3), 3);
     QCOMPARE(program.Command("mnuEditUndo").text(), QStringLiteral("Undo Delete Columns"));
     QTRY_COMPARE(program.WrongPixels(), 0);
-    program.End();
 }
 
 void RowsInWindowTest::DeletingEveryRowStaysUsable() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     Run(program, "mnuDelRows", false, "5", "1");
     QCOMPARE(program.Design().GetPatternHeight(), 0);
@@ -287,13 +264,10 @@ void RowsInWindowTest::DeletingEveryRowStaysUsable() {
     QCOMPARE(program.Design().GetPatternHeight(), 5);
     QCOMPARE(program.Design().GetStitchPaletteIndex(2, 4), 4);
     QTRY_COMPARE(program.WrongPixels(), 0);
-    program.End();
 }
 
 void RowsInWindowTest::CancelChangesNothing() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     program.ClickIn(4, 4);
     DialogDriver driver({[&](QDialog& dialog) {
@@ -305,13 +279,10 @@ void RowsInWindowTest::CancelChangesNothing() {
     QVERIFY(driver.AllDone());
     QCOMPARE(program.Design().GetPatternHeight(), 5);
     QCOMPARE(program.Command("mnuEditUndo").text(), QStringLiteral("Undo Stitches"));
-    program.End();
 }
 
 void RowsInWindowTest::WhatFloatsLandsFirst() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Prepare(program);
     program.Tool("DRAWMODE_EDITBOX");
     program.DragOver({{1, 1}, {3, 1}});
@@ -321,7 +292,6 @@ void RowsInWindowTest::WhatFloatsLandsFirst() {
     QCOMPARE(program.Design().GetStitchPaletteIndex(3, 1), 1);
     QCOMPARE(program.Design().GetPatternHeight(), 6);
     QTRY_COMPARE(program.WrongPixels(), 0);
-    program.End();
 }
 
 } // namespace zol::test

@@ -34,9 +34,7 @@ private:
 };
 
 void StartTest::StartsWithTheStartPattern() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     QCOMPARE(program.Window().windowTitle(), QStringLiteral("Korvanta - Unsaved Pattern"));
     QCOMPARE(program.Design().GetPatternWidth(), 100);
     QCOMPARE(program.Design().GetPatternHeight(), 100);
@@ -47,13 +45,12 @@ void StartTest::StartsWithTheStartPattern() {
     QVERIFY(program.Command("mnuStitchWhole").isChecked());
     QVERIFY(program.User.told.empty());
     program.End();
-    QVERIFY2(CountFiles(home / "state") <= 1, "a run that ended well leaves no files of its own");
+    QVERIFY2(CountFiles(program.Home / "state") <= 1,
+             "a run that ended well leaves no files of its own");
 }
 
 void StartTest::HasEveryToolButtonOfTheTables() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     for (const char* key : {"New",
                             "Open",
                             "Save",
@@ -98,7 +95,6 @@ void StartTest::HasEveryToolButtonOfTheTables() {
         QVERIFY2(!button->accessibleName().isEmpty(), key);
         QVERIFY2(!button->toolTip().isEmpty(), key);
     }
-    program.End();
 }
 
 void StartTest::RemembersItsPlace() {
@@ -144,7 +140,7 @@ void StartTest::MissingFileIsTold() {
 void StartTest::DamagedFileLeavesTheFreshPattern() {
     const ProgramHome home;
     const auto file = home / "damaged.pat";
-    WriteText(file, "no pattern at all");
+    WriteFile(file, "no pattern at all");
     RunningProgram program(home, file.string());
     QVERIFY(program.Start());
     QVERIFY(!program.User.told.empty());
@@ -171,7 +167,7 @@ void StartTest::PatternViewerEndsTheRunWithOne() {
 void StartTest::PatternViewerIsStartedAndEndsTheRun() {
     const ProgramHome home;
     const auto viewer = home / "app" / "PatternViewer";
-    WriteText(viewer, "#!/bin/sh\ntouch \"$0.ran\"\n");
+    WriteFile(viewer, "#!/bin/sh\ntouch \"$0.ran\"\n");
     std::filesystem::permissions(viewer, std::filesystem::perms::owner_all);
     RunningProgram program(home, "-PATTERNVIEWER");
     QVERIFY(!program.Start());
@@ -212,7 +208,7 @@ void StartTest::FileNameWithBlanksAndRelative() {
 
 void StartTest::ShowsSmartButtonsInPlaceOfTheFixedOnes() {
     const ProgramHome home;
-    WriteText(home / "settings.ini", "[Options]\nUseSmartQS=0\n");
+    WriteFile(home / "settings.ini", "[Options]\nUseSmartQS=0\n");
     RunningProgram program(home);
     QVERIFY(program.Start());
     QVERIFY(program.Find<QToolButton>("STITCH_S3Q")->isVisible());

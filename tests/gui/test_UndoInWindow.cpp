@@ -45,9 +45,7 @@ private:
 };
 
 void UndoInWindowTest::MenuNamesTheStepUntilItIsUndone() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     const Twin empty(program.Design());
     QAction* undo = OpenEditMenu(program);
     QVERIFY(undo != nullptr);
@@ -67,13 +65,10 @@ void UndoInWindowTest::MenuNamesTheStepUntilItIsUndone() {
     undo = OpenEditMenu(program);
     QCOMPARE(undo->text(), QStringLiteral("Undo Erase Stitches"));
     program.Key(Qt::Key_Escape);
-    program.End();
 }
 
 void UndoInWindowTest::SecondUndoDoesNothing() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Twin twin(program.Design());
     program.ClickIn(2, 2);
     program.ClickIn(4, 2);
@@ -83,13 +78,10 @@ void UndoInWindowTest::SecondUndoDoesNothing() {
     COMPARE_TWIN(program, twin);
     program.Choose("mnuEditUndo"); // disabled, as the menu shows it
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void UndoInWindowTest::UndoWaitsForTheEndOfAStroke() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     Twin twin(program.Design());
     program.ClickIn(2, 2);
     twin.SetStitch(2, 2, StitchWhole, 1, 5);
@@ -105,13 +97,10 @@ void UndoInWindowTest::UndoWaitsForTheEndOfAStroke() {
     COMPARE_TWIN(program, drawn);
     Undo(program);
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void UndoInWindowTest::KnotAndHalfStitchComeBack() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 300);
     Twin twin(program.Design());
     program.Tool("STITCH_TBH");
@@ -130,13 +119,10 @@ void UndoInWindowTest::KnotAndHalfStitchComeBack() {
     QCOMPARE(program.Design().GetStitchCount(4, 4), 0);
     Undo(program);
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void UndoInWindowTest::ChainGoesAtOnce() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 200);
     Twin twin(program.Design());
     program.Tool("DRAWMODE_LINES");
@@ -150,13 +136,10 @@ void UndoInWindowTest::ChainGoesAtOnce() {
     QCOMPARE(program.Design().GetBackStitchCount(), 4);
     Undo(program);
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void UndoInWindowTest::LineUnderWayIsNoStepYet() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 200);
     Twin twin(program.Design());
     program.ClickIn(8, 8);
@@ -173,13 +156,10 @@ void UndoInWindowTest::LineUnderWayIsNoStepYet() {
     QCOMPARE(program.Command("mnuEditUndo").text(), QStringLiteral("Undo Line"));
     Undo(program);
     COMPARE_TWIN(program, twin);
-    program.End();
 }
 
 void UndoInWindowTest::UndoInAChainLeavesItsRubberBand() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(20, 20, 200);
     const Twin empty(program.Design());
     Twin twin(program.Design());
@@ -197,7 +177,6 @@ void UndoInWindowTest::UndoInAChainLeavesItsRubberBand() {
     COMPARE_TWIN(program, empty);
     program.Key(Qt::Key_Escape);
     QVERIFY(!program.OnTop().RubberBand.has_value());
-    program.End();
 }
 
 void UndoInWindowTest::SnapshotSteps_data() {
@@ -216,9 +195,7 @@ void UndoInWindowTest::SnapshotSteps_data() {
 void UndoInWindowTest::SnapshotSteps() {
     QFETCH(const QString, command);
     QFETCH(const QString, label);
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.Take(40, 40, 100);
     program.Tool("STITCH_FKNOT");
     program.ClickIn(3, 3, 0.1, 0.1);
@@ -240,13 +217,10 @@ void UndoInWindowTest::SnapshotSteps() {
     QTRY_COMPARE(program.WrongPixels(), 0);
     QVERIFY(program.Design().IsChanged());
     QVERIFY(!program.Command("mnuEditUndo").isEnabled());
-    program.End();
 }
 
 void UndoInWindowTest::SizeComesBack() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.DragOver({{10, 10}, {14, 12}});
     const QSize grid = program.Grid().size();
     program.Choose("mnuToolsShrink");
@@ -257,13 +231,10 @@ void UndoInWindowTest::SizeComesBack() {
     QCOMPARE(program.Design().GetPatternWidth(), 100);
     QCOMPARE(program.Grid().size(), grid);
     QTRY_COMPARE(program.WrongPixels(), 0);
-    program.End();
 }
 
 void UndoInWindowTest::NothingToUndoInANewPattern() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.DragOver({{2, 2}, {5, 2}});
     program.User.answers = {MessageAnswer::No};
     program.NewPatternByMenu();
@@ -274,16 +245,13 @@ void UndoInWindowTest::NothingToUndoInANewPattern() {
     program.Parts().Steps.PerformUndo();
     COMPARE_TWIN(program, empty);
     QVERIFY(!program.Design().IsChanged());
-    program.End();
 }
 
 void UndoInWindowTest::NothingToUndoInAnOpenedPattern() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     program.DragOver({{2, 2}, {5, 2}});
     program.User.answers = {MessageAnswer::No};
-    program.User.files = {home / "app" / "Patterns" / "robin.pat"};
+    program.User.files = {program.Home / "app" / "Patterns" / "robin.pat"};
     program.Choose("mnuFileOpen");
     QCOMPARE(program.Design().Title, std::string("Winter Robin"));
     QVERIFY2(!program.Design().IsChanged(), "the fresh snapshot is no change");
@@ -293,23 +261,19 @@ void UndoInWindowTest::NothingToUndoInAnOpenedPattern() {
     program.Parts().Steps.PerformUndo();
     QVERIFY(BytesOf(program.Parts().Open.Get()) == robin);
     QTRY_COMPARE(program.WrongPixels(), 0);
-    program.End();
 }
 
 void UndoInWindowTest::SavingLeavesTheStep() {
-    const ProgramHome home;
-    DrawnProgram program(home);
-    QVERIFY(program.Open());
+    OpenedProgram program;
     const Twin empty(program.Design());
     program.DragOver({{2, 2}, {5, 2}});
-    program.User.files = {home / "saved.pat"};
+    program.User.files = {program.Home / "saved.pat"};
     program.Key(Qt::Key_S, Qt::ControlModifier);
     QVERIFY(!program.Design().IsChanged());
     QCOMPARE(program.Command("mnuEditUndo").text(), QStringLiteral("Undo Stitches"));
     Undo(program);
     COMPARE_TWIN(program, empty);
     QVERIFY2(program.Design().IsChanged(), "the file has what is no longer there");
-    program.End();
 }
 
 void UndoInWindowTest::SnapshotGoesWhereItIsTold() {

@@ -49,9 +49,7 @@ void ViewCommandsTest::PartsAreShownAndHiddenAndKept_data() {
 void ViewCommandsTest::PartsAreShownAndHiddenAndKept() {
     QFETCH(const QString, widget);
     QFETCH(const QString, value);
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     const char* command = QTest::currentDataTag();
     auto* part = program.Find<QWidget>(qPrintable(widget));
     const auto stored = [&] {
@@ -67,7 +65,6 @@ void ViewCommandsTest::PartsAreShownAndHiddenAndKept() {
     QVERIFY(part->isVisible());
     QVERIFY(program.Command(command).isChecked());
     QCOMPARE(stored(), std::string("TRUE"));
-    program.End();
 }
 
 void ViewCommandsTest::HiddenPartsStayHiddenInTheNextRun() {
@@ -93,9 +90,7 @@ void ViewCommandsTest::HiddenPartsStayHiddenInTheNextRun() {
 }
 
 void ViewCommandsTest::GridLinesGoInStepByButtonAndMenu() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     program.Area().Zoom().ChangeZoom(400);
     auto* button = program.Find<QToolButton>("GRIDLINES");
     QVERIFY(button->isChecked());
@@ -110,13 +105,10 @@ void ViewCommandsTest::GridLinesGoInStepByButtonAndMenu() {
     QCOMPARE(program.Parts().Store.ReadSetting("Design Grid Opts", "GridlinesVisible", ""),
              std::string("TRUE"));
     QCOMPARE(program.Grid().grab().toImage(), with);
-    program.End();
 }
 
 void ViewCommandsTest::DisplayStyleTakesTheMarkAndIsKept() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     program.ClickSquare(3, 3);
     QVERIFY(program.Command("mnuStitchColorSquares").isChecked());
     const QImage squares = program.Grid().grab().toImage();
@@ -127,13 +119,10 @@ void ViewCommandsTest::DisplayStyleTakesTheMarkAndIsKept() {
     QCOMPARE(program.Parts().Store.ReadSetting("Design Grid Opts", "StitchesDisplayAs", ""),
              std::string("5"));
     QVERIFY(program.Grid().grab().toImage() != squares);
-    program.End();
 }
 
 void ViewCommandsTest::RefreshLeavesTheScrollPosition() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     program.Area().Zoom().ChangeZoom(600);
     program.Area().ScrollGrid(17, 23, true);
     const QPoint place = program.Grid().pos();
@@ -141,13 +130,10 @@ void ViewCommandsTest::RefreshLeavesTheScrollPosition() {
     QCOMPARE(program.Area().FirstColumn(), 17);
     QCOMPARE(program.Area().FirstRow(), 23);
     QCOMPARE(program.Grid().pos(), place);
-    program.End();
 }
 
 void ViewCommandsTest::ZoomWindowHoldsPaintingAndZooms() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     bool sawPresent = false;
     QTimer::singleShot(0, &program.Window(), [&] {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
@@ -164,13 +150,10 @@ void ViewCommandsTest::ZoomWindowHoldsPaintingAndZooms() {
     // Painting goes on afterwards.
     program.ClickSquare(2, 2);
     QCOMPARE(program.Design().GetStitchCount(2, 2), 1);
-    program.End();
 }
 
 void ViewCommandsTest::ZoomWindowCancelledChangesNothing() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     QTimer::singleShot(0, &program.Window(), [] {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         QVERIFY(dialog != nullptr);
@@ -179,13 +162,10 @@ void ViewCommandsTest::ZoomWindowCancelledChangesNothing() {
     });
     program.Choose("mnuZoom");
     QCOMPARE(program.Area().Zoom().GridZoom(), 100);
-    program.End();
 }
 
 void ViewCommandsTest::ZoomStepsMenuHasTheBoxesSteps() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     auto* button = program.Find<QToolButton>("ZOOMSETTING");
     QVERIFY(button->isEnabled());
     QVERIFY(button->menu() != nullptr);
@@ -207,13 +187,10 @@ void ViewCommandsTest::ZoomStepsMenuHasTheBoxesSteps() {
     QCOMPARE(program.Area().Zoom().GridZoom(), 200);
     button->menu()->actions().at(0)->trigger();
     QTRY_COMPARE(box->currentText(), QStringLiteral("To Fit"));
-    program.End();
 }
 
 void ViewCommandsTest::SliderAndBoxFollowEachOther() {
-    const ProgramHome home;
-    RunningProgram program(home);
-    QVERIFY(program.Start());
+    StartedProgram program;
     auto* slider = program.Find<QSlider>("zoomSlider");
     const int at100 = slider->value();
     program.Choose("ZoomIn");
@@ -224,7 +201,6 @@ void ViewCommandsTest::SliderAndBoxFollowEachOther() {
     QTRY_VERIFY(program.Area().Zoom().GridZoom() < 100);
     QCOMPARE(program.Find<QComboBox>("cmbZoom")->currentText(),
              QString::number(program.Area().Zoom().GridZoom()) + QLatin1Char('%'));
-    program.End();
 }
 
 } // namespace zol::test
