@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "grid/painting/PaintColors.h"
 #include "grid/painting/StyledLine.h"
 #include "model/Rounding.h"
 

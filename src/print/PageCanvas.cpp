@@ -5,14 +5,7 @@
 
 #include <algorithm>
 
-#include "flosses/HSLFuncs.h"
-
 namespace zol {
-
-QColor ToQColor(Colour colour) {
-    return {HSLFuncs::RedOf(colour) & 255, HSLFuncs::GreenOf(colour) & 255,
-            HSLFuncs::BlueOf(colour) & 255};
-}
 
 PageCanvas::PageCanvas(PageDevice& device)
     : m_painter(device.Painter()),

@@ -8,13 +8,10 @@
 #include <QRectF>
 #include <QString>
 
-#include "model/ZOLTypes.h"
 #include "print/PageDevice.h"
 #include "print/PageFont.h"
 
 namespace zol {
-
-[[nodiscard]] QColor ToQColor(Colour colour);
 
 /// Text, rules and boxes at positions in twips of a page device. A canvas without a device takes
 /// everything and paints nothing, so that pages can be counted by the code that paints them.
