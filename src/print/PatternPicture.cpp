@@ -143,11 +143,12 @@ bool PatternPicture::PaintShapes(QPainter& painter, ProgressDoor* progress) cons
     Steps steps(progress, Squares.Right - Squares.Left + 1);
     for (int left = Squares.Left; left <= Squares.Right; left += columnsAtOnce) {
         const int right = std::min(left + columnsAtOnce - 1, Squares.Right);
-        grid.DrawSquares(painter, view, {left, Squares.Top, right, Squares.Bottom});
+        grid.DrawStitches(painter, view, {left, Squares.Top, right, Squares.Bottom});
         if (!steps.Reach(right - Squares.Left + 1)) {
             return false;
         }
     }
+    grid.DrawKnots(painter, view, Squares);
     grid.DrawBackStitchLines(painter, view, Squares);
     return true;
 }

@@ -81,7 +81,7 @@ void PrintFuncs::PaintStitches(QPainter& painter, const GridView& view, const Sq
     const int columns = squares.Right - squares.Left + 1;
     for (int left = squares.Left; left <= squares.Right; left += columnsAtOnce) {
         const int right = std::min(left + columnsAtOnce - 1, squares.Right);
-        m_painter.DrawSquares(painter, view, {left, squares.Top, right, squares.Bottom});
+        m_painter.DrawStitches(painter, view, {left, squares.Top, right, squares.Bottom});
         if (progress != nullptr) {
             progress->UpdateStatus((right - squares.Left + 1) * 100 / columns);
         }
@@ -89,6 +89,7 @@ void PrintFuncs::PaintStitches(QPainter& painter, const GridView& view, const Sq
             return;
         }
     }
+    m_painter.DrawKnots(painter, view, squares);
 }
 
 bool PrintFuncs::PrintPatternPage(PageDevice& target, ProgressDoor* progress, bool printStitches,

@@ -10,37 +10,27 @@
 #include "flosses/AvailColors.h"
 #include "flosses/Palette.h"
 #include "model/Pattern.h"
-#include "print/PageDevice.h"
+#include "print/Paper.h"
 #include "support/TempFolder.h"
 
 namespace zol::test {
 
 /// Paper with an unprintable border, of which only the measures matter.
-class MeasuredPaper : public PageDevice {
+class MeasuredPaper : public Paper {
 public:
     MeasuredPaper(int width, int height, int borderX = 0, int borderY = 0)
-        : m_width(width),
-          m_height(height),
-          m_borderX(borderX),
-          m_borderY(borderY) {}
+        : Paper(QPageSize(QSizeF(width, height) / 20.0, QPageSize::Point)),
+          m_size(width, height),
+          m_border(borderX, borderY) {}
 
-    [[nodiscard]] int Width() const override { return m_width; }
-    [[nodiscard]] int Height() const override { return m_height; }
-    [[nodiscard]] int ScaleWidth() const override { return m_width - 2 * m_borderX; }
-    [[nodiscard]] int ScaleHeight() const override { return m_height - 2 * m_borderY; }
-    [[nodiscard]] double TwipsPerPixelX() const override { return 1; }
-    [[nodiscard]] double TwipsPerPixelY() const override { return 1; }
-    [[nodiscard]] bool IsPrinter() const override { return true; }
-    [[nodiscard]] QPainter* Painter() override { return nullptr; }
-    bool NewPage() override { return false; }
-    bool EndDoc() override { return false; }
-    void KillDoc() override {}
+    [[nodiscard]] int Width() const override { return m_size.width(); }
+    [[nodiscard]] int Height() const override { return m_size.height(); }
+    [[nodiscard]] int ScaleWidth() const override { return Width() - 2 * m_border.width(); }
+    [[nodiscard]] int ScaleHeight() const override { return Height() - 2 * m_border.height(); }
 
 private:
-    int m_width;
-    int m_height;
-    int m_borderX;
-    int m_borderY;
+    QSize m_size; ///< twips
+    QSize m_border;
 };
 
 /// A program with a catalogue "DMC" of four flosses, another one, and an empty startup palette.

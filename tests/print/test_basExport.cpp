@@ -4,6 +4,7 @@
 #include "print/basExport.h"
 
 #include <QBuffer>
+#include <QPainter>
 
 #include <gtest/gtest.h>
 
@@ -116,6 +117,32 @@ TEST_F(ExportTest, PaintingInStepsIsPaintingAtOnce) {
     QImage whole(3600, 3600, QImage::Format_RGB32);
     GridPainter().PaintImage(whole, {}, view, view.Everything());
     EXPECT_EQ(stepped, whole);
+}
+
+TEST_F(ExportTest, ShapesInStepsCutNoKnot) {
+    pattern = scene.MakePattern(20, 6000); // so tall that each column is a step of its own
+    PrintScene::AddFloss(*pattern, Red, "310", 1, "!");
+    PrintScene::AddFloss(*pattern, MakeColour(20, 60, 200), "796", 2, "!");
+    for (int x = 1; x <= 20; ++x) {
+        for (int y = 1; y <= 20; ++y) {
+            pattern->SetStitch(x, y, StitchWhole, 1, 5);
+        }
+    }
+    for (int position = 1; position <= 9; ++position) {
+        scene.context.FrenchKnotStyle = static_cast<std::uint8_t>(position % 5);
+        pattern->SetStitch(2 * position, 2 * position, StitchFKnot, 2, position);
+    }
+    settings.ExportZoom = 12;
+    const auto shapes = [](const PatternPicture& picture, ProgressDoor* progress) {
+        QImage image(240, 240, QImage::Format_RGB32);
+        QPainter painter(&image);
+        EXPECT_TRUE(picture.PaintShapes(painter, progress));
+        return image;
+    };
+    RecordingProgress progress;
+    const QImage stepped = shapes(Picture({1, 1, 20, 6000}), &progress);
+    EXPECT_EQ(progress.updates.size(), 20U);
+    EXPECT_EQ(stepped, shapes(Picture({1, 1, 20, 20}), nullptr)); // few squares: one step
 }
 
 TEST_F(ExportTest, CancelGivesNoPictureAndNoFile) {

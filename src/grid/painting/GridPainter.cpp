@@ -75,6 +75,11 @@ void GridPainter::DrawGridLines(QPainter& painter, const GridView& view, const S
 }
 
 void GridPainter::DrawSquares(QPainter& painter, const GridView& view, const SquareRect& rect) {
+    DrawStitches(painter, view, rect);
+    DrawKnots(painter, view, rect);
+}
+
+void GridPainter::DrawStitches(QPainter& painter, const GridView& view, const SquareRect& rect) {
     const SquareRect cut = CutToPattern(view, rect);
     if (cut.IsEmpty() || view.Options.StitchStyle == PaintOptions::None) {
         return;
@@ -82,7 +87,6 @@ void GridPainter::DrawSquares(QPainter& painter, const GridView& view, const Squ
     const SquareSpans x = SquareSpans::Columns(view, cut.Left, cut.Right);
     const SquareSpans y = SquareSpans::Rows(view, cut.Top, cut.Bottom);
     SquarePainter squares(painter, view, *m_images, *m_symbols);
-    std::vector<SquarePos> knotted;
     for (const int column : ColumnsInOrder(cut, view.Options.Target)) {
         for (int row = cut.Top; row <= cut.Bottom; ++row) {
             const StitchCell& cell = view.Source->Cell(column, row);
@@ -90,11 +94,24 @@ void GridPainter::DrawSquares(QPainter& painter, const GridView& view, const Squ
                 squares.DrawStitches(SquareContent(*view.Source, column, row),
                                      {x.First(column), y.First(row), x.Last(column), y.Last(row)});
             }
-            if ((cell.CellFlags & CellHasKnot) != 0) {
+        }
+    }
+}
+
+void GridPainter::DrawKnots(QPainter& painter, const GridView& view, const SquareRect& rect) {
+    const SquareRect cut = CutToPattern(view, rect);
+    if (cut.IsEmpty() || view.Options.StitchStyle == PaintOptions::None) {
+        return;
+    }
+    std::vector<SquarePos> knotted;
+    for (int column = cut.Left; column <= cut.Right; ++column) {
+        for (int row = cut.Top; row <= cut.Bottom; ++row) {
+            if ((view.Source->Cell(column, row).CellFlags & CellHasKnot) != 0) {
                 knotted.push_back({column, row});
             }
         }
     }
+    SquarePainter squares(painter, view, *m_images, *m_symbols);
     for (const PlacedKnot& knot : KnotsOf(*view.Source, cut, knotted)) {
         squares.DrawKnot(knot);
     }

@@ -54,6 +54,10 @@ public:
     void DrawGridLines(QPainter& painter, const GridView& view, const SquareRect& rect);
     /// Stitches, then the knots that touch the squares.
     void DrawSquares(QPainter& painter, const GridView& view, const SquareRect& rect);
+    /// The two apart: who paints in strips draws knots when all stitches lie, since a knot reaches
+    /// half a square into the next strip.
+    void DrawStitches(QPainter& painter, const GridView& view, const SquareRect& rect);
+    void DrawKnots(QPainter& painter, const GridView& view, const SquareRect& rect);
     /// Everything in one square, its ground included except on paper. Knots reach half a square
     /// into the neighbours.
     void DrawSquare(QPainter& painter, const GridView& view, int column, int row);
