@@ -21,21 +21,13 @@
 #include "print/windows/PrinterChoice.h"
 #include "print/windows/ui_frmFlossUsage.h"
 #include "windowkit/DialogSize.h"
+#include "windowkit/WaitCursor.h"
 
 namespace zol {
 
 namespace {
 
 const char* const ReportName = "Korvanta Floss Usage Report";
-
-/// The hourglass for as long as it lives.
-class WaitCursor {
-public:
-    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
-    WaitCursor(const WaitCursor&) = delete;
-    WaitCursor& operator=(const WaitCursor&) = delete;
-};
 
 /// Rows with air round their texts.
 class AiryRows : public QStyledItemDelegate {
