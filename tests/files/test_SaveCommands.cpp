@@ -1,18 +1,17 @@
 // SPDX-FileCopyrightText: 2026 Korvanta contributors
 // SPDX-License-Identifier: MIT
 
-#include <csignal>
 #include <fstream>
-
-#include <sys/resource.h>
 
 #include "files/FilesTestKit.h"
 #include "model/RunTimeError.h"
+#include "support/FileHurdles.h"
 
 namespace zol {
 namespace {
 
 using test::FilesTest;
+using test::FullDisk;
 using test::ReadFile;
 using test::WriteFile;
 using ::testing::ElementsAre;
@@ -21,26 +20,6 @@ using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
 namespace fs = std::filesystem;
-
-/// No file of this process can grow beyond `bytes` while it lives: a full disk without one.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t bytes) : m_oldHandler(std::signal(SIGXFSZ, SIG_IGN)) {
-        ::getrlimit(RLIMIT_FSIZE, &m_old);
-        const rlimit tight{bytes, m_old.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &tight);
-    }
-    ~FullDisk() {
-        ::setrlimit(RLIMIT_FSIZE, &m_old);
-        std::signal(SIGXFSZ, m_oldHandler);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    rlimit m_old{};
-    void (*m_oldHandler)(int);
-};
 
 class SaveCommands : public FilesTest {
 protected:

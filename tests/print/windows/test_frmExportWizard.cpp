@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDir>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
@@ -20,6 +21,7 @@
 #include "print/windows/ExportedPicture.h"
 #include "print/windows/ReportScene.h"
 #include "support/DialogHands.h"
+#include "support/FileHurdles.h"
 
 namespace zol::test {
 
@@ -41,6 +43,8 @@ private Q_SLOTS:
     void TheClipboardTakesPictureAndLegend();
     void TheLegendIsSaved();
     void AFailedSaveIsToldAndTheWindowStays();
+    void NoRightAndNoRoomKeepTheOldFile_data();
+    void NoRightAndNoRoomKeepTheOldFile();
     void CancellingAFileDialogIsSilent();
     void ADesignWithoutStitchesOrFlossesIsExported();
     void AnEnormousPictureCanBeCancelled();
@@ -333,6 +337,43 @@ void ExportWizardTest::AFailedSaveIsToldAndTheWindowStays() {
     }
     QCOMPARE(wizard.user.ToldTexts(),
              (std::vector<std::string>{"Disk full", "Path not found", "Path not found"}));
+    QVERIFY(window.isVisible());
+}
+
+void ExportWizardTest::NoRightAndNoRoomKeepTheOldFile_data() {
+    QTest::addColumn<QByteArray>("name");
+    for (const char* name : {"out.bmp", "out.png", "out.svg", "out.pdf", "out.rtf"}) {
+        QTest::newRow(name) << QByteArray(name);
+    }
+}
+
+void ExportWizardTest::NoRightAndNoRoomKeepTheOldFile() {
+    QFETCH(const QByteArray, name);
+    Wizard wizard;
+    frmExportWizard& window = wizard.Open();
+    wizard.Export();
+    const std::filesystem::path folder = wizard.scene.Folder() / "out";
+    std::filesystem::create_directory(folder);
+    const std::filesystem::path file = folder / name.toStdString();
+    WriteFile(file, "old");
+    wizard.user.files = {file, file};
+    const char* const button = name.endsWith("rtf") ? "cmdSaveInfo" : "cmdSaveImage";
+    const auto save = [&] {
+        ClickIn(window, button);
+        QTRY_VERIFY(PartOf<QPushButton>(window, "cmdSaveImage").isEnabled());
+    };
+    {
+        const ReadOnlyFolder locked(folder);
+        save();
+    }
+    {
+        const FullDisk disk(60);
+        save();
+    }
+    QCOMPARE(wizard.user.ToldTexts(), (std::vector<std::string>{"Permission denied", "Disk full"}));
+    QVERIFY(wizard.user.told[1].more.find("is as it was") != std::string::npos);
+    QCOMPARE(ReadFile(file), std::string("old"));
+    QCOMPARE(QDir(QString::fromStdString(folder.string())).entryList(QDir::Files).size(), 1);
     QVERIFY(window.isVisible());
 }
 

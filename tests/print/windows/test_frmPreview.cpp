@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -17,8 +18,10 @@
 #include "print/windows/frmPreview.h"
 #include "settings/INIFuncs.h"
 #include "support/DialogHands.h"
+#include "support/FileHurdles.h"
 #include "support/ScriptedPrinter.h"
 #include "support/ScriptedUser.h"
+#include "support/TempFolder.h"
 
 namespace zol::test {
 
@@ -89,6 +92,8 @@ private Q_SLOTS:
     void FullDiskIsToldAndTheOldPictureStays();
     void PdfHoldsTheRange();
     void FullDiskOfAPdfIsTold();
+    void NoRightAndNoRoomKeepTheOldFiles_data();
+    void NoRightAndNoRoomKeepTheOldFiles();
     void CancelledDialogsWriteNothing();
     void SlowPageShowsTheWindowWithCancel();
     void CancelKeepsThePageThatIsShown();
@@ -355,6 +360,38 @@ void PreviewTest::FullDiskOfAPdfIsTold() {
     user.files = {std::filesystem::path("/dev/full")};
     ClickIn(*m_window, "cmdSavePdf");
     QCOMPARE(user.ToldTexts(), std::vector<std::string>{"Disk full"});
+}
+
+void PreviewTest::NoRightAndNoRoomKeepTheOldFiles_data() {
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<QByteArray>("name");
+    QTest::newRow("page") << QByteArray("cmdExport") << QByteArray("page.png");
+    QTest::newRow("bitmap") << QByteArray("cmdExport") << QByteArray("page.bmp");
+    QTest::newRow("pdf") << QByteArray("cmdSavePdf") << QByteArray("chart.pdf");
+}
+
+void PreviewTest::NoRightAndNoRoomKeepTheOldFiles() {
+    QFETCH(const QByteArray, button);
+    QFETCH(const QByteArray, name);
+    Show(1, 2);
+    const std::filesystem::path folder = File("out");
+    std::filesystem::create_directory(folder);
+    const std::filesystem::path file = folder / name.toStdString();
+    WriteFile(file, "old");
+    user.files = {file, file};
+    {
+        const ReadOnlyFolder locked(folder);
+        ClickIn(*m_window, button.constData());
+    }
+    {
+        const FullDisk disk(1000);
+        ClickIn(*m_window, button.constData());
+    }
+    QCOMPARE(user.ToldTexts(), (std::vector<std::string>{"Permission denied", "Disk full"}));
+    QVERIFY(user.told[1].more.find("A file of that name is as it was.") != std::string::npos);
+    QCOMPARE(ReadFile(file), std::string("old"));
+    QCOMPARE(QDir(QString::fromStdString(folder.string())).entryList(QDir::Files).size(), 1);
+    QVERIFY(Shows(1));
 }
 
 void PreviewTest::CancelledDialogsWriteNothing() {
