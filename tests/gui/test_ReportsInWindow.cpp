@@ -6,6 +6,8 @@
 #include <QPushButton>
 #include <QTreeView>
 
+#include <initializer_list>
+
 #include "grid/painting/PaintColors.h"
 #include "grid/tools/EditBox.h"
 #include "gui/DrawnProgram.h"
@@ -28,14 +30,21 @@ private Q_SLOTS:
 
 namespace {
 
-void WaitForPicture(QDialog& wizard) {
-    ClickIn(wizard, "cmdExport");
-    QTRY_VERIFY(PartOf<QPushButton>(wizard, "cmdSaveImage").isEnabled());
+/// Paints the picture and saves it.
+void ExportAndSave(QDialog& wizard) {
+    for (const char* button : {"cmdExport", "cmdSaveImage"}) {
+        ClickIn(wizard, button);
+        QTRY_VERIFY(PartOf<QPushButton>(wizard, "cmdSaveImage").isEnabled());
+    }
 }
 
-void SaveImage(QDialog& wizard) {
-    ClickIn(wizard, "cmdSaveImage");
-    QTRY_VERIFY(PartOf<QPushButton>(wizard, "cmdSaveImage").isEnabled());
+/// A design of 10 by 10 squares, large enough to be met by the mouse, of which these in row 2 are
+/// stitched.
+void Stitch(DrawnProgram& program, std::initializer_list<int> columns) {
+    program.Take(10, 10, 300);
+    for (const int column : columns) {
+        program.ClickIn(column, 2);
+    }
 }
 
 QImage Read(const std::filesystem::path& file) {
@@ -46,14 +55,11 @@ QImage Read(const std::filesystem::path& file) {
 
 void ReportsInWindowTest::WhatIsDrawnIsExported() {
     OpenedProgram program;
-    program.Take(10, 10, 300);
-    program.ClickIn(2, 2);
-    program.ClickIn(3, 2);
+    Stitch(program, {2, 3});
     const Colour floss = program.Design().GetPalette().GetFlossRGB(1);
     program.User.files = {program.Home / "out.png", program.Home / "out.rtf"};
     DialogDriver driver({[](QDialog& wizard) {
-        WaitForPicture(wizard);
-        SaveImage(wizard);
+        ExportAndSave(wizard);
         ClickIn(wizard, "cmdSaveInfo");
         QTest::keyClick(&wizard, Qt::Key_Escape);
     }});
@@ -71,15 +77,13 @@ void ReportsInWindowTest::WhatIsDrawnIsExported() {
 
 void ReportsInWindowTest::TheSelectedAreaIsExportedAsItFloats() {
     OpenedProgram program;
-    program.Take(10, 10, 300);
-    program.ClickIn(2, 2);
+    Stitch(program, {2});
     program.Tool("DRAWMODE_EDITBOX");
     program.DragOver({{2, 2}, {4, 3}});
     program.User.files = {program.Home / "out.png"};
     DialogDriver driver({[](QDialog& wizard) {
         ClickIn(wizard, "chkSelectedOnly");
-        WaitForPicture(wizard);
-        SaveImage(wizard);
+        ExportAndSave(wizard);
         wizard.reject();
     }});
     program.Choose("mnuExport");
@@ -110,9 +114,7 @@ void ReportsInWindowTest::WhatWasChosenHoldsForTheRun() {
 
 void ReportsInWindowTest::WhatIsDrawnIsCountedAndPrinted() {
     OpenedProgram program;
-    program.Take(10, 10, 300);
-    program.ClickIn(2, 2);
-    program.ClickIn(3, 2);
+    Stitch(program, {2, 3});
     program.User.files = {program.Home / "out.csv"};
     program.Printers.choices.push_back({QStringLiteral("Loom"), true});
     DialogDriver driver({[](QDialog& window) {
