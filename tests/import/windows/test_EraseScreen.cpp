@@ -374,7 +374,7 @@ void test_EraseScreen::aStrokeGoesOnPastTheEdgeOfTheView() {
     PictureView& view = scene.View();
     view.SetZoom(400);
     QCoreApplication::processEvents();
-    const int row = int(view.InPicture(QPointF(0, view.viewport()->height() / 2)).y());
+    const int row = int(view.InPicture(view.viewport()->rect().center()).y());
     test::PressAt(view, {20, row + 0.5});
     test::MovePast(view, 1, 0);
     QTRY_VERIFY(scene.IsErased(299, row));
