@@ -42,9 +42,19 @@ void KeyPages::NewKeyPage() {
     m_top = frame.TopMargin - offsetY;
     m_usableW = width - frame.RightMargin - offsetX;
     m_usableH = height - frame.BottomRoom - offsetY;
-    m_canvas.Text(m_left, m_usableH + 2 * m_canvas.Hairline(),
-                  OneLine(m_job->PrintPattern()->Copyright), m_font);
+    PrintCopyright(height - 2 * offsetY);
     PrintTitle();
+}
+
+void KeyPages::PrintCopyright(double paperEnd) {
+    const QString copyright = OneLine(m_job->PrintPattern()->Copyright);
+    double y = m_usableH + 2 * m_canvas.Hairline();
+    // Two lines have room above the margin; a longer text goes on below rather than past the edge.
+    const int mostLines = std::max(2, static_cast<int>((paperEnd - y) / m_font.TextHeight()));
+    for (const TextLine& line : WrapText(copyright, 0, m_font, FrameWidth(), mostLines)) {
+        m_canvas.Text(m_left, y, PrintedLine(copyright, line), m_font);
+        y += m_font.TextHeight();
+    }
 }
 
 void KeyPages::PrintTitle() {

@@ -43,6 +43,8 @@ public:
 
 private:
     void PrintTitle();
+    /// At the foot of the page; `paperEnd` is the lowest place that can be printed on.
+    void PrintCopyright(double paperEnd);
 
     const PrintFuncs* m_job;
     PageDevice* m_realTarget;

@@ -18,6 +18,14 @@ namespace {
 constexpr double SymbolHeight = 0.85;
 constexpr double SymbolOverBlockHeight = 0.66;
 
+/// Lies beneath lines that white paper would swallow.
+constexpr QColor Shade(0x80, 0x80, 0x80);
+constexpr int PaleFrom = 220; ///< grey value
+
+bool IsPale(Colour floss) {
+    return qGray(ToQColor(floss).rgb()) >= PaleFrom;
+}
+
 } // namespace
 
 KeySectionPainter::KeySectionPainter(PrintFuncs& job, KeyPages& pages, const KeySection& section,
@@ -55,7 +63,7 @@ std::size_t KeySectionPainter::PrintPart(std::size_t first) {
     const PageCanvas& canvas = m_pages->Canvas();
     const std::size_t left = m_section->Rows.size() - first;
     const auto columns = static_cast<std::size_t>(m_columnCount);
-    m_pages->MoveDown(m_rowHeight / 4);
+    m_pages->MoveDown(m_rowHeight / 2);
     const double top = m_pages->CurrentY();
     const double room = m_pages->Bottom() - 2 * canvas.Hairline() - top;
     const auto fitting = static_cast<std::size_t>(std::max(1.0, room / m_rowHeight));
@@ -108,9 +116,7 @@ void KeySectionPainter::PrintSample(const KeyRow& row, const QRectF& cell) const
         return;
     }
     if (style == PrintColorBlocks || style == PrintBlocksAndSymbols) {
-        // A little lower than the row, so that blocks of neighbouring rows stay apart.
-        const double air = m_rowHeight / 12;
-        const QRectF block = cell.adjusted(0, air, 0, -air);
+        const QRectF block = BlockIn(cell);
         m_pages->Canvas().Fill(block, ToQColor(row.Floss));
         m_pages->Canvas().Frame(block, m_pages->Canvas().Hairline());
     }
@@ -121,6 +127,12 @@ void KeySectionPainter::PrintSample(const KeyRow& row, const QRectF& cell) const
     } else if (style == PrintColorSymbols) {
         PrintSymbol(row, cell, row.Floss);
     }
+}
+
+QRectF KeySectionPainter::BlockIn(const QRectF& cell) const {
+    // A little lower than the row, so that blocks of neighbouring rows stay apart.
+    const double air = m_rowHeight / 12;
+    return cell.adjusted(0, air, 0, -air);
 }
 
 void KeySectionPainter::PrintSymbol(const KeyRow& row, const QRectF& cell, Colour colour) const {
@@ -154,6 +166,9 @@ void KeySectionPainter::PrintLine(const KeyRow& row, const QRectF& cell) const {
     LinePen pen;
     pen.Style = row.Symbol;
     pen.Floss = m_job->Options().BackStitchSymbol == PrintBlackLines ? 0 : row.Floss;
+    if (IsPale(pen.Floss)) {
+        canvas.Fill(BlockIn(cell), Shade);
+    }
     pen.Width = std::max(1, RoundToInt(canvas.PixelX(LineWidth)));
     pen.SquareWidth = canvas.PixelX(cell.width() / SquaresInSample);
     pen.SquareHeight = canvas.PixelY(cell.width() / SquaresInSample);

@@ -26,6 +26,8 @@ private:
     std::size_t PrintPart(std::size_t first);
     void PrintRow(const KeyRow& row, double x, double y) const;
     void PrintSample(const KeyRow& row, const QRectF& cell) const;
+    /// Where a block of colour lies in a row's cell.
+    [[nodiscard]] QRectF BlockIn(const QRectF& cell) const;
     void PrintSymbol(const KeyRow& row, const QRectF& cell, Colour colour) const;
     void PrintStitch(const KeyRow& row, const QRectF& cell) const;
     void PrintLine(const KeyRow& row, const QRectF& cell) const;

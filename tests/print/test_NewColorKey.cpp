@@ -9,6 +9,7 @@
 
 #include "model/RunTimeError.h"
 #include "print/ChartPdf.h"
+#include "print/PagePicture.h"
 #include "print/PdfReading.h"
 #include "print/PrintScene.h"
 
@@ -152,6 +153,23 @@ TEST_F(NewColorKeyTest, TitleStandsOnEveryKeyPage) {
     }
 }
 
+TEST_F(NewColorKeyTest, LongCopyrightWrapsWithinTheMargins) {
+    std::string copyright = "Copyright";
+    for (int i = 1; i <= 24; ++i) {
+        copyright += " word" + std::to_string(i);
+    }
+    pattern->Copyright = copyright;
+    const auto path = Print({});
+    EXPECT_TRUE(PdfText(path, 2).endsWith(QString::fromStdString(copyright)));
+    for (const PdfWord& word : PdfWords(path)) {
+        if (word.Page == 2) {
+            EXPECT_GE(word.Left, 35.5) << word.Text.toStdString();
+            EXPECT_LE(word.Right, 595 - 35.5) << word.Text.toStdString();
+            EXPECT_LE(word.Bottom, 842 - 35.5) << word.Text.toStdString();
+        }
+    }
+}
+
 TEST_F(NewColorKeyTest, AbsurdlyLongTitleStillLeavesRoomForTheKey) {
     pattern->Title = std::string(20000, 'W');
     AddFlosses(3);
@@ -185,6 +203,35 @@ TEST_F(NewColorKeyTest, BackstitchesHaveTheirOwnSection) {
     pattern->SetBackstitchLine(line);
     const QString text = PdfText(Print({}), 2);
     EXPECT_TRUE(text.contains(QStringLiteral("Backstitches: DMC 2 Floss 2"))) << text.toStdString();
+}
+
+TEST_F(NewColorKeyTest, PaleLinesLieOnAShadeThatShowsThem) {
+    constexpr QRgb shade = qRgb(0x80, 0x80, 0x80);
+    const auto countOf = [this](QRgb colour, int style) {
+        PrintOptions options;
+        options.StitchSymbol = PrintNone;
+        options.BackStitchSymbol = style;
+        MeasuredPaper paper(11900, 16840);
+        PrintFuncs job(options, &paper);
+        job.SetPattern(*pattern);
+        job.CountKeyPages();
+        const QImage page = PaintPage(job, job.GetPageCount(), 200, nullptr).Image;
+        int count = 0;
+        for (int y = 0; y < page.height(); ++y) {
+            for (int x = 0; x < page.width(); ++x) {
+                count += page.pixel(x, y) == colour ? 1 : 0;
+            }
+        }
+        return count;
+    };
+    PrintScene::AddFloss(*pattern, MakeColour(250, 252, 255), "B5200", 1, "!");
+    PrintScene::AddFloss(*pattern, MakeColour(250, 210, 120), "743", 2, "!");
+    pattern->SetBackstitchLine({1, 1, 1, 9, 9, 1, 2, LineStraight});
+    EXPECT_LT(countOf(shade, PrintColorLines), 50); // edges of letters: it is seen on paper
+    pattern->SetBackstitchLine({1, 2, 1, 9, 9, 1, 1, LineStraight});
+    EXPECT_GT(countOf(shade, PrintColorLines), 300);
+    EXPECT_GT(countOf(qRgb(250, 252, 255), PrintColorLines), 20);
+    EXPECT_LT(countOf(shade, PrintBlackLines), 50);
 }
 
 TEST_F(NewColorKeyTest, KeyIsNotReachedWhenThereAreNoPatternPages) {
