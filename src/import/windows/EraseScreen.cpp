@@ -27,6 +27,13 @@ QRectF RectOf(const PixelRect& rect) {
     return QRectF(rect.Left, rect.Top, rect.Width, rect.Height);
 }
 
+QString HelpText(bool eraser) {
+    return eraser ? EraseScreen::tr("Select an eraser size, then click and drag the mouse to "
+                                    "erase an area.")
+                  : EraseScreen::tr("Select the type of are you want to draw, then draw by "
+                                    "clicking and holding down the left mouse button.");
+}
+
 } // namespace
 
 EraseScreen::EraseScreen(ImportDesk& desk, QWidget* parent)
@@ -71,6 +78,7 @@ QString EraseScreen::Instruction() const {
 
 void EraseScreen::DisplayScreen(bool keepPicture) {
     const WaitCursor wait;
+    KeepRoomForHelp();
     if (keepPicture) {
         m_work.MakeOwn();
     } else {
@@ -79,6 +87,17 @@ void EraseScreen::DisplayScreen(bool keepPicture) {
     FreeRegion();
     ShowChange({});
     ShowPointer();
+}
+
+/// For the longer of the two, so that nothing below moves when the tool changes.
+void EraseScreen::KeepRoomForHelp() {
+    const QRect column(0, 0, m_ui->fraEraseButtons->minimumWidth(), 0);
+    const auto height = [&](bool eraser) {
+        return m_ui->lblHelp->fontMetrics()
+            .boundingRect(column, Qt::TextWordWrap, HelpText(eraser))
+            .height();
+    };
+    m_ui->lblHelp->setMinimumHeight(std::max(height(true), height(false)));
 }
 
 bool EraseScreen::ValidateScreen() {
@@ -232,12 +251,8 @@ void EraseScreen::ResetErase() {
 /// Help and choices of the tool that is chosen.
 void EraseScreen::ShowTool() {
     const bool eraser = UsesEraser();
-    m_ui->fraEraser->setVisible(eraser);
-    m_ui->fraMask->setVisible(!eraser);
-    m_ui->lblHelp->setText(
-        eraser ? tr("Select an eraser size, then click and drag the mouse to erase an area.")
-               : tr("Select the type of are you want to draw, then draw by clicking and holding "
-                    "down the left mouse button."));
+    m_ui->fraTool->setCurrentWidget(eraser ? m_ui->fraEraser : m_ui->fraMask);
+    m_ui->lblHelp->setText(HelpText(eraser));
     m_stroking = false;
     FreeRegion();
     ShowPointer();

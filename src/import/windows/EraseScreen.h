@@ -65,6 +65,7 @@ private:
     void ResetErase();
 
     void ShowTool();
+    void KeepRoomForHelp();
     void ShowPointer();
     void ShowChange(const PixelRect& changed);
     void ShowCommands();

@@ -208,11 +208,23 @@ void MappingScreen::PreviewPattern() {
     }
 }
 
-void MappingScreen::PreviewSoon() {
+bool MappingScreen::IsLive() const {
     const Picture& image = m_desk.Work.Session.Image();
-    if (qint64(image.ImageWidth()) * image.ImageHeight() <= MostLivePixels) {
+    return qint64(image.ImageWidth()) * image.ImageHeight() <= MostLivePixels;
+}
+
+void MappingScreen::PreviewSoon() {
+    if (IsLive()) {
         m_soon.start();
     }
+}
+
+/// What is to be done for a preview to come.
+QString MappingScreen::EmptyText() const {
+    if (m_ui->cmbFlossFamily->currentIndex() < 0) {
+        return tr("Choose the flosses to see the pattern.");
+    }
+    return IsLive() ? QString() : tr("Preview Pattern shows it stitched.");
 }
 
 /// While somebody types, what is wrong goes without saying.
@@ -246,6 +258,7 @@ void MappingScreen::ShowPreview() {
     // A view without a picture lies at its corner and would take the other one there.
     const QPoint corner(m_ui->lpicMappedImage->horizontalScrollBar()->value(),
                         m_ui->lpicMappedImage->verticalScrollBar()->value());
+    m_ui->lpicPreviewPattern->SetEmptyText(EmptyText());
     m_ui->lpicPreviewPattern->ShowPicture(session.PreviewPicture());
     for (PictureView* view : {m_ui->lpicMappedImage, m_ui->lpicPreviewPattern}) {
         view->horizontalScrollBar()->setValue(corner.x());

@@ -49,7 +49,9 @@ private:
     [[nodiscard]] int MaxColors() const;
     [[nodiscard]] bool CheckFields();
     void PreviewPattern();
+    [[nodiscard]] bool IsLive() const;
     void PreviewSoon();
+    [[nodiscard]] QString EmptyText() const;
     void PreviewQuietly();
     void StartPreview(bool tellFailure);
     void TakePreview(ImportPreview preview, bool tellFailure);

@@ -36,13 +36,19 @@ int HandleReach(const PicturePlace& place) {
     return static_cast<int>(std::ceil(HandleHalf * place.Ratio)) + LineWidth(place);
 }
 
-/// The middles of a band's handles.
-std::vector<QPoint> Handles(const QRect& band) {
+/// The middles of a band's handles; a side that is too short for three has those of its corners.
+std::vector<QPoint> Handles(const QRect& band, int reach) {
     const QPoint middle = band.center();
-    return {band.topLeft(),     {middle.x(), band.top()},
-            band.topRight(),    {band.right(), middle.y()},
-            band.bottomRight(), {middle.x(), band.bottom()},
-            band.bottomLeft(),  {band.left(), middle.y()}};
+    std::vector<QPoint> handles{band.topLeft(), band.topRight(), band.bottomRight(),
+                                band.bottomLeft()};
+    const int least = 6 * reach;
+    if (band.width() >= least) {
+        handles.insert(handles.end(), {{middle.x(), band.top()}, {middle.x(), band.bottom()}});
+    }
+    if (band.height() >= least) {
+        handles.insert(handles.end(), {{band.left(), middle.y()}, {band.right(), middle.y()}});
+    }
+    return handles;
 }
 
 QRect Square(QPoint middle, int reach) {
@@ -111,7 +117,7 @@ void DrawBand(QPainter& painter, const PicturePlace& place, const QRectF& band,
     frame(shown.adjusted(-width, -width, width, width), Qt::white);
     frame(shown, accent);
     const int reach = HandleReach(place) - width;
-    for (const QPoint& handle : Handles(shown)) {
+    for (const QPoint& handle : Handles(shown, reach)) {
         fill(Square(handle, reach), Qt::white);
         fill(Square(handle, reach - width), accent);
     }

@@ -11,6 +11,7 @@
 #include <QPointF>
 #include <QRegion>
 #include <QSizeF>
+#include <QString>
 
 #include <functional>
 #include <optional>
@@ -47,6 +48,8 @@ public:
     /// Shows another picture at the same zoom; null or empty for none. One of the same size stays
     /// scrolled as it is.
     void ShowPicture(SharedPicture picture);
+    /// Said in the middle while there is no picture; nothing unless set.
+    void SetEmptyText(const QString& text);
     /// Pixels of the picture that is shown have changed within a rectangle.
     void PictureChanged(const QRect& imageRect);
     [[nodiscard]] const SharedPicture& Shown() const { return m_levels.Source(); }
@@ -126,6 +129,8 @@ private:
     void PlaceContent(QSize content);
     void Refresh();
     void Repaint();
+    void PaintPicture(const QRegion& region);
+    void PaintEmptyText();
     void SetPanning(bool panning, QPoint at = {});
     void ShowPointer();
     void ScrollOn();
@@ -136,6 +141,7 @@ private:
     PicturePlace m_place;
     PictureLevels::Empty m_empty = PictureLevels::Empty::White;
     std::optional<QColor> m_cloth;
+    QString m_emptyText;
     OverlayPainter m_overlay;
 
     bool m_toFit = true;

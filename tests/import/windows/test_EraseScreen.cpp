@@ -36,6 +36,7 @@ class test_EraseScreen : public QObject {
 private Q_SLOTS:
     void textsAreAsTold();
     void eachToolShowsItsChoices();
+    void theHelpIsWholeAndNothingMovesWithTheTool();
     void theEraserHasThreeSizes_data();
     void theEraserHasThreeSizes();
     void aQuickDragLeavesNoGaps();
@@ -81,6 +82,26 @@ void test_EraseScreen::textsAreAsTold() {
     QCOMPARE(help.text(),
              QStringLiteral("Select the type of are you want to draw, then draw by clicking and "
                             "holding down the left mouse button."));
+}
+
+void test_EraseScreen::theHelpIsWholeAndNothingMovesWithTheTool() {
+    EraseScene scene;
+    scene.Dialog.resize(scene.Dialog.minimumSizeHint());
+    QCoreApplication::processEvents();
+    const QSize size = scene.Dialog.size();
+    const auto& help = PartOf<QLabel>(*scene.Screen, "lblHelp");
+    const int below = PartOf<QWidget>(*scene.Screen, "fraTool").y();
+    for (const char* tool : {"optEraseBy0", "optEraseBy1"}) {
+        scene.Press(tool);
+        QCoreApplication::processEvents();
+        QVERIFY2(help.height() >= help.heightForWidth(help.width()), tool);
+        QCOMPARE(PartOf<QWidget>(*scene.Screen, "fraTool").y(), below);
+        QCOMPARE(scene.Dialog.size(), size);
+    }
+    for (const char* button : {"cmdClearSelected", "cmdClearUnselected", "cmdUndo"}) {
+        const auto& shown = PartOf<QWidget>(*scene.Screen, button);
+        QVERIFY2(shown.height() >= shown.sizeHint().height(), button);
+    }
 }
 
 void test_EraseScreen::eachToolShowsItsChoices() {

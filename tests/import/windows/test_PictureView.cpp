@@ -8,6 +8,7 @@
 #include <QWheelEvent>
 
 #include "PictureViewKit.h"
+#include "windowkit/Theme.h"
 
 namespace zol {
 
@@ -29,7 +30,9 @@ private Q_SLOTS:
     void everyPixelShowsWhereItsPlaceLies();
     void aPictureToFitTouchesTwoSides();
     void aReducedPictureShowsMeans();
+    void saysSomethingWhileThereIsNoPicture();
     void emptySquaresShowTheClothOrAChecker();
+    void theCheckerStandsApartFromDarkPictures();
     void onlyTransparentPixelsAreEmptyBeforeWhiteIsRemapped();
     void aChangeShowsAtEveryZoom_data();
     void aChangeShowsAtEveryZoom();
@@ -121,6 +124,19 @@ void test_PictureView::aReducedPictureShowsMeans() {
     QVERIFY(std::abs(qBlue(shown) - 127) <= 2);
 }
 
+void test_PictureView::saysSomethingWhileThereIsNoPicture() {
+    const QImage bare = Shot(*m_view);
+    m_view->SetEmptyText(QStringLiteral("No picture yet"));
+    const QImage said = Shot(*m_view);
+    QVERIFY(said != bare);
+    m_view->ShowPicture(PlainPicture(400, 300, 0x00203040));
+    const QImage shown = Shot(*m_view);
+    m_view->SetEmptyText(QString());
+    QCOMPARE(Shot(*m_view), shown);
+    m_view->ShowPicture(nullptr);
+    QCOMPARE(Shot(*m_view), bare);
+}
+
 void test_PictureView::emptySquaresShowTheClothOrAChecker() {
     auto picture = PlainPicture(40, 40, 0x00203040);
     for (int x = 0; x < 40; ++x) {
@@ -135,6 +151,18 @@ void test_PictureView::emptySquaresShowTheClothOrAChecker() {
     const QImage cloth = Shot(*m_view);
     QCOMPARE(ShownAt(*m_view, cloth, {18, 10}), qRgb(10, 200, 30));
     QCOMPARE(ShownAt(*m_view, cloth, {19, 10}), qRgb(10, 200, 30));
+}
+
+void test_PictureView::theCheckerStandsApartFromDarkPictures() {
+    m_view->setPalette(Theme::Palette(Theme::Look::Dark));
+    m_view->ShowPicture(PlainPicture(40, 40, EraseColor));
+    m_view->SetZoom(800);
+    const QImage checker = Shot(*m_view);
+    for (const QPoint place : {QPoint(18, 10), QPoint(19, 10)}) {
+        const QColor shown(ShownAt(*m_view, checker, place));
+        QVERIFY(Theme::Contrast(shown, Qt::black) > 4.5);
+        QVERIFY(Theme::Contrast(shown, Qt::white) > 1.5);
+    }
 }
 
 void test_PictureView::onlyTransparentPixelsAreEmptyBeforeWhiteIsRemapped() {

@@ -60,6 +60,7 @@ private Q_SLOTS:
     void scansByKeys();
     void previewShowsTheBed();
     void drawsTheAreaWithTheMouse();
+    void allIsWholeInTheSmallestWindow();
     void typesTheArea();
     void rowsShowWhileTheyCome();
     void cancelStopsTheScanAndTheWindowStays();
@@ -246,6 +247,25 @@ void test_frmAcquire::drawsTheAreaWithTheMouse() {
     const ScanArea area = m_scanner->Requests().at(1).Area.value();
     QVERIFY(isNear(area.Left, 60.0) && isNear(area.Top, 10.0));
     QVERIFY(isNear(area.Width, 120.0) && isNear(area.Height, 60.0));
+}
+
+void test_frmAcquire::allIsWholeInTheSmallestWindow() {
+    OpenAndWait();
+    m_scanner->preview = {{}, LostConnection()};
+    Part<QPushButton>("cmdPreview").click();
+    QTRY_VERIFY(IsReady());
+    m_window->resize(m_window->minimumSizeHint());
+    QCoreApplication::processEvents();
+    for (const char* name : {"lblHelp", "lblProblem", "lblProblemMore"}) {
+        const auto& label = Part<QLabel>(name);
+        QVERIFY2(label.isVisible() && label.height() >= label.heightForWidth(label.width()), name);
+    }
+    for (const char* name : {"spnHeight", "cmdWholeArea", "lblSize", "cmbMode"}) {
+        const auto& part = Part<QWidget>(name);
+        QVERIFY2(part.height() >= part.minimumSizeHint().height(), name);
+    }
+    QVERIFY(m_window->minimumSizeHint().width() <= 1280);
+    QVERIFY(m_window->minimumSizeHint().height() <= 720);
 }
 
 void test_frmAcquire::typesTheArea() {
