@@ -50,6 +50,7 @@ SourceScreen::SourceScreen(ImportDesk& desk, QWidget* parent)
                        PictureFiles::LastImportName) {
     m_ui->setupUi(this);
     m_ui->LPicPreview->SetEmpty(PictureLevels::Empty::Transparent);
+    m_ui->LPicPreview->SetEmptyText(tr("No picture yet"));
     m_ui->zoomBox->Attach(*m_ui->LPicPreview);
     m_status = new JobStatus(this);
     m_status->Follow(m_loadJob, QtText(ImportMessages::LoadingPicture));
@@ -72,6 +73,8 @@ void SourceScreen::ConnectOptions() {
     // Also for the option that is chosen already: the clipboard may hold another image by now.
     connect(options, &QButtonGroup::buttonClicked, this, &SourceScreen::ChooseSource);
     connect(m_ui->cmdBrowse, &QPushButton::clicked, this, &SourceScreen::Browse);
+    // A name that is longer than the field can be read in full.
+    connect(m_ui->txtFileName, &QLineEdit::textChanged, m_ui->txtFileName, &QWidget::setToolTip);
     // What is typed names another picture than the one that is shown.
     connect(m_ui->txtFileName, &QLineEdit::textEdited, this, [this] {
         m_loadJob.Cancel();
@@ -121,9 +124,10 @@ bool SourceScreen::ValidateScreen() {
         Load(PathOf(name.toStdString()));
     }
     if (m_loadJob.IsRunning()) {
+        const SharedPicture before = m_picture;
         AwaitJob(m_loadJob, *m_status);
-        if (!HasPicture()) {
-            return false;
+        if (m_picture == before) {
+            return false; // cancelled, or failed
         }
     }
     if (!HasPicture()) {
@@ -186,11 +190,16 @@ void SourceScreen::Browse() {
 }
 
 void SourceScreen::TakeFile(const fs::path& file) {
+    Load(file);
+    m_takesFile = true;
+}
+
+/// The file that was loaded becomes the source.
+void SourceScreen::BecomeFile() {
     m_ui->optFile->setChecked(true);
     Empty();
     EnableFields();
-    m_ui->txtFileName->setText(QtText(PathText(file)));
-    Load(file);
+    m_ui->txtFileName->setText(QtText(PathText(m_loading)));
 }
 
 void SourceScreen::PasteImage() {
@@ -212,6 +221,7 @@ void SourceScreen::TakePicture(Picture picture) {
 
 void SourceScreen::Load(const fs::path& file) {
     m_loading = file;
+    m_takesFile = false;
     m_loadJob.Start(
         [file](ProgressDoor& progress) {
             progress.StartStatus(std::string(ImportMessages::LoadingPicture), 100);
@@ -226,6 +236,9 @@ void SourceScreen::TakeLoaded(ImagingResult& result) {
         return;
     }
     auto picture = std::make_shared<const Picture>(std::move(result.Image));
+    if (m_takesFile) {
+        BecomeFile();
+    }
     if (m_loading == m_lastImportFile) {
         m_saved = picture;
     }
@@ -237,7 +250,7 @@ void SourceScreen::TellFailure(const ImagingResult& result) {
                              PathText(m_loading) + "\nChoose another picture; the design is as "
                                                    "it was.",
                              MessageIcon::Exclamation, ImportMessages::Title);
-    if (m_ui->txtFileName->isEnabled()) {
+    if (!m_takesFile && m_ui->txtFileName->isEnabled()) {
         m_ui->txtFileName->setFocus();
         m_ui->txtFileName->selectAll();
     }

@@ -34,7 +34,8 @@ public:
     /// A file name that was typed is loaded only here.
     [[nodiscard]] bool ValidateScreen() override;
 
-    /// A file from outside, such as one that was dropped; it becomes the source.
+    /// A file from outside, such as one that was dropped; it becomes the source once it could be
+    /// read, until then the present one stays.
     void TakeFile(const std::filesystem::path& file);
     /// Shows a picture as the one to import, brought to the depth of an imported one.
     void TakePicture(Picture picture);
@@ -48,6 +49,7 @@ private:
     void ChooseSource();
     void EnableFields();
     void Empty();
+    void BecomeFile();
     void Browse();
     void PasteImage();
     void Load(const std::filesystem::path& file);
@@ -64,6 +66,7 @@ private:
     std::filesystem::path m_lastImportFile;
     SharedPicture m_saved; ///< what that file holds
     std::filesystem::path m_loading;
+    bool m_takesFile = false; ///< it is to become the source
     LatestJob m_loadJob;
     LatestJob m_saveJob;
 };

@@ -37,10 +37,6 @@ private Q_SLOTS:
     void BrowsingLoadsAndShowsAtOnce();
     void BrowsingComesBackToTheSameFolder();
     void ATypedNameTakesTheOldPictureAway();
-    void WhatCannotBeDecodedIsToldByNumberAndText_data();
-    void WhatCannotBeDecodedIsToldByNumberAndText();
-    void OddPicturesArrive_data();
-    void OddPicturesArrive();
     void TheClipboardIsPasted();
     void AnEmptyClipboardIsTold();
     void EachOptionEmptiesPreviewAndName();
@@ -152,107 +148,6 @@ void SourceScreenTest::ATypedNameTakesTheOldPictureAway() {
     QVERIFY(shown.Picture() == nullptr);
     QVERIFY(shown.Screen.ValidateScreen());
     QCOMPARE(kit.Work.TheImage->ImageWidth(), 5);
-}
-
-void SourceScreenTest::WhatCannotBeDecodedIsToldByNumberAndText_data() {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("told");
-    const auto cut = [](std::vector<std::uint8_t> bytes, std::size_t size) {
-        return QByteArray(reinterpret_cast<const char*>(bytes.data()),
-                          static_cast<qsizetype>(size));
-    };
-    const auto png = SavedAs(
-        VipsPicture(64, 64, [](int x, int y) { return MakeColour(unsigned(x * y) % 251U, 3, 9); }),
-        ".png");
-    QTest::newRow("empty") << QByteArray() << QStringLiteral("Error ");
-    QTest::newRow("text") << QByteArray("This is no picture at all.")
-                          << QStringLiteral("Error 321: ");
-    QTest::newRow("drawing") << QByteArray("<svg xmlns=\"http://www.w3.org/2000/svg\" "
-                                           "width=\"90000000\" height=\"90000000\"/>")
-                             << QStringLiteral("Error 321: ");
-    QTest::newRow("cut") << cut(png, png.size() / 2) << QStringLiteral("Error 57: ");
-    // 100 000 by 100 000 pixels, by its header.
-    QByteArray huge("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\x01\x86\xa0\0\x01\x86\xa0\x08\x02\0\0\0", 29);
-    huge += QByteArray::fromHex("9ff0fdb1");
-    huge += cut(png, png.size()).mid(33);
-    QTest::newRow("enormous") << huge << QStringLiteral("Error ");
-}
-
-void SourceScreenTest::WhatCannotBeDecodedIsToldByNumberAndText() {
-    QFETCH(QByteArray, bytes);
-    QFETCH(QString, told);
-    DeskKit kit;
-    SourceScene shown(kit);
-    const fs::path file = Write("bad.png", {bytes.begin(), bytes.end()});
-    TypeIn(shown.Screen, "txtFileName", QString::fromStdString(file.string()));
-    QVERIFY(!shown.Screen.ValidateScreen());
-    QCOMPARE(kit.User.told.size(), std::size_t{1});
-    const auto text = QString::fromStdString(kit.User.told[0].text);
-    QVERIFY2(text.startsWith(told), qPrintable(text));
-    QVERIFY(text.size() > told.size() + 5);
-    QVERIFY(kit.User.told[0].more.find("bad.png") != std::string::npos);
-    QVERIFY(kit.Work.TheImage == nullptr);
-    QVERIFY(shown.Picture() == nullptr);
-    // The name stays to be mended.
-    QCOMPARE(shown.Name(), QString::fromStdString(file.string()));
-}
-
-void SourceScreenTest::OddPicturesArrive_data() {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QPoint>("place");
-    QTest::addColumn<Colour>("colour");
-    const auto row = [](const char* name, const std::vector<std::uint8_t>& bytes, QSize size,
-                        QPoint place = {0, 0}, Colour colour = Brick) {
-        QTest::newRow(name) << QByteArray(reinterpret_cast<const char*>(bytes.data()),
-                                          static_cast<qsizetype>(bytes.size()))
-                            << size << place << colour;
-    };
-    using vips::VImage;
-    row("one pixel", SavedAs(Plain(1, 1, Brick), ".png"), {1, 1});
-    row("16 bits a channel",
-        SavedAs((Plain(9, 7, Brick).cast(VIPS_FORMAT_USHORT) * 257)
-                    .cast(VIPS_FORMAT_USHORT)
-                    .copy(VImage::option()->set("interpretation", VIPS_INTERPRETATION_RGB16)),
-                ".png"),
-        {9, 7});
-    // The left half is transparent.
-    const VImage covered = VipsPicture(9, 7, [](int x, int) { return x < 4 ? 0U : 0xFFFFFFU; });
-    row("alpha", SavedAs(Plain(9, 7, Brick).bandjoin(covered.extract_band(0)), ".png"), {9, 7},
-        {2, 3}, TransparentPixel);
-    row("alpha, covered", SavedAs(Plain(9, 7, Brick).bandjoin(covered.extract_band(0)), ".png"),
-        {9, 7}, {6, 3});
-    // Upright the upper left pixel is black.
-    const VImage marked =
-        VipsPicture(9, 7, [](int x, int y) { return x + y == 0 ? Colour{0} : Brick; });
-    row("rotated", SavedLying(marked, 6, ".tif"), {9, 7}, {0, 0}, 0);
-    row("rotated photo", SavedLying(Plain(9, 7, MakeColour(0, 0, 0)), 8, ".jpg"), {9, 7}, {4, 4},
-        0);
-    // Two pictures of 9 by 7, one below the other.
-    VImage pages =
-        VipsPicture(9, 14, [](int, int y) { return y < 7 ? Brick : Colour{0}; }).copy_memory();
-    pages.set(VIPS_META_PAGE_HEIGHT, 7);
-    row("animated", SavedAs(pages, ".gif"), {9, 7}, {4, 6});
-    // No ink at all.
-    const VImage cmyk =
-        VipsPicture(9, 7, [](int, int) { return Colour{0}; })
-            .bandjoin(0)
-            .copy(VImage::option()->set("interpretation", VIPS_INTERPRETATION_CMYK));
-    row("CMYK", SavedAs(cmyk, ".tif"), {9, 7}, {4, 4}, EraseColor);
-}
-
-void SourceScreenTest::OddPicturesArrive() {
-    QFETCH(QByteArray, bytes);
-    QFETCH(QSize, size);
-    QFETCH(QPoint, place);
-    QFETCH(Colour, colour);
-    DeskKit kit;
-    SourceScene shown(kit);
-    shown.Screen.TakeFile(Write("odd", {bytes.begin(), bytes.end()}));
-    QVERIFY(shown.Screen.ValidateScreen());
-    QVERIFY(kit.User.told.empty());
-    QCOMPARE(QSize(kit.Work.TheImage->ImageWidth(), kit.Work.TheImage->ImageHeight()), size);
-    QCOMPARE(kit.Work.TheImage->ImagePixel(place.x(), place.y()), colour);
 }
 
 void SourceScreenTest::TheClipboardIsPasted() {
