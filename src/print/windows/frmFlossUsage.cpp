@@ -29,14 +29,14 @@ namespace {
 
 const char* const ReportName = "Korvanta Floss Usage Report";
 
-/// Rows with air round their texts.
+/// Rows with air above and below their texts.
 class AiryRows : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
                                  const QModelIndex& index) const override {
-        return QStyledItemDelegate::sizeHint(option, index) + QSize(12, 6);
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 6);
     }
 };
 

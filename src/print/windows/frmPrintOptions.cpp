@@ -6,6 +6,8 @@
 #include <QLayout>
 #include <QPushButton>
 
+#include <algorithm>
+#include <initializer_list>
 #include <utility>
 
 #include "print/windows/JobPrinting.h"
@@ -41,6 +43,17 @@ int PageIn(const QLineEdit& field) {
     return static_cast<int>(FieldValue(field.text()));
 }
 
+/// The fields behind them begin in one column.
+void MakeEquallyWide(std::initializer_list<QWidget*> labels) {
+    const auto width = [](const QWidget* label) { return label->sizeHint().width(); };
+    const QWidget* widest = *std::max_element(
+        labels.begin(), labels.end(),
+        [&](const QWidget* one, const QWidget* other) { return width(one) < width(other); });
+    for (QWidget* label : labels) {
+        label->setMinimumWidth(width(widest));
+    }
+}
+
 } // namespace
 
 frmPrintOptions::frmPrintOptions(PrintDesk& desk, PrintPlan::Form form, QWidget* parent)
@@ -58,6 +71,7 @@ frmPrintOptions::frmPrintOptions(PrintDesk& desk, PrintPlan::Form form, QWidget*
     ShowPages();
     ConnectControls();
     Spell(*this, m_desk.Context);
+    MakeEquallyWide({m_ui->optPages1, m_ui->lblGSPI, m_ui->lblStitchesAs, m_ui->lblBackStitchesAs});
     m_ui->cmdPrint->setFocus();
     if (m_plan.IsKeyOnly()) {
         layout()->setSizeConstraint(QLayout::SetFixedSize);
