@@ -186,14 +186,30 @@ int QuietStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
                             const QWidget* widget) const {
     constexpr int extension = 18;
     constexpr int messageIcon = 40;
+    constexpr int cellMargin = 6;
     switch (metric) {
     case PM_ToolBarExtensionExtent:
         return extension;
     case PM_MessageBoxIconSize:
         return messageIcon;
+    case PM_HeaderMargin:
+        return cellMargin;
+    case PM_FocusFrameHMargin:
+        return cellMargin - 1; // lists add one to it
     default:
         return IconStyle::pixelMetric(metric, option, widget);
     }
+}
+
+QSize QuietStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
+                                   const QSize& contents, const QWidget* widget) const {
+    constexpr int buttonMargin = 12;
+    QSize size = IconStyle::sizeFromContents(type, option, contents, widget);
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (type == CT_PushButton && button != nullptr && !button->text.isEmpty()) {
+        size.setWidth(std::max(size.width(), contents.width() + 2 * buttonMargin));
+    }
+    return size;
 }
 
 QIcon QuietStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,

@@ -13,7 +13,8 @@ namespace zol {
 /// Fusion made quiet, for where no desktop brings a style of its own: flat bars without lines and
 /// bevels, so that the cloth and the threads stay the strong things on the screen. What is on is
 /// framed in the accent, in tool bars and menus alike. A scroll bar without a way to go shows
-/// nothing; one whose widget is not opaque leaves its ground to what lies beneath.
+/// nothing; one whose widget is not opaque leaves its ground to what lies beneath. Words have air
+/// at both sides on buttons and in the cells of lists.
 class QuietStyle : public IconStyle {
 public:
     using IconStyle::IconStyle;
@@ -32,6 +33,8 @@ public:
                   QStyleHintReturn* returned = nullptr) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption* option = nullptr,
                     const QWidget* widget = nullptr) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget = nullptr) const override;
     QIcon standardIcon(StandardPixmap icon, const QStyleOption* option = nullptr,
                        const QWidget* widget = nullptr) const override;
 

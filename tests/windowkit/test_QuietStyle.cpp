@@ -3,15 +3,19 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QHeaderView>
 #include <QImage>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QStyle>
 #include <QTest>
 #include <QToolBar>
 #include <QToolButton>
+#include <QTreeWidget>
 
 #include <algorithm>
 #include <array>
@@ -202,6 +206,21 @@ private Q_SLOTS:
         qputenv("KORVANTA_THEME", "dark");
         Theme::Apply(*qApp);
         QCOMPARE(QApplication::style()->styleHint(QStyle::SH_EtchDisabledText), 0);
+    }
+
+    void WordsHaveAirAtBothSides() {
+        qputenv("KORVANTA_THEME", "light");
+        Theme::Apply(*qApp);
+        const QString words = QStringLiteral("Words that are longer than a button is wide");
+        const QPushButton button(words);
+        QVERIFY(button.sizeHint().width() >= button.fontMetrics().horizontalAdvance(words) + 24);
+        QListWidget list;
+        list.addItem(words);
+        QVERIFY(list.sizeHintForColumn(0) >= list.fontMetrics().horizontalAdvance(words) + 12);
+        QTreeWidget table;
+        table.setHeaderLabel(words);
+        QVERIFY(table.header()->sectionSizeHint(0) >=
+                table.header()->fontMetrics().horizontalAdvance(words) + 12);
     }
 
     void MessagesBearSignsOfTheFamily_data() { AddRowPerLook(); }
