@@ -32,6 +32,7 @@ private Q_SLOTS:
     void BackKeepsWhatWasDone();
     void AnImportThatWasLeftIsResumedOrNot();
     void AnImportThatWasDoneIsResumedOnItsLastScreen();
+    void ACancelDuringFinishLeavesDesignUndoAndWizard();
     void AnImportIntoTheEditBoxLeavesTheRest();
     void ADroppedPictureOpensTheWizardOnIt();
     void FewFlossesThatShareTheirSymbolsAreTold();
@@ -95,6 +96,26 @@ void ChooseFamily(frmImportWizard& wizard, const QString& maxColors) {
     QTest::keyClick(&family, Qt::Key_Home);
     TypeIn(wizard, "txtMaxColors", maxColors);
 }
+
+/// Presses Cancel as soon as a strip that says how far work is shows up.
+class CancelAtOnce : public QObject {
+public:
+    explicit CancelAtOnce(QWidget& strip) : m_strip(strip) { strip.installEventFilter(this); }
+    [[nodiscard]] bool WasShown() const { return m_wasShown; }
+
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        if (event->type() == QEvent::Show && !m_wasShown) {
+            m_wasShown = true;
+            QMetaObject::invokeMethod(
+                this, [this] { ClickIn(m_strip, "cmdCancelStatus"); }, Qt::QueuedConnection);
+        }
+        return false;
+    }
+
+private:
+    QWidget& m_strip;
+    bool m_wasShown = false;
+};
 
 void SetWidth(frmImportWizard& wizard, const QString& stitches) {
     ClickIn(wizard, "optStitches");
@@ -237,6 +258,36 @@ void ImportInWindowTest::AnImportThatWasDoneIsResumedOnItsLastScreen() {
         QVERIFY(!wizard.isVisible());
     });
     QCOMPARE(BytesOf(program.Parts().Open.Get()), first);
+}
+
+void ImportInWindowTest::ACancelDuringFinishLeavesDesignUndoAndWizard() {
+    OpenedProgram program;
+    program.Take(20, 12, 300);
+    const std::string before = BytesOf(program.Parts().Open.Get());
+    program.Design().SetChanged(false);
+    Import(program, [&program](frmImportWizard& wizard) {
+        TakeFile(program, wizard, "still-life.jpg");
+        SetWidth(wizard, QStringLiteral("2400")); // so many stitches take a while
+        GoToMapping(wizard);
+        ChooseFamily(wizard, QStringLiteral("12"));
+        auto* strip =
+            wizard.findChild<QWidget*>(QStringLiteral("picStatus"), Qt::FindDirectChildrenOnly);
+        QVERIFY(strip != nullptr);
+        const CancelAtOnce cancel(*strip);
+        Next(wizard);
+        QVERIFY(cancel.WasShown());
+        QVERIFY(wizard.isVisible() && !strip->isVisible());
+        QCOMPARE(wizard.CurrentScreen(), 5);
+        QCOMPARE(PartOf<QLineEdit>(wizard, "txtMaxColors").text(), QStringLiteral("12"));
+        QVERIFY(PartOf<QComboBox>(wizard, "cmbFlossFamily").currentIndex() >= 0);
+        // All that was done is there on the screens before.
+        ClickIn(wizard, "cmdBack");
+        ClickIn(wizard, "cmdBack");
+        QCOMPARE(PartOf<QLineEdit>(wizard, "txtWidth").text(), QStringLiteral("2400"));
+    });
+    QCOMPARE(BytesOf(program.Parts().Open.Get()), before);
+    QVERIFY(!program.Design().IsChanged());
+    QVERIFY(!program.Command("mnuEditUndo").isEnabled());
 }
 
 void ImportInWindowTest::AnImportIntoTheEditBoxLeavesTheRest() {
