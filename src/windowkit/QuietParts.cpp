@@ -20,9 +20,9 @@ constexpr double Radius = 3;
 constexpr double LineShare = 0.16;
 constexpr double HoverShare = 0.08;
 constexpr double DownShare = 0.16;
-constexpr double FadedMarkShare = 0.32;
 constexpr double FieldShare = 0.55;
-constexpr double MarkShare = 0.75; ///< frames of boxes and rings, whose curves soften them
+constexpr double MarkShare = 0.75; ///< frames of boxes and rings, whose curves soften them; the
+                                   ///< palette fades those that are off
 /// How much of the accent's colour the ground of what is on takes.
 constexpr double OnShare = 0.14;
 
@@ -39,14 +39,14 @@ void SetMarkColors(const QStyleOption& option, QPainter& painter) {
         return;
     }
     const bool hover = option.state.testFlag(QStyle::State_MouseOver);
-    painter.setPen(QPen(Ground(option, !enabled ? LineShare : hover ? 1 : MarkShare), 1));
+    painter.setPen(QPen(Ground(option, hover ? 1 : MarkShare), 1));
     painter.setBrush(option.palette.color(QPalette::Base));
 }
 
 QColor MarkColor(const QStyleOption& option) {
     return option.state.testFlag(QStyle::State_Enabled)
                ? option.palette.color(QPalette::HighlightedText)
-               : Ground(option, FadedMarkShare);
+               : Ground(option, MarkShare);
 }
 
 /// The largest square in the middle of the room, its sides on the middles of pixels.

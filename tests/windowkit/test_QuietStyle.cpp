@@ -193,6 +193,12 @@ private Q_SLOTS:
             widget->resize(60, 24);
             QVERIFY2(BestContrast(*widget) >= 3, widget->metaObject()->className());
         }
+        for (QWidget* widget : std::initializer_list<QWidget*>{&box, &ring}) {
+            widget->setEnabled(false);
+            const double faded = BestContrast(*widget);
+            QVERIFY2(faded > 1.5 && faded < 3, widget->metaObject()->className());
+            widget->setEnabled(true);
+        }
         const QColor accent = Theme::Accent(box.palette());
         QCOMPARE(CountColor(Seen(box), accent), 0);
         box.setChecked(true);
