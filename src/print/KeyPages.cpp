@@ -47,7 +47,7 @@ void KeyPages::NewKeyPage() {
 }
 
 void KeyPages::PrintCopyright(double paperEnd) {
-    const QString copyright = OneLine(m_job->PrintPattern()->Copyright);
+    const QString copyright = OneLine(m_job->NamedPattern().Copyright);
     double y = m_usableH + 2 * m_canvas.Hairline();
     // Two lines have room above the margin; a longer text goes on below rather than past the edge.
     const int mostLines = std::max(2, static_cast<int>((paperEnd - y) / m_font.TextHeight()));
@@ -60,7 +60,7 @@ void KeyPages::PrintCopyright(double paperEnd) {
 void KeyPages::PrintTitle() {
     const PageFont font(QString::fromStdString(m_job->Options().TextInfoFontName), TitlePoints,
                         true, false, false);
-    const QString title = OneLine(m_job->PrintPattern()->Title);
+    const QString title = OneLine(m_job->NamedPattern().Title);
     // A title that fills more than half the page would leave no room for what it is the title of.
     const int mostLines =
         std::max(1, static_cast<int>((m_usableH - m_top) / 2 / font.TextHeight()));

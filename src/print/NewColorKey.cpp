@@ -79,17 +79,18 @@ void NewColorKey::PrintColorKey(PageDevice* target, ProgressDoor* progress, bool
 
 void NewColorKey::PrintPatternInfo(KeyPages& pages) {
     const Pattern& pattern = *m_job->PrintPattern();
+    const Pattern& named = m_job->NamedPattern();
     const QString width = QString::number(pattern.GetPatternWidth());
     const QString height = QString::number(pattern.GetPatternHeight());
     const QString unit = m_job->Options().InInches() ? QStringLiteral("\"") : QStringLiteral(" cm");
     const int columns = pattern.GetDesignWidth();
     const int rows = pattern.GetDesignHeight();
-    pages.PrintInfoRow(QStringLiteral("Author:"), OneLine(pattern.Author));
+    pages.PrintInfoRow(QStringLiteral("Author:"), OneLine(named.Author));
     pages.PrintInfoRow(QStringLiteral("Grid Size:"),
                        width + QStringLiteral("W x ") + height + QStringLiteral("H"));
     pages.PrintInfoRow(QStringLiteral("Cloth Count:"),
                        QString::number(pattern.GetPatternClothCountX()));
-    pages.PrintInfoRow(QStringLiteral("Fabric:"), OneLine(pattern.Fabric));
+    pages.PrintInfoRow(QStringLiteral("Fabric:"), OneLine(named.Fabric));
     pages.PrintInfoRow(
         QStringLiteral("Design Area:"),
         SizeText(columns, pattern.GetPatternClothCountX(), unit) + QStringLiteral(" W  x  ") +

@@ -41,7 +41,7 @@ void SetUpPages(QPdfWriter& writer, const PrintFuncs& job) {
     writer.setResolution(PageDevice::TwipsPerInch);
     writer.setPageLayout(job.Printer() != nullptr ? Paper::LayoutOf(*job.Printer())
                                                   : Paper(QPageSize(QPageSize::A4)).Layout());
-    writer.setTitle(OneLine(job.PrintPattern()->Title));
+    writer.setTitle(OneLine(job.NamedPattern().Title));
     writer.setCreator(QStringLiteral("Korvanta 6"));
 }
 

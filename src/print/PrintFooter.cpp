@@ -37,9 +37,9 @@ double PrintFuncs::FooterRoom() const {
 
 void PrintFuncs::BuildFooterLines() {
     m_footerLines.clear();
-    const QString title = OneLine(m_pattern->Title);
-    const QString author = OneLine(m_pattern->Author);
-    const QString copyright = OneLine(m_pattern->Copyright);
+    const QString title = OneLine(m_named->Title);
+    const QString author = OneLine(m_named->Author);
+    const QString copyright = OneLine(m_named->Copyright);
     QString first = title;
     if (!author.isEmpty()) {
         const QString lead =

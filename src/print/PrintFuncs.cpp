@@ -61,12 +61,16 @@ void PrintFuncs::SetOptions(PrintOptions options) {
 void PrintFuncs::SetPattern(Pattern& pattern) {
     m_keyNotePositions = {};
     m_pattern = &pattern;
+    m_named = &pattern;
     m_numberOffset = {};
 }
 
 void PrintFuncs::SetSelection(Pattern& selection, SquarePos corner) {
     m_keyNotePositions = {};
     m_pattern = &selection;
+    if (m_named == nullptr) {
+        m_named = &selection;
+    }
     m_numberOffset = {corner.X - 1, corner.Y - 1};
 }
 

@@ -80,9 +80,13 @@ public:
     /// The pattern to print, which must outlive this or be replaced.
     void SetPattern(Pattern& pattern);
     /// The selected area as a pattern of its own; `corner` is its upper left square on the whole
-    /// pattern, from which the printed numbers start.
+    /// pattern, from which the printed numbers start. The pattern that was set before is the whole
+    /// one; it must outlive this too.
     void SetSelection(Pattern& selection, SquarePos corner);
     [[nodiscard]] Pattern* PrintPattern() const { return m_pattern; }
+    /// Whose title, author, copyright and fabric are printed: the whole pattern, also on the pages
+    /// of a selected area, which has none of its own.
+    [[nodiscard]] const Pattern& NamedPattern() const { return *m_named; }
     [[nodiscard]] SquarePos NumberOffset() const { return m_numberOffset; }
 
     // --- Layout (PrintFuncs.cpp) -----------------------------------------------------------
@@ -164,6 +168,7 @@ private:
     PrintOptions m_options;
     PageDevice* m_printer;
     Pattern* m_pattern = nullptr;
+    const Pattern* m_named = nullptr;
     SquarePos m_numberOffset;
     PrintRange m_range;
     int m_patternPages = 0;

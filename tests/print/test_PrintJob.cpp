@@ -126,4 +126,33 @@ TEST(SelectionPrintTest, NumbersAreThoseOfTheWholePattern) {
                                     QStringLiteral("40"), QStringLiteral("50")}));
 }
 
+TEST(SelectionPrintTest, PagesBearTheNamesOfTheWholePattern) {
+    PrintScene scene;
+    const auto whole = scene.MakePattern(60, 60);
+    whole->Title = "Rose";
+    whole->Author = "Ada";
+    whole->Copyright = "(c) Ada";
+    whole->Fabric = "Linen";
+    const auto selection = scene.MakePattern(20, 15);
+    const auto path = scene.Path("selection.pdf");
+    {
+        QPdfWriter writer(QString::fromStdString(path.string()));
+        writer.setPageMargins(QMarginsF());
+        PagedPageDevice device(writer);
+        PrintFuncs functions({}, &device);
+        functions.SetPattern(*whole);
+        functions.SetSelection(*selection, {25, 38});
+        functions.CountKeyPages();
+        functions.SetPrintRange(1, functions.GetPageCount(), false);
+        PrintJob job(functions, device, nullptr);
+        EXPECT_EQ(job.Run(), PrintJob::State::Done);
+    }
+    EXPECT_TRUE(PdfText(path, 1).endsWith(QStringLiteral("Rose by Ada (c) Ada Page 1")));
+    const QString key = PdfText(path, 2);
+    EXPECT_TRUE(key.startsWith(QStringLiteral("Rose Author: Ada Grid Size: 20W x 15H")));
+    EXPECT_TRUE(key.contains(QStringLiteral("Fabric: Linen")));
+    EXPECT_TRUE(key.endsWith(QStringLiteral("(c) Ada")));
+    EXPECT_TRUE(selection->Title.empty()); // nor does it get any
+}
+
 } // namespace zol::test

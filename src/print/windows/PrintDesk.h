@@ -19,7 +19,7 @@ namespace zol {
 
 /// The edit box's squares as a pattern of its own.
 struct SelectedArea {
-    Pattern* Content; ///< never null; with the design's title and author
+    Pattern* Content; ///< never null
     SquarePos Corner; ///< its upper left square on the whole pattern
 };
 
