@@ -126,7 +126,7 @@ void CopyPaste(EditScript& s, Arguments& a) {
     basEditBox::WriteBack(content, s.GetPattern(), left, top);
 }
 
-constexpr std::array operations{
+constexpr std::array areaOperations{
     EditOperation{"MoveArea", MoveArea},
     EditOperation{"Center", Center},
     EditOperation{"ShrinkToFit", ShrinkToFit},
@@ -148,7 +148,7 @@ constexpr std::array operations{
 } // namespace
 
 std::span<const EditOperation> EditAreaOperations() {
-    return operations;
+    return areaOperations;
 }
 
 } // namespace zol

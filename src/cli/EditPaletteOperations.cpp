@@ -93,7 +93,7 @@ void SetFlossDesc(EditScript& s, Arguments& a) {
     s.GetPattern().GetPalette().SetFlossDesc(index, text);
 }
 
-constexpr std::array operations{
+constexpr std::array paletteOperations{
     EditOperation{"AddPaletteEntry", AddPaletteEntry},
     EditOperation{"ChangePaletteEntry", ChangePaletteEntry},
     EditOperation{"RemovePaletteEntry", RemovePaletteEntry},
@@ -107,7 +107,7 @@ constexpr std::array operations{
 } // namespace
 
 std::span<const EditOperation> EditPaletteOperations() {
-    return operations;
+    return paletteOperations;
 }
 
 } // namespace zol

@@ -148,7 +148,7 @@ void AddPatternID(EditScript& s, Arguments& a) {
     s.GetPattern().AddPatternID(static_cast<std::uint32_t>(id), source);
 }
 
-constexpr std::array operations{
+constexpr std::array patternOperations{
     EditOperation{"Initialize", Initialize},
     EditOperation{"SetStitch", SetStitch},
     EditOperation{"DeleteStitch", DeleteStitch},
@@ -174,7 +174,7 @@ constexpr std::array operations{
 } // namespace
 
 std::span<const EditOperation> EditPatternOperations() {
-    return operations;
+    return patternOperations;
 }
 
 } // namespace zol

@@ -24,10 +24,6 @@ std::array<std::uint8_t, 256> MakeMatchCurve() {
     return curve;
 }
 
-int CurveOf(int channel) {
-    return MatchCurve()[static_cast<std::size_t>(std::clamp(channel, 0, 255))];
-}
-
 std::int16_t Rounded(double value) {
     return static_cast<std::int16_t>(RoundToInt(value));
 }

@@ -3,7 +3,9 @@
 
 #pragma once
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 #include "model/ZOLTypes.h"
@@ -36,6 +38,10 @@ namespace HSLFuncs {
 /// The curve on which colours are compared, c * c / 255 rounded half to even, for c from 0 to
 /// 255. It weighs differences between bright channels more.
 [[nodiscard]] const std::array<std::uint8_t, 256>& MatchCurve();
+/// The curve's value for a channel, which counts as 0 below and 255 above its range.
+[[nodiscard]] inline std::uint8_t CurveOf(int channel) {
+    return MatchCurve()[static_cast<std::size_t>(std::clamp(channel, 0, 255))];
+}
 
 /// The distance of two colours: the sum of their channels' differences on the curve, 0 to 765.
 [[nodiscard]] int WhatsTheDifference1(int red1, int green1, int blue1, int red2, int green2,

@@ -17,13 +17,11 @@ namespace zol {
 
 namespace {
 
+using HSLFuncs::CurveOf;
+
 constexpr std::size_t laneCount = 16; ///< candidates that the vector unit takes at once
 constexpr std::size_t chunkSize = 512;
 constexpr std::uint8_t cap = 255; ///< a capped distance of this may stand for a greater one
-
-std::uint8_t CurveOf(int channel) {
-    return HSLFuncs::MatchCurve()[static_cast<std::size_t>(std::clamp(channel, 0, 255))];
-}
 
 /// Candidates side by side, a multiple of laneCount of them.
 struct Candidates {

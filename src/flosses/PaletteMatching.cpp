@@ -28,10 +28,6 @@ std::string SymbolText(std::uint8_t code) {
     return text;
 }
 
-int CurveOf(int channel) {
-    return HSLFuncs::MatchCurve()[static_cast<std::size_t>(channel) & 0xFFU];
-}
-
 } // namespace
 
 // --- Symbols ------------------------------------------------------------------------------------
@@ -144,7 +140,7 @@ int Palette::MergePaletteEntrytoTarget(Palette& target, int index) const {
 int Palette::GetClosest(Colour rgb, int excludedIndex) const {
     using namespace HSLFuncs;
     const int red = CurveOf(RedOf(rgb));
-    const int green = CurveOf(GreenOf(rgb));
+    const int green = CurveOf(GreenOf(rgb) & 0xFF);
     const int blue = CurveOf(BlueOf(rgb));
     int best = 768;
     int bestIndex = 0;
@@ -154,7 +150,7 @@ int Palette::GetClosest(Colour rgb, int excludedIndex) const {
         if (index == excludedIndex || difference >= best) {
             continue;
         }
-        difference += std::abs(green - CurveOf(GreenOf(colour)));
+        difference += std::abs(green - CurveOf(GreenOf(colour) & 0xFF));
         difference += std::abs(blue - CurveOf(BlueOf(colour)));
         if (difference < best) {
             best = difference;

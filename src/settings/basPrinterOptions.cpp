@@ -9,14 +9,14 @@ namespace zol::basPrinterOptions {
 
 namespace {
 
-constexpr const char* Section = "Printer Opts";
+constexpr const char* PrinterSection = "Printer Opts";
 constexpr const char* PrinterName = "PrinterName";
 
 } // namespace
 
 void SetPrintGridLines(Options& options, SettingsDoor& store, bool print) {
     options.PrintGridLines = print;
-    basOptions::SaveOption(options, store, Section, "PrintGridLines");
+    basOptions::SaveOption(options, store, PrinterSection, "PrintGridLines");
 }
 
 void SetStitchSymbol(Options& options, SettingsDoor& store, int style) {
@@ -35,16 +35,16 @@ void SetMargins(Options& options, SettingsDoor& store, const Margins& margins) {
     options.TopMargin = margins.Top;
     options.BottomMargin = margins.Bottom;
     for (const char* name : {"LeftMargin", "RightMargin", "TopMargin", "BottomMargin"}) {
-        basOptions::SaveOption(options, store, Section, name);
+        basOptions::SaveOption(options, store, PrinterSection, name);
     }
 }
 
 std::string GetPrinterName(const SettingsDoor& store) {
-    return store.ReadSetting(Section, PrinterName, "");
+    return store.ReadSetting(PrinterSection, PrinterName, "");
 }
 
 void SetPrinterName(SettingsDoor& store, const std::string& name) {
-    store.WriteSetting(Section, PrinterName, name);
+    store.WriteSetting(PrinterSection, PrinterName, name);
 }
 
 } // namespace zol::basPrinterOptions

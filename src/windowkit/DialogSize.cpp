@@ -13,7 +13,7 @@ namespace zol {
 
 namespace {
 
-constexpr const char* Section = "Windows";
+constexpr const char* WindowsSection = "Windows";
 
 std::string NameOf(const QDialog& dialog) {
     return dialog.objectName().toStdString() + "Size";
@@ -21,7 +21,7 @@ std::string NameOf(const QDialog& dialog) {
 
 /// Empty if nothing, or nothing sensible, is stored.
 QSize StoredSize(const QDialog& dialog, const SettingsDoor& store) {
-    const auto text = QString::fromStdString(store.ReadSetting(Section, NameOf(dialog), {}));
+    const auto text = QString::fromStdString(store.ReadSetting(WindowsSection, NameOf(dialog), {}));
     const QStringList parts = text.split(QLatin1Char('x'));
     return parts.size() == 2 ? QSize(parts[0].toInt(), parts[1].toInt()) : QSize();
 }
@@ -34,7 +34,7 @@ void RememberSize(QDialog& dialog, SettingsDoor& store) {
     const QSize room = dialog.screen()->availableSize();
     dialog.resize(wanted.expandedTo(dialog.minimumSizeHint()).boundedTo(room));
     QObject::connect(&dialog, &QDialog::finished, &dialog, [&dialog, &store] {
-        store.WriteSetting(Section, NameOf(dialog),
+        store.WriteSetting(WindowsSection, NameOf(dialog),
                            std::to_string(dialog.width()) + "x" + std::to_string(dialog.height()));
     });
 }

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <map>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -50,18 +49,6 @@ public:
     int stopped = 0;
     int asked = 0;
     int cancelAfter = -1; ///< questions answered with yes before the cancel; -1: never
-};
-
-/// Answers with a symbol, or cancels when there is none.
-class FixedSymbol : public SymbolDoor {
-public:
-    std::optional<std::string> ChooseSymbol(const Palette& /*palette*/) override {
-        ++asked;
-        return answer;
-    }
-
-    std::optional<std::string> answer;
-    int asked = 0;
 };
 
 /// Settings in memory.

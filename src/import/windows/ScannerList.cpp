@@ -18,7 +18,7 @@ namespace zol {
 
 namespace {
 
-constexpr const char* Section = "Scanner";
+constexpr const char* ScannerSection = "Scanner";
 constexpr const char* SourceName = "Source";
 
 } // namespace
@@ -65,7 +65,7 @@ void ScannerList::Show(const SourcesFound& found) {
                 QStringLiteral("Switch it on, connect it and look again."));
     }
     AddLine(QStringLiteral("Look for scanners again"));
-    const std::string last = m_outside.Store.ReadSetting(Section, SourceName, {});
+    const std::string last = m_outside.Store.ReadSetting(ScannerSection, SourceName, {});
     const auto known =
         std::find_if(m_sources.begin(), m_sources.end(),
                      [&last](const ScanSource& source) { return source.Name == last; });
@@ -104,7 +104,7 @@ std::optional<Picture> ScannerList::Acquire(QWidget* over) {
     if (!source) {
         return std::nullopt;
     }
-    m_outside.Store.WriteSetting(Section, SourceName, source->Name);
+    m_outside.Store.WriteSetting(ScannerSection, SourceName, source->Name);
     frmAcquire window(m_outside.Scanners, m_outside.Store, m_outside.Context, *source, over);
     if (window.exec() != QDialog::Accepted) {
         return std::nullopt;
