@@ -14,6 +14,7 @@
 #include "windowkit/DialogSize.h"
 #include "windowkit/JobStatus.h"
 #include "windowkit/NumericFilter.h"
+#include "windowkit/Theme.h"
 
 namespace zol {
 
@@ -63,6 +64,9 @@ void frmExportWizard::SetUpControls() {
     m_ui->chkSelectedOnly->setEnabled(m_selection.has_value());
     m_ui->chkSelectedOnly->setChecked(m_selection.has_value() && m_chosen.ExportSelected);
     m_ui->chkClipboard->setChecked(m_chosen.ExportToClipboard);
+    QPalette colors = m_ui->picHolder->palette();
+    colors.setColor(QPalette::Window, Theme::Desk(colors));
+    m_ui->picHolder->setPalette(colors); // white cloth has an edge on it
 }
 
 void frmExportWizard::ConnectControls() {
