@@ -141,6 +141,10 @@ void QuietStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
         return;
     }
     IconStyle::drawComplexControl(control, option, painter, widget);
+    const auto* spin = qstyleoption_cast<const QStyleOptionSpinBox*>(option);
+    if (control == CC_SpinBox && spin != nullptr && spin->frame) {
+        DrawFieldFrame(*spin, *painter);
+    }
 }
 
 void QuietStyle::DrawScrollBar(const QStyleOptionSlider& bar, QPainter& painter,

@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QSpinBox>
 #include <QStyle>
 #include <QTest>
 #include <QToolBar>
@@ -206,6 +207,19 @@ private Q_SLOTS:
         QCOMPARE(CountColor(Seen(ring), accent), 0);
         ring.setChecked(true);
         QVERIFY(CountColor(Seen(ring), accent) > 40);
+    }
+
+    void AFieldWithArrowsHasTheFrameOfAField_data() { AddRowPerLook(); }
+    void AFieldWithArrowsHasTheFrameOfAField() {
+        TakeLook();
+        QLineEdit field;
+        QSpinBox spin;
+        for (QWidget* widget : std::initializer_list<QWidget*>{&field, &spin}) {
+            widget->resize(80, 24);
+        }
+        const QRgb edge = Seen(field).pixel(0, 12);
+        QVERIFY(Theme::Contrast(QColor(edge), spin.palette().color(QPalette::Window)) >= 3);
+        QCOMPARE(QColor(Seen(spin).pixel(0, 12)), QColor(edge));
     }
 
     void FadedTextHasNoShadow() {
