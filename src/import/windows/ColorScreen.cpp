@@ -43,6 +43,7 @@ void ColorScreen::SetUpViews() {
         m_ui->zoomBox->Attach(*view);
     }
     m_ui->lpicOrigColor->ScrollWith(*m_ui->lpicNewColor);
+    m_ui->zoomBox->FollowInTabOrder(*m_ui->lpicNewColor);
 }
 
 void ColorScreen::ConnectControls() {

@@ -63,6 +63,7 @@ void MappingScreen::SetUpViews() {
         m_ui->zoomBox->Attach(*view);
     }
     m_ui->lpicMappedImage->ScrollWith(*m_ui->lpicPreviewPattern);
+    m_ui->zoomBox->FollowInTabOrder(*m_ui->lpicPreviewPattern);
 }
 
 void MappingScreen::SetUpFlosses() {

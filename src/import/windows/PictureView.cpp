@@ -156,6 +156,10 @@ void PictureView::paintEvent(QPaintEvent* event) {
     if (!m_levels.HasPicture()) {
         PaintEmptyText();
     }
+    // As with other widgets: somebody who clicks knows where.
+    if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
+        PaintFocus();
+    }
 }
 
 void PictureView::PaintPicture(const QRegion& region) {
@@ -184,6 +188,20 @@ void PictureView::PaintEmptyText() {
         Theme::Mix(palette().color(QPalette::WindowText), Theme::Desk(palette()), quietness));
     painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
                      Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);
+}
+
+/// In two colours, of which one stands apart from any picture.
+void PictureView::PaintFocus() {
+    QPainter painter(viewport());
+    const QRect edge = viewport()->rect();
+    const auto frame = [&painter](const QRect& rect, int width, const QColor& color) {
+        const QRect inner = rect.adjusted(width, width, -width, -width);
+        for (const QRect& side : QRegion(rect) - inner) {
+            painter.fillRect(side, color);
+        }
+    };
+    frame(edge, 2, Theme::Accent(palette()));
+    frame(edge.adjusted(2, 2, -2, -2), 1, palette().color(QPalette::Base));
 }
 
 void PictureView::changeEvent(QEvent* event) {

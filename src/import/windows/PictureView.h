@@ -116,6 +116,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -131,6 +132,7 @@ private:
     void Repaint();
     void PaintPicture(const QRegion& region);
     void PaintEmptyText();
+    void PaintFocus();
     void SetPanning(bool panning, QPoint at = {});
     void ShowPointer();
     void ScrollOn();

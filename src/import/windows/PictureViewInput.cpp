@@ -175,9 +175,15 @@ void PictureView::keyReleaseEvent(QKeyEvent* event) {
     QAbstractScrollArea::keyReleaseEvent(event);
 }
 
+void PictureView::focusInEvent(QFocusEvent* event) {
+    viewport()->update(); // its frame
+    QAbstractScrollArea::focusInEvent(event);
+}
+
 void PictureView::focusOutEvent(QFocusEvent* event) {
     m_blankHeld = false;
     ShowPointer();
+    viewport()->update();
     QAbstractScrollArea::focusOutEvent(event);
 }
 

@@ -43,6 +43,7 @@ SizeScreen::SizeScreen(ImportDesk& desk, QWidget* parent)
     m_ui->setupUi(this);
     m_ui->lpicResized->SetCloth(ToQColor(m_desk.Settings.ClothColor));
     m_ui->zoomBox->Attach(*m_ui->lpicResized);
+    m_ui->zoomBox->FollowInTabOrder(*m_ui->lpicResized);
     m_ui->zoomBox->SetZoom(100);
     m_status = new JobStatus(this);
     m_status->Follow(m_job, QString::fromUtf8(ImportMessages::ResizingPicture.data()));

@@ -52,6 +52,7 @@ SourceScreen::SourceScreen(ImportDesk& desk, QWidget* parent)
     m_ui->LPicPreview->SetEmpty(PictureLevels::Empty::Transparent);
     m_ui->LPicPreview->SetEmptyText(tr("No picture yet"));
     m_ui->zoomBox->Attach(*m_ui->LPicPreview);
+    m_ui->zoomBox->FollowInTabOrder(*m_ui->LPicPreview);
     m_status = new JobStatus(this);
     m_status->Follow(m_loadJob, QtText(ImportMessages::LoadingPicture));
     connect(&m_loadJob, &LatestJob::Failed, this, [this](const QString& text) {

@@ -47,8 +47,8 @@ double Stepped(double percent, int points) {
 } // namespace
 
 ZoomBox::ZoomBox(QWidget* parent) : QWidget(parent) {
-    MakeBox();
     m_out = MakeButton("cmdZoomOut", "zoom-out", tr("Zoom Out"));
+    MakeBox();
     m_in = MakeButton("cmdZoomIn", "zoom-in", tr("Zoom In"));
     connect(m_out, &QToolButton::clicked, this, [this] { StepBy(-Step); });
     connect(m_in, &QToolButton::clicked, this, [this] { StepBy(Step); });
@@ -61,11 +61,14 @@ ZoomBox::ZoomBox(QWidget* parent) : QWidget(parent) {
     layout->addWidget(m_out);
     layout->addWidget(m_box);
     layout->addWidget(m_in);
-    setTabOrder(m_out, m_box);
-    setTabOrder(m_box, m_in);
-    setFocusProxy(m_box);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     ShowZoom();
+}
+
+void ZoomBox::FollowInTabOrder(QWidget& before) {
+    setTabOrder(&before, m_out);
+    setTabOrder(m_out, m_box);
+    setTabOrder(m_box, m_in);
 }
 
 void ZoomBox::MakeBox() {

@@ -30,6 +30,9 @@ public:
     void ZoomToFit();
     /// Percent, 1 to 3200.
     void SetZoom(double percent);
+    /// The Tab key goes from that widget to the parts of this one, which a designer's list of tab
+    /// stops cannot say.
+    void FollowInTabOrder(QWidget& before);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QVBoxLayout>
 #include <QWheelEvent>
 
 #include "PictureViewKit.h"
@@ -31,6 +32,7 @@ private Q_SLOTS:
     void aPictureToFitTouchesTwoSides();
     void aReducedPictureShowsMeans();
     void saysSomethingWhileThereIsNoPicture();
+    void aPictureThatIsTabbedToIsFramed();
     void emptySquaresShowTheClothOrAChecker();
     void theCheckerStandsApartFromDarkPictures();
     void onlyTransparentPixelsAreEmptyBeforeWhiteIsRemapped();
@@ -135,6 +137,34 @@ void test_PictureView::saysSomethingWhileThereIsNoPicture() {
     QCOMPARE(Shot(*m_view), shown);
     m_view->ShowPicture(nullptr);
     QCOMPARE(Shot(*m_view), bare);
+}
+
+void test_PictureView::aPictureThatIsTabbedToIsFramed() {
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    auto* first = new PictureView;
+    auto* second = new PictureView;
+    layout->addWidget(first);
+    layout->addWidget(second);
+    for (PictureView* view : {first, second}) {
+        view->ShowPicture(PlainPicture(400, 300, 0x00203040));
+    }
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    const QRgb accent = Theme::Accent(first->palette()).rgb();
+    const auto framed = [accent](PictureView& view) {
+        const QImage shot = Shot(view);
+        return shot.pixel(0, 0) == accent &&
+               shot.pixel(shot.width() - 1, shot.height() - 1) == accent;
+    };
+    first->setFocus();
+    QVERIFY(!framed(*first) && !framed(*second));
+    QTest::keyClick(&window, Qt::Key_Tab);
+    QTRY_VERIFY(second->hasFocus());
+    QVERIFY(!framed(*first) && framed(*second));
+    QTest::keyClick(&window, Qt::Key_Backtab);
+    QVERIFY(framed(*first) && !framed(*second));
 }
 
 void test_PictureView::emptySquaresShowTheClothOrAChecker() {

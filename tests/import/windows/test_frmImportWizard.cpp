@@ -38,6 +38,7 @@ private Q_SLOTS:
     void aHiddenWizardResumesWithAllItsState();
     void anEditBoxWhosePaletteChangedIsLockedAnew();
     void everyScreenFitsWhateverItsNames();
+    void tabGoesThroughTheScreenAndThenTheButtons();
     void noTwoMnemonicsOfAScreenAreAlike();
 };
 
@@ -381,6 +382,37 @@ void test_frmImportWizard::everyScreenFitsWhateverItsNames() {
         QVERIFY2(now.width() <= 1280 && now.height() <= 720,
                  qPrintable(kit.Text("lblInstruction")));
         QVERIFY(now.width() < least.width() + 200);
+    }
+}
+
+void test_frmImportWizard::tabGoesThroughTheScreenAndThenTheButtons() {
+    // The stops between the picture's zoom and the wizard's buttons, screen by screen; a group of
+    // options is one.
+    const QStringList orders{
+        QStringLiteral("optFile txtFileName cmdBrowse LPicPreview ZOOM cmdNext cmdCancel"),
+        QStringLiteral("lpicCrop ZOOM cmdResetCrop cmdBack cmdNext cmdCancel"),
+        QStringLiteral("lpicErase ZOOM optEraseBy0 optEraser0 cmdResetErase cmdBack cmdNext "
+                       "cmdCancel"),
+        QStringLiteral(
+            "optStitches txtWidth chkAspect cmbClothCount chkSmoothColors lpicResized ZOOM "
+            "cmdBack cmdNext cmdCancel"),
+        QStringLiteral("cmbAdjustmentType sliAdjuster txtAdjuster lpicOrigColor lpicNewColor ZOOM "
+                       "cmdBack cmdNext cmdCancel"),
+        QStringLiteral("optFlossList cmbFlossFamily txtMaxColors cmdPreviewPattern lstFlosses "
+                       "lpicMappedImage lpicPreviewPattern ZOOM cmdBack cmdNext cmdCancel")};
+    WizardKit kit;
+    for (int screen = 0; screen < 6; ++screen) {
+        kit.GoTo(screen);
+        kit.Part("cmdCancel").setFocus();
+        QStringList names;
+        do {
+            QTest::keyClick(kit.Wizard.get(), Qt::Key_Tab);
+            names.append(QApplication::focusWidget()->objectName());
+        } while (names.back() != QStringLiteral("cmdCancel") && names.size() < 40);
+        QCOMPARE(names.join(QLatin1Char(' '))
+                     .replace(QStringLiteral("cmdZoomOut cmbZoomLevel cmdZoomIn"),
+                              QStringLiteral("ZOOM")),
+                 orders[screen]);
     }
 }
 
