@@ -124,7 +124,11 @@ void AppendFacts(LegendLines& lines, const Pattern& pattern, bool inches) {
         }
     };
     QTextBlockFormat format;
-    format.setTabPositions(SetTabStops({1440, 2880, 4320, 5760, 7200}));
+    constexpr int valueStop = 2880;
+    format.setTabPositions(SetTabStops({1440, valueStop, 4320, 5760, 7200}));
+    // A long value goes on under its beginning.
+    format.setLeftMargin(valueStop / TwipsPerPixel);
+    format.setTextIndent(-valueStop / TwipsPerPixel);
     lines.SetBlock(format);
     line("Title:", OneLine(pattern.Title).toStdString());
     line("Author:", pattern.Author);

@@ -40,7 +40,7 @@ TEST_F(RtfLegendTest, SmallPatternByteForByte) {
         Written(),
         "{\\rtf1\\ansi\\ansicpg1252\\deff0\\uc1{\\fonttbl{\\f0\\fnil\\fcharset0 Arial;}"
         "{\\f1\\fnil\\fcharset0 Korvanta Symbols;}}\r\n"
-        "\\pard\\tx1440\\tx2880\\tx4320\\tx5760\\tx7200 "
+        "\\pard\\tx1440\\tx2880\\tx4320\\tx5760\\tx7200\\fi-2880\\li2880 "
         "\\f0\\fs20\\b \\tab Title:\\b0 \\tab Rose \\{red\\}\\par\r\n"
         "\\b \\tab Author:\\b0 \\tab Anna\\par\r\n"
         "\\b \\tab Grid Size:\\b0 \\tab 28 W  x  14 H\\par\r\n"
