@@ -23,10 +23,6 @@ PicturePoint PointOf(QPointF place) {
     return {place.x(), place.y()};
 }
 
-QRectF RectOf(const PixelRect& rect) {
-    return QRectF(rect.Left, rect.Top, rect.Width, rect.Height);
-}
-
 QString HelpText(bool eraser) {
     return eraser ? EraseScreen::tr("Select an eraser size, then click and drag the mouse to "
                                     "erase an area.")
@@ -119,11 +115,12 @@ int EraseScreen::EraserSize() const {
     return m_ui->optEraser1->isChecked() ? Eraser::Sizes[1] : Eraser::Sizes[2];
 }
 
-EraseScreen::MaskMode EraseScreen::Mode() const {
+AreaOutline::Shape EraseScreen::MaskMode() const {
     if (m_ui->optMaskMode0->isChecked()) {
-        return MaskMode::Freehand;
+        return AreaOutline::Shape::Freehand;
     }
-    return m_ui->optMaskMode1->isChecked() ? MaskMode::Rectangle : MaskMode::Oval;
+    return m_ui->optMaskMode1->isChecked() ? AreaOutline::Shape::Rectangle
+                                           : AreaOutline::Shape::Oval;
 }
 
 void EraseScreen::Press(QPointF place) {
@@ -144,7 +141,7 @@ void EraseScreen::Move(QPointF place, bool dragging) {
     if (dragging && m_stroking) {
         StrokeTo(place);
     } else if (dragging && m_drawing) {
-        ExtendOutline(place);
+        m_outline.ExtendTo(place, *m_ui->lpicErase);
     }
 }
 
@@ -170,42 +167,15 @@ void EraseScreen::StrokeTo(QPointF place) {
 void EraseScreen::BeginOutline(QPointF place) {
     FreeRegion();
     m_drawing = true;
-    m_outlineMode = Mode();
-    m_line.assign(1, PointOf(place));
-    m_band.Start(m_work.Shown()->ImageWidth(), m_work.Shown()->ImageHeight());
-    m_band.PressAnew(PointOf(place));
-}
-
-void EraseScreen::ExtendOutline(QPointF place) {
-    PictureView& view = *m_ui->lpicErase;
-    const int reach = 2 + 2 * static_cast<int>(std::ceil(view.Place().Ratio));
-    if (m_outlineMode == MaskMode::Freehand) {
-        const PicturePoint last = m_line.back();
-        m_line.push_back(PointOf(place));
-        view.UpdateOverlay(QRectF(QPointF(last.X, last.Y), place), reach);
-    } else {
-        const QRectF before = OutlineRect();
-        m_band.MoveTo(PointOf(place));
-        view.UpdateOverlay(before, reach);
-        view.UpdateOverlay(OutlineRect(), reach);
-    }
+    const Picture& picture = *m_work.Shown();
+    m_outline.Begin(MaskMode(), place, picture.ImageWidth(), picture.ImageHeight());
 }
 
 void EraseScreen::EndOutline(QPointF place) {
-    ExtendOutline(place);
-    switch (m_outlineMode) {
-    case MaskMode::Freehand:
-        m_region.SelectFreehandRegion(m_line);
-        break;
-    case MaskMode::Rectangle:
-        m_region.SelectRectRegion(m_band.Rect());
-        break;
-    case MaskMode::Oval:
-        m_region.SelectOvalRegion(m_band.Rect());
-        break;
-    }
+    m_outline.ExtendTo(place, *m_ui->lpicErase);
+    m_outline.SelectIn(m_region);
     if (!m_region.HasRegion()) {
-        m_line.clear();
+        m_outline.Clear();
     }
     m_ui->lpicErase->viewport()->update();
     ShowCommands();
@@ -214,7 +184,7 @@ void EraseScreen::EndOutline(QPointF place) {
 /// Also gives up one that is being drawn.
 void EraseScreen::FreeRegion() {
     m_drawing = false;
-    m_line.clear();
+    m_outline.Clear();
     const int width = m_work.HasPicture() ? m_work.Shown()->ImageWidth() : 0;
     const int height = m_work.HasPicture() ? m_work.Shown()->ImageHeight() : 0;
     m_region = PictureRegion(width, height);
@@ -289,23 +259,12 @@ void EraseScreen::MoveRing(std::optional<QPointF> place) {
     }
 }
 
-QRectF EraseScreen::OutlineRect() const {
-    return RectOf(m_band.Rect());
-}
-
 void EraseScreen::Paint(QPainter& painter, const PicturePlace& place) const {
     if (m_paintsRing && m_ring) {
         PictureMarks::DrawRing(painter, place, *m_ring, EraserSize());
     }
-    if (!m_drawing && !m_region.HasRegion()) {
-        return;
-    }
-    if (m_outlineMode == MaskMode::Freehand) {
-        PictureMarks::DrawLine(painter, place, m_line, !m_drawing);
-    } else if (m_outlineMode == MaskMode::Rectangle) {
-        PictureMarks::DrawRect(painter, place, OutlineRect());
-    } else {
-        PictureMarks::DrawOval(painter, place, OutlineRect());
+    if (m_drawing || m_region.HasRegion()) {
+        m_outline.Paint(painter, place, !m_drawing);
     }
 }
 

@@ -7,10 +7,10 @@
 
 #include <memory>
 #include <optional>
-#include <vector>
 
 #include "import/EraseWork.h"
-#include "import/PictureBand.h"
+#include "import/PictureRegion.h"
+#include "import/windows/AreaOutline.h"
 #include "import/windows/ImportDesk.h"
 #include "import/windows/WizardScreen.h"
 
@@ -19,11 +19,8 @@ class EraseScreen;
 }
 
 class QKeyEvent;
-class QPainter;
 
 namespace zol {
-
-struct PicturePlace;
 
 /// Empties parts of the picture `lpicErase`: with an eraser of three sizes, or by selecting an area
 /// and clearing it or all around it.
@@ -42,20 +39,17 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    enum class MaskMode { Freehand, Rectangle, Oval };
-
     void ConnectView();
     void ConnectChoices();
     [[nodiscard]] bool UsesEraser() const;
     [[nodiscard]] int EraserSize() const;
-    [[nodiscard]] MaskMode Mode() const;
+    [[nodiscard]] AreaOutline::Shape MaskMode() const;
 
     void Press(QPointF place);
     void Move(QPointF place, bool dragging);
     void Release(QPointF place);
     void StrokeTo(QPointF place);
     void BeginOutline(QPointF place);
-    void ExtendOutline(QPointF place);
     void EndOutline(QPointF place);
     void FreeRegion();
 
@@ -71,7 +65,6 @@ private:
     void ShowCommands();
     void MoveRing(std::optional<QPointF> place);
     [[nodiscard]] QRectF RingRect() const;
-    [[nodiscard]] QRectF OutlineRect() const;
     void Paint(QPainter& painter, const PicturePlace& place) const;
 
     ImportDesk& m_desk;
@@ -79,10 +72,7 @@ private:
     EraseWork m_work;
     PictureRegion m_region{0, 0};
 
-    /// How the selected area was drawn, as long as it is being drawn or selected.
-    MaskMode m_outlineMode = MaskMode::Freehand;
-    std::vector<PicturePoint> m_line;
-    PictureBand m_band;
+    AreaOutline m_outline; ///< of the area that is being drawn or selected
     bool m_drawing = false;
 
     QPointF m_strokeAt;
