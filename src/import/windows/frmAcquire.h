@@ -55,6 +55,7 @@ private:
     enum class Doing { Asking, Nothing, Previewing, Scanning };
 
     void ConnectFields();
+    void ConnectChoices();
     void AskAbilities();
     void TakeAbilities(const AbilitiesFound& found);
     void FillResolutions(const std::vector<int>& resolutions);
@@ -71,6 +72,8 @@ private:
     void ShowRows(const ScanRows& rows);
 
     [[nodiscard]] ScanRequest RequestedScan() const;
+    /// Of the whole bed, as coarsely as is enough to see what lies on it.
+    [[nodiscard]] ScanRequest PreviewRequest() const;
     [[nodiscard]] ScanArea AreaInFields() const;
     void ShowAreaInFields();
     void TakeAreaFromFields();
