@@ -18,12 +18,25 @@ namespace zol {
 namespace {
 
 constexpr double InchesPerMetre = 1 / 0.0254;
+/// With fewer dots to the inch a square of a chart is but a few dots wide.
+constexpr int FewDots = 80;
+constexpr int DotsOfAFinerPage = 160;
+
+void SetResolution(QImage& image, int dotsPerInch) {
+    const int dotsPerMetre = RoundToInt(dotsPerInch * InchesPerMetre);
+    image.setDotsPerMeterX(dotsPerMetre);
+    image.setDotsPerMeterY(dotsPerMetre);
+}
+
+const PageDevice* PaperOf(const PrintFuncs& job, const Paper& without) {
+    return job.Printer() != nullptr ? job.Printer() : &without;
+}
 
 } // namespace
 
 PagePicture PaintPage(PrintFuncs& job, int page, int dotsPerInch, ProgressDoor* progress) {
     const Paper without{QPageSize(QPageSize::A4)};
-    const PageDevice* paper = job.Printer() != nullptr ? job.Printer() : &without;
+    const PageDevice* paper = PaperOf(job, without);
     ImagePageDevice device(paper->Width(), paper->Height(), dotsPerInch);
     if (device.Image().isNull()) {
         return {{}, RunTimeErrorText(ErrOutOfMemory)};
@@ -35,10 +48,25 @@ PagePicture PaintPage(PrintFuncs& job, int page, int dotsPerInch, ProgressDoor* 
         return {{}, painting.ErrorText()};
     }
     QImage image = device.Image();
-    const int dotsPerMetre = RoundToInt(dotsPerInch * InchesPerMetre);
-    image.setDotsPerMeterX(dotsPerMetre);
-    image.setDotsPerMeterY(dotsPerMetre);
+    SetResolution(image, dotsPerInch);
     return {image, {}};
+}
+
+PagePicture PaintShownPage(PrintFuncs& job, int page, int dotsPerInch, ProgressDoor* progress) {
+    if (dotsPerInch <= 0 || dotsPerInch >= FewDots) {
+        return PaintPage(job, page, dotsPerInch, progress);
+    }
+    const int finer = (DotsOfAFinerPage + dotsPerInch - 1) / dotsPerInch;
+    PagePicture picture = PaintPage(job, page, dotsPerInch * finer, progress);
+    if (!picture.Image.isNull()) {
+        const Paper without{QPageSize(QPageSize::A4)};
+        const PageDevice* paper = PaperOf(job, without);
+        const QSize size =
+            ImagePageDevice(paper->Width(), paper->Height(), dotsPerInch).Image().size();
+        picture.Image = picture.Image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        SetResolution(picture.Image, dotsPerInch);
+    }
+    return picture;
 }
 
 WholeFileResult SavePagePicture(const QImage& page, const std::filesystem::path& file) {

@@ -25,6 +25,11 @@ struct PagePicture {
 [[nodiscard]] PagePicture PaintPage(PrintFuncs& job, int page, int dotsPerInch,
                                     ProgressDoor* progress);
 
+/// As PaintPage, for a screen: where it has few dots the page is painted finer and brought down, so
+/// that lines and symbols weigh what they weigh on paper.
+[[nodiscard]] PagePicture PaintShownPage(PrintFuncs& job, int page, int dotsPerInch,
+                                         ProgressDoor* progress);
+
 /// Writes a page as PNG if the name ends so, else as a Windows bitmap; whole or not at all.
 [[nodiscard]] WholeFileResult SavePagePicture(const QImage& page,
                                               const std::filesystem::path& file);

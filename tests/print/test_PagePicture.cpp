@@ -111,6 +111,42 @@ TEST_F(PagePictureTest, SymbolsOfEveryFlossAreReadOnAGreyPrint) {
     }
 }
 
+/// Mean grey of a picture's part in the paper's upper left corner.
+double MeanGrey(const QImage& page, int inches, int dots) {
+    double sum = 0;
+    const int side = inches * dots;
+    for (int y = 0; y < side; ++y) {
+        for (int x = 0; x < side; ++x) {
+            sum += qGray(page.pixel(x, y));
+        }
+    }
+    return sum / side / side;
+}
+
+TEST_F(PagePictureTest, SmallPageOnAScreenWeighsWhatItWeighsOnPaper) {
+    const auto pattern = scene.MakePattern(60, 60);
+    const int floss = PrintScene::AddFloss(*pattern, MakeColour(40, 40, 40), "1", 1, "a");
+    for (int x = 1; x <= 60; ++x) {
+        for (int y = 1; y <= 60; ++y) {
+            pattern->SetStitch(x, y, StitchLR3Q, floss, 5);
+        }
+    }
+    options.StitchSymbol = PrintBlackSymbols;
+    MeasuredPaper paper(11906, 16838);
+    PrintFuncs job(options, &paper);
+    job.SetPattern(*pattern);
+    EXPECT_EQ(job.GetPageCount(), 1);
+    const double onPaper = MeanGrey(PaintPage(job, 1, 600, nullptr).Image, 5, 600);
+    const QImage plain = PaintPage(job, 1, 45, nullptr).Image;
+    const QImage shown = PaintShownPage(job, 1, 45, nullptr).Image;
+    EXPECT_NEAR(MeanGrey(shown, 5, 45), onPaper, 25);
+    EXPECT_LT(MeanGrey(plain, 5, 45), onPaper - 25); // what lines of a dot's width make of it
+    EXPECT_EQ(shown.size(), plain.size());
+    EXPECT_EQ(shown.dotsPerMeterX(), plain.dotsPerMeterX());
+    // A screen with enough dots shows the page as it is painted.
+    EXPECT_EQ(PaintShownPage(job, 1, 100, nullptr).Image, PaintPage(job, 1, 100, nullptr).Image);
+}
+
 TEST_F(PagePictureTest, TenthLineIsTheDarkerOneOnAGreyPrint) {
     const auto pattern = scene.MakePattern(25, 25);
     const QImage grey = Page(*pattern, nullptr).convertToFormat(QImage::Format_Grayscale8);

@@ -185,7 +185,9 @@ PagePicture frmPreview::Paint(int page, int dotsPerInch) {
     m_job.SetPreviewMode(true);
     PagePicture picture;
     frmPrinting(this).RunLate(
-        [&](ProgressDoor& progress) { picture = PaintPage(m_job, page, dotsPerInch, &progress); },
+        [&](ProgressDoor& progress) {
+            picture = PaintShownPage(m_job, page, dotsPerInch, &progress);
+        },
         m_patience);
     return picture;
 }

@@ -106,7 +106,7 @@ private:
     void Show(int from, int to, bool keyOnly = false);
     [[nodiscard]] QImage Paper() { return PartOf<PageView>(*m_window, "Picture2").Paper().Page(); }
     [[nodiscard]] QImage PictureOf(int page, int dots) {
-        return PaintPage(*m_job, page, dots, nullptr).Image;
+        return PaintShownPage(*m_job, page, dots, nullptr).Image;
     }
     /// Dots to the inch of what is shown.
     [[nodiscard]] int Dots() { return qRound(Paper().width() * 1440.0 / printers.device.Width()); }
