@@ -87,7 +87,7 @@ void EraseScreen::DisplayScreen(bool keepPicture) {
 
 /// For the longer of the two, so that nothing below moves when the tool changes.
 void EraseScreen::KeepRoomForHelp() {
-    const QRect column(0, 0, m_ui->fraEraseButtons->minimumWidth(), 0);
+    const QRect column(0, 0, m_ui->fraEraseButtons->minimumSizeHint().width(), 0);
     const auto height = [&](bool eraser) {
         return m_ui->lblHelp->fontMetrics()
             .boundingRect(column, Qt::TextWordWrap, HelpText(eraser))

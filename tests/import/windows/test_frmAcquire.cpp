@@ -71,7 +71,7 @@ private Q_SLOTS:
     void worksWithTheTestDevice();
 
 private:
-    void Open();
+    void Open(const std::string& words = "Maker Flatbed 9");
     void OpenAndWait();
     template<typename Widget>
     Widget& Part(const char* name) {
@@ -115,9 +115,9 @@ void test_frmAcquire::cleanup() {
     m_window.reset();
 }
 
-void test_frmAcquire::Open() {
-    m_window = std::make_unique<frmAcquire>(*m_scanner, m_store, m_context,
-                                            ScanSource{"flatbed", "Maker Flatbed 9"});
+void test_frmAcquire::Open(const std::string& words) {
+    m_window =
+        std::make_unique<frmAcquire>(*m_scanner, m_store, m_context, ScanSource{"flatbed", words});
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
 }
@@ -250,13 +250,14 @@ void test_frmAcquire::drawsTheAreaWithTheMouse() {
 }
 
 void test_frmAcquire::allIsWholeInTheSmallestWindow() {
-    OpenAndWait();
+    Open("Maker of scanners and printers, model 9000 with a lid that is lifted (usb:003:014)");
+    QTRY_VERIFY(IsReady());
     m_scanner->preview = {{}, LostConnection()};
     Part<QPushButton>("cmdPreview").click();
     QTRY_VERIFY(IsReady());
     m_window->resize(m_window->minimumSizeHint());
     QCoreApplication::processEvents();
-    for (const char* name : {"lblHelp", "lblProblem", "lblProblemMore"}) {
+    for (const char* name : {"lblSource", "lblHelp", "lblProblem", "lblProblemMore"}) {
         const auto& label = Part<QLabel>(name);
         QVERIFY2(label.isVisible() && label.height() >= label.heightForWidth(label.width()), name);
     }
