@@ -69,6 +69,9 @@ void QuietStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
         return;
     case PE_PanelMenuBar:
         return;
+    case PE_IndicatorHeaderArrow:
+        DrawSortSign(*option, *painter, widget);
+        return;
     default:
         break;
     }
@@ -97,6 +100,19 @@ void QuietStyle::drawControl(ControlElement element, const QStyleOption* option,
         return;
     }
     IconStyle::drawControl(element, option, painter, widget);
+}
+
+void QuietStyle::DrawSortSign(const QStyleOption& option, QPainter& painter,
+                              const QWidget* widget) const {
+    const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(&option);
+    if (header == nullptr || header->orientation != Qt::Horizontal || widget == nullptr) {
+        IconStyle::drawPrimitive(PE_IndicatorHeaderArrow, &option, &painter, widget);
+        return;
+    }
+    // Fusion reckons with a header that is but a line high, and draws a pixel above the middle.
+    QStyleOptionHeader moved(*header);
+    moved.rect.moveTop((widget->height() - moved.rect.height()) / 2 + 1);
+    IconStyle::drawPrimitive(PE_IndicatorHeaderArrow, &moved, &painter, widget);
 }
 
 void QuietStyle::DrawMenuTitle(const QStyleOptionMenuItem& item, QPainter& painter,

@@ -39,6 +39,7 @@ public:
                        const QWidget* widget = nullptr) const override;
 
 private:
+    void DrawSortSign(const QStyleOption& option, QPainter& painter, const QWidget* widget) const;
     void DrawMenuTitle(const QStyleOptionMenuItem& item, QPainter& painter,
                        const QWidget* widget) const;
     void DrawMenuItem(const QStyleOptionMenuItem& item, QPainter& painter,

@@ -243,6 +243,34 @@ private Q_SLOTS:
                 table.header()->fontMetrics().horizontalAdvance(words) + 12);
     }
 
+    void TheSignOfSortingStandsInTheMiddleOfItsHeader() {
+        qputenv("KORVANTA_THEME", "light");
+        Theme::Apply(*qApp);
+        QTreeWidget table;
+        table.setHeaderLabel(QStringLiteral("Floss"));
+        table.resize(200, 100);
+        QHeaderView& header = *table.header();
+        header.setFixedHeight(26);
+        header.setSortIndicator(0, Qt::AscendingOrder);
+        table.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&table));
+        const QRect part(0, 0, 180, 26);
+        const QImage plain = Seen(header, part);
+        header.setSortIndicatorShown(true);
+        const QImage sorted = Seen(header, part);
+        QCOMPARE(sorted.size(), plain.size());
+        QRect sign;
+        for (int y = 0; y < plain.height(); ++y) {
+            for (int x = plain.width() / 2; x < plain.width(); ++x) {
+                if (plain.pixel(x, y) != sorted.pixel(x, y)) {
+                    sign |= QRect(x, y, 1, 1);
+                }
+            }
+        }
+        QVERIFY(sign.height() >= 3);
+        QVERIFY(qAbs(sign.center().y() - plain.rect().center().y()) <= 2);
+    }
+
     void MessagesBearSignsOfTheFamily_data() { AddRowPerLook(); }
     void MessagesBearSignsOfTheFamily() {
         TakeLook();
