@@ -20,7 +20,7 @@ constexpr double SymbolOverBlockHeight = 0.66;
 
 /// Lies beneath lines that white paper would swallow.
 constexpr QColor Shade(0x80, 0x80, 0x80);
-constexpr int PaleFrom = 220; ///< grey value
+constexpr int PaleFrom = 200; ///< grey value
 
 bool IsPale(Colour floss) {
     return qGray(ToQColor(floss).rgb()) >= PaleFrom;
@@ -166,15 +166,17 @@ void KeySectionPainter::PrintLine(const KeyRow& row, const QRectF& cell) const {
     LinePen pen;
     pen.Style = row.Symbol;
     pen.Floss = m_job->Options().BackStitchSymbol == PrintBlackLines ? 0 : row.Floss;
+    double inset = 0;
     if (IsPale(pen.Floss)) {
         canvas.Fill(BlockIn(cell), Shade);
+        inset = cell.width() / 8; // within its shade it is seen to be a line
     }
     pen.Width = std::max(1, RoundToInt(canvas.PixelX(LineWidth)));
     pen.SquareWidth = canvas.PixelX(cell.width() / SquaresInSample);
     pen.SquareHeight = canvas.PixelY(cell.width() / SquaresInSample);
     const int y = RoundToInt(canvas.PixelY(cell.center().y()));
-    DrawStyledLine(*canvas.Painter(), {RoundToInt(canvas.PixelX(cell.left())), y},
-                   {RoundToInt(canvas.PixelX(cell.right())), y}, pen);
+    DrawStyledLine(*canvas.Painter(), {RoundToInt(canvas.PixelX(cell.left() + inset)), y},
+                   {RoundToInt(canvas.PixelX(cell.right() - inset)), y}, pen);
 }
 
 } // namespace zol

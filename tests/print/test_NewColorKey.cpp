@@ -225,7 +225,7 @@ TEST_F(NewColorKeyTest, PaleLinesLieOnAShadeThatShowsThem) {
         return count;
     };
     PrintScene::AddFloss(*pattern, MakeColour(250, 252, 255), "B5200", 1, "!");
-    PrintScene::AddFloss(*pattern, MakeColour(250, 210, 120), "743", 2, "!");
+    PrintScene::AddFloss(*pattern, MakeColour(220, 150, 60), "783", 2, "!");
     pattern->SetBackstitchLine({1, 1, 1, 9, 9, 1, 2, LineStraight});
     EXPECT_LT(countOf(shade, PrintColorLines), 50); // edges of letters: it is seen on paper
     pattern->SetBackstitchLine({1, 2, 1, 9, 9, 1, 1, LineStraight});
