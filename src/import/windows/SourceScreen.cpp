@@ -247,9 +247,10 @@ void SourceScreen::TakeLoaded(ImagingResult& result) {
 }
 
 void SourceScreen::TellFailure(const ImagingResult& result) {
-    m_desk.Messages.TellMore(PictureFiles::LoadFailure(result),
-                             PathText(m_loading) + "\nChoose another picture; the design is as "
-                                                   "it was.",
+    const char* const kept = m_takesFile && HasPicture()
+                                 ? "\nThe picture that is there stays."
+                                 : "\nChoose another picture; the design is as it was.";
+    m_desk.Messages.TellMore(PictureFiles::LoadFailure(result), PathText(m_loading) + kept,
                              MessageIcon::Exclamation, ImportMessages::Title);
     if (!m_takesFile && m_ui->txtFileName->isEnabled()) {
         m_ui->txtFileName->setFocus();

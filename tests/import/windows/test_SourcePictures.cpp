@@ -151,6 +151,7 @@ void SourcePicturesTest::ADroppedFileThatCannotBeReadTakesNothingAway() {
     const auto text = QString::fromStdString(shown.Kit.User.told[0].text);
     QVERIFY2(text.startsWith(told), qPrintable(text));
     QVERIFY(shown.Kit.User.told[0].more.find("bad.png") != std::string::npos);
+    QVERIFY(shown.Kit.User.told[0].more.find("stays") != std::string::npos);
     shown.VerifyItStayed();
 }
 
