@@ -31,6 +31,8 @@ private Q_SLOTS:
     void AnotherPrinterIsShownAndRemembered();
     void CancelledPrinterDialogChangesNothing();
     void EveryFormFitsASmallScreen();
+    void FieldsBeginInOneColumn_data();
+    void FieldsBeginInOneColumn();
 };
 
 void frmPrintOptionsTest::OpensOnTheWholePattern() {
@@ -355,6 +357,26 @@ void frmPrintOptionsTest::EveryFormFitsASmallScreen() {
                      qPrintable(button->objectName()));
         }
     }
+}
+
+void frmPrintOptionsTest::FieldsBeginInOneColumn_data() {
+    QTest::addColumn<QByteArray>("units");
+    QTest::newRow("inches") << QByteArray("inches");
+    QTest::newRow("centimetres") << QByteArray("centimetres");
+}
+
+void frmPrintOptionsTest::FieldsBeginInOneColumn() {
+    QFETCH(const QByteArray, units);
+    PrintWindow window;
+    window.Settings.Units = units.toStdString();
+    window.Open();
+    const auto left = [&](const char* field) {
+        return window.Find(field).mapTo(window.Dialog.get(), QPoint()).x();
+    };
+    const int column = left("cmbStitchesAs");
+    QCOMPARE(left("cmbBackStitchesAs"), column);
+    QCOMPARE(left("txtGSPI"), column);
+    QCOMPARE(left("txtFromPage"), column);
 }
 
 } // namespace zol::test
