@@ -61,6 +61,7 @@ SourceScreen::SourceScreen(ImportDesk& desk, QWidget* parent)
     SetUpScanning();
     ConnectOptions();
     EnableFields();
+    Show(nullptr);
 }
 
 SourceScreen::~SourceScreen() = default;
@@ -262,6 +263,7 @@ void SourceScreen::Show(SharedPicture picture) {
     m_picture = std::move(picture);
     m_ui->LPicPreview->ShowPicture(m_picture);
     m_ui->LPicPreview->ZoomToFit();
+    m_ui->zoomBox->setEnabled(HasPicture());
     m_ui->lblImageInfo->setText(
         m_picture == nullptr
             ? QString()

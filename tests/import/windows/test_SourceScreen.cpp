@@ -90,7 +90,9 @@ void SourceScreenTest::ATypedFileIsLoadedOnLeaving() {
     const fs::path file = Write("a b.png", SavedAs(Plain(30, 20, Brick), ".png"));
     TypeIn(shown.Screen, "txtFileName", QString::fromStdString(file.string()));
     QVERIFY(shown.Picture() == nullptr);
+    QVERIFY(!PartOf<QWidget>(shown.Screen, "cmbZoomLevel").isEnabled());
     QVERIFY(shown.Screen.ValidateScreen());
+    QVERIFY(PartOf<QWidget>(shown.Screen, "cmbZoomLevel").isEnabled());
     QVERIFY(kit.Work.TheImage != nullptr);
     QCOMPARE(kit.Work.TheImage, shown.Picture());
     QCOMPARE(kit.Work.TheImage->ImageWidth(), 30);
