@@ -5,6 +5,8 @@
 
 #include <QImageWriter>
 
+#include <cstdint>
+
 #include "model/Rounding.h"
 #include "model/RunTimeError.h"
 #include "print/KeptRange.h"
@@ -21,6 +23,8 @@ constexpr double InchesPerMetre = 1 / 0.0254;
 /// With fewer dots to the inch a square of a chart is but a few dots wide.
 constexpr int FewDots = 80;
 constexpr int DotsOfAFinerPage = 160;
+/// A page of A3 has fewer then; larger paper is painted less fine rather than fill the memory.
+constexpr std::int64_t MostPixels = 8'000'000;
 
 void SetResolution(QImage& image, int dotsPerInch) {
     const int dotsPerMetre = RoundToInt(dotsPerInch * InchesPerMetre);
@@ -56,13 +60,16 @@ PagePicture PaintShownPage(PrintFuncs& job, int page, int dotsPerInch, ProgressD
     if (dotsPerInch <= 0 || dotsPerInch >= FewDots) {
         return PaintPage(job, page, dotsPerInch, progress);
     }
-    const int finer = (DotsOfAFinerPage + dotsPerInch - 1) / dotsPerInch;
+    const Paper without{QPageSize(QPageSize::A4)};
+    const PageDevice* paper = PaperOf(job, without);
+    const QSize size = ImagePageDevice(paper->Width(), paper->Height(), dotsPerInch).Image().size();
+    const std::int64_t pixels = std::int64_t{size.width()} * size.height();
+    int finer = (DotsOfAFinerPage + dotsPerInch - 1) / dotsPerInch;
+    while (finer > 1 && pixels * finer * finer > MostPixels) {
+        --finer;
+    }
     PagePicture picture = PaintPage(job, page, dotsPerInch * finer, progress);
     if (!picture.Image.isNull()) {
-        const Paper without{QPageSize(QPageSize::A4)};
-        const PageDevice* paper = PaperOf(job, without);
-        const QSize size =
-            ImagePageDevice(paper->Width(), paper->Height(), dotsPerInch).Image().size();
         picture.Image = picture.Image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         SetResolution(picture.Image, dotsPerInch);
     }

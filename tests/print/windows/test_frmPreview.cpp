@@ -290,7 +290,7 @@ void PreviewTest::PrintPagePrintsTheShownPage() {
     QCOMPARE(printers.device.printed.size(), 1U);
     QCOMPARE(m_job->PrintToPage(), 5);
     // The printer's picture is the page without the border that it cannot print on.
-    const QImage page = PictureOf(2, PicturePrinter::DotsPerInch);
+    const QImage page = PaintPage(*m_job, 2, PicturePrinter::DotsPerInch, nullptr).Image;
     const int border = 360 / 20;
     const QImage printed = printers.device.printed[0];
     QCOMPARE(printed, page.copy(QRect(QPoint(border, border), printed.size())));
