@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <exception>
-#include <limits>
 #include <stdexcept>
 #include <utility>
 
@@ -23,8 +22,6 @@ namespace zol {
 namespace {
 
 enum CatalogueSortOrder { SortByNumber = 1, SortByDescription = 2, SortByHue = 3 };
-
-constexpr int maxRows = std::numeric_limits<std::int16_t>::max();
 
 CatalogueHeader ReadHeader(ByteReader& stream) {
     CatalogueHeader header;
@@ -139,7 +136,7 @@ void AvailColors::Read(ByteReader& stream) {
     }
     const CatalogueHeader header = ReadHeader(stream);
     const std::uint64_t count = stream.Remaining() / CatalogueRow::RecordSize;
-    if (count > static_cast<std::uint64_t>(maxRows)) {
+    if (count > MaxFlosses) {
         throw RunTimeError(ErrOverflow);
     }
     std::vector<CatalogueRow> rows;
@@ -185,7 +182,7 @@ void AvailColors::Setheader(std::string_view name, std::int32_t baseID, std::str
 // --- Rows ---------------------------------------------------------------------------------------
 
 void AvailColors::AppendRow(const CatalogueRow& row) {
-    if (GetFlossCount() < maxRows) {
+    if (m_flosses.size() < MaxFlosses) {
         m_flosses.push_back(row);
     }
 }

@@ -48,6 +48,9 @@ struct CatalogueRow {
 /// sorted. Getters answer 0 or an empty text outside 1 to GetFlossCount.
 class AvailColors {
 public:
+    /// Rows that a catalogue may have; they are counted in 16 bits.
+    static constexpr unsigned MaxFlosses = 0x7FFF;
+
     /// `context` gives the application folder and the spelling; it must outlive the catalogue.
     explicit AvailColors(const ProgramContext& context);
 

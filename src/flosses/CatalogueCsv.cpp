@@ -22,7 +22,6 @@ constexpr std::string_view header = "FlossID,Description,Red,Green,Blue,MasterID
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr std::size_t fieldCount = 6;
 constexpr std::size_t maxBytes = 8U << 20U; ///< far above what the greatest catalogue needs
-constexpr std::size_t maxRows = std::numeric_limits<std::int16_t>::max();
 
 [[noreturn]] void Fail(const std::string& text) {
     throw RunTimeError(ErrInvalidFormat, text);
@@ -176,8 +175,8 @@ std::vector<CatalogueCsvRow> ReadCatalogueCsv(std::string_view csv) {
         if (!numbers.insert(LowerCase(Trimmed(number))).second) {
             FailAt(lines.Line(), "FlossID \"" + number + "\" is there twice");
         }
-        if (rows.size() > maxRows) {
-            FailAt(lines.Line(), "more than " + std::to_string(maxRows) + " rows");
+        if (rows.size() > AvailColors::MaxFlosses) {
+            FailAt(lines.Line(), "more than " + std::to_string(AvailColors::MaxFlosses) + " rows");
         }
     }
     return rows;
