@@ -17,8 +17,12 @@ namespace zol {
 
 namespace {
 
+/// Pixels whose painting takes so long that nothing is gained by adding others to them.
+constexpr double LargeArea = 128 * 1024;
+
 /// Rectangles that hold the region, few of them: each has its cost beside its pixels. They hold at
-/// most about twice the region's pixels; what is too much is cut off by the painter.
+/// most about twice the region's pixels; what is too much is cut off by the painter. A large one of
+/// the region stays by itself, since what holds nothing else is painted where the window keeps it.
 std::vector<QRect> FewRectsOf(const QRegion& region) {
     struct Part {
         QRect Rect;
@@ -31,7 +35,8 @@ std::vector<QRect> FewRectsOf(const QRegion& region) {
     for (const QRect& rect : region) {
         const double area = areaOf(rect);
         const auto near = std::find_if(parts.begin(), parts.end(), [&](const Part& part) {
-            return areaOf(part.Rect | rect) <= 2 * (part.Wanted + area);
+            return area < LargeArea && part.Wanted < LargeArea &&
+                   areaOf(part.Rect | rect) <= 2 * (part.Wanted + area);
         });
         if (near == parts.end()) {
             parts.push_back({rect, area});
