@@ -64,20 +64,8 @@ QRgb WithoutGround(QRgb onCloth, QRgb onOther, QRgb cloth) {
                  part(qBlue(onCloth), qBlue(cloth)), alpha);
 }
 
-/// Runs shorter than that cost more than the pixels that they would spare.
-constexpr int ShortRun = 8;
-
-/// A premultiplied pixel over an opaque one.
-inline QRgb Over(QRgb above, QRgb below) {
-    const std::uint32_t rest = 255U - (above >> 24U);
-    const auto part = [rest](std::uint32_t two) {
-        const std::uint32_t t = two * rest;
-        return t + ((t >> 8U) & 0x00FF00FFU) + 0x00800080U;
-    };
-    const std::uint32_t redBlue = (part(below & 0x00FF00FFU) >> 8U) & 0x00FF00FFU;
-    const std::uint32_t green = part((below >> 8U) & 0x00FF00FFU) & 0xFF00FF00U;
-    return above + (redBlue | green);
-}
+/// Pixels that are laid in one way at the least: shorter runs cost more than they would spare.
+constexpr int RunStep = 16;
 
 } // namespace
 
@@ -176,38 +164,22 @@ void FloatingPicture::PaintRow(int row, int first, int count, const QRgb* cloth,
             ++run;
         }
         const int end = std::min(run->End, first + count);
-        const QRgb* below = cloth + (x - first);
-        QRgb* target = to + (x - first);
-        if (run->What == Run::Opaque) {
-            std::copy(picture + x, picture + end, target);
-        } else if (run->What == Run::Mixed) {
-            std::transform(picture + x, picture + end, below, target, Over);
-        } else if (below != target) {
-            std::copy(below, below + (end - x), target);
-        }
+        PictureRows::Lay(run->What, picture + x, cloth + (x - first), end - x, to + (x - first));
         x = end;
     }
 }
 
 void FloatingPicture::AddRuns(const QRgb* pixels, int count) {
-    const auto kindOf = [](QRgb pixel) {
-        return pixel == 0 ? Run::Through : pixel >> 24U == 255U ? Run::Opaque : Run::Mixed;
-    };
     const std::size_t first = m_runs.size();
     m_firstRuns.push_back(first);
-    for (int x = 0; x < count;) {
-        const Run::Kind kind = kindOf(pixels[x]);
-        int end = x + 1;
-        while (end < count && kindOf(pixels[end]) == kind) {
-            ++end;
-        }
-        const Run::Kind what = end - x < ShortRun ? Run::Mixed : kind;
+    for (int x = 0; x < count; x += RunStep) {
+        const int end = std::min(x + RunStep, count);
+        const PictureRows::Kind what = PictureRows::KindOf(pixels + x, end - x);
         if (m_runs.size() > first && m_runs.back().What == what) {
             m_runs.back().End = end;
         } else {
             m_runs.push_back({end, what});
         }
-        x = end;
     }
 }
 

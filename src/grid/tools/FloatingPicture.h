@@ -9,13 +9,13 @@
 #include <QSize>
 
 #include <cstddef>
-#include <cstdint>
 #include <memory>
 #include <vector>
 
 #include "grid/GridGeometry.h"
 #include "grid/painting/PaintOptions.h"
 #include "grid/tools/Overlay.h"
+#include "grid/tools/PictureRows.h"
 
 namespace zol {
 
@@ -54,12 +54,10 @@ private:
         PaintOptions Options;
     };
 
-    /// Pixels of a row that are alike in what they need.
+    /// Pixels of a row that are laid in one way.
     struct Run {
-        enum Kind : std::uint8_t { Through, Opaque, Mixed };
-
         int End; ///< behind the last pixel
-        Kind What;
+        PictureRows::Kind What;
     };
 
     [[nodiscard]] bool Serves(const OverlayContent& content, const GridGeometry& geometry,
