@@ -326,42 +326,6 @@ TEST(SaneScanner, StopsInTheMiddleAndScansAgain) {
     EXPECT_EQ(whole.Image.ImageHeight(), 98);
 }
 
-TEST(SaneScanner, SaysWhatADeviceReports) {
-    const std::pair<const char*, const char*> cases[] = {
-        {"SANE_STATUS_UNSUPPORTED", "The scanner cannot do what it was asked to."},
-        {"SANE_STATUS_CANCELLED", "The scanner stopped the scan."},
-        {"SANE_STATUS_DEVICE_BUSY", "The scanner is busy."},
-        {"SANE_STATUS_INVAL", "The scanner does not accept these settings."},
-        {"SANE_STATUS_JAMMED", "Paper is jammed in the scanner."},
-        {"SANE_STATUS_NO_DOCS", "There is nothing in the document feeder."},
-        {"SANE_STATUS_COVER_OPEN", "The scanner's cover is open."},
-        {"SANE_STATUS_IO_ERROR", "The connection to the scanner was lost."},
-        {"SANE_STATUS_NO_MEM", "There is not enough memory for this scan."},
-        {"SANE_STATUS_ACCESS_DENIED", "You are not allowed to use this scanner."},
-        {"SANE_STATUS_EOF", "The scanner sent a picture that cannot be read."},
-    };
-    for (const auto& [status, text] : cases) {
-        const SaneTestDevice device({{"read-status-code", std::string("\"") + status + "\""}});
-        const ScanResult result = Scan(HundredPixels("Gray"));
-        EXPECT_EQ(result.Problem.Is, Kind::Failed) << status;
-        EXPECT_EQ(result.Problem.Text, text);
-        EXPECT_THAT(result.Problem.More, HasSubstr("(SANE: ")) << status;
-        EXPECT_TRUE(result.Image.IsEmpty());
-    }
-}
-
-TEST(SaneScanner, ScansAgainAfterAnError) {
-    SaneScanner scanner;
-    KeepingWatcher watcher;
-    {
-        const SaneTestDevice broken({{"read-status-code", "\"SANE_STATUS_IO_ERROR\""}});
-        EXPECT_FALSE(scanner.Acquire(HundredPixels("Gray"), watcher).IsGood());
-    }
-    const SaneTestDevice mended;
-    EXPECT_EQ(scanner.FindSources(watcher).Sources.size(), 1U);
-    EXPECT_TRUE(scanner.Acquire(HundredPixels("Gray"), watcher).IsGood());
-}
-
 TEST(SaneScanner, SaysThatADeviceIsGone) {
     const SaneTestDevice device;
     ScanRequest request = HundredPixels("Gray");
