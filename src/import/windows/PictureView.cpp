@@ -26,13 +26,6 @@ QSize Hint(const QWidget& widget, int across, int down) {
     return {across * em, down * em};
 }
 
-/// The same pixels as a picture of their own, which the system copies at once; a part of a picture
-/// it shares out among its threads, and to wake one takes longer than to copy a strip.
-QImage PartOf(const QImage& picture, const QRect& part) {
-    return {picture.constScanLine(part.top()) + qsizetype{part.left()} * 4, part.width(),
-            part.height(), picture.bytesPerLine(), picture.format()};
-}
-
 } // namespace
 
 PictureView::PictureView(QWidget* parent) : QAbstractScrollArea(parent) {
@@ -165,17 +158,16 @@ void PictureView::paintEvent(QPaintEvent* event) {
 void PictureView::PaintPicture(const QRegion& region) {
     QPainter painter(viewport());
     const DevicePixels pixels(painter);
-    // One by one: a clip of several rectangles makes each piece of the overlay dear.
+    // One by one: within a clip of several rectangles the system paints nothing at once.
     for (const QRect& rect : region) {
         const QRect exposed = pixels.Covering(rect) & m_painted.rect();
         if (exposed.isEmpty()) {
             continue;
         }
-        painter.drawImage(exposed.topLeft(), PartOf(m_painted, exposed));
+        painter.setClipRect(exposed);
+        painter.drawImage(exposed.topLeft(), m_painted, exposed);
         if (m_overlay && !m_place.IsEmpty()) {
-            painter.setClipRect(exposed);
             m_overlay(painter, m_place);
-            painter.setClipping(false);
         }
     }
 }
