@@ -102,6 +102,7 @@ class NoView : public zol::ToolView {
 public:
     [[nodiscard]] const zol::GridGeometry& Geometry() const override { return m_geometry; }
     void RedrawSquares(const zol::SquareRect& /*rect*/) override {}
+    void RedrawStitches(const zol::SquareRect& /*rect*/) override {}
     void OverlayChanged() override {}
     void DesignChanged() override {}
     void FlossesChanged() override {}

@@ -128,7 +128,7 @@ void StrokeMove(benchmark::State& state) {
             for (const int column : {45 + i, 125 - i}) {
                 const int row = 60 + i;
                 zol::SharedScene().SetStitch(column, row, zol::StitchWhole, floss, 5);
-                window.Area().RedrawSquares({column, row, column, row});
+                window.Area().RedrawStitches({column, row, column, row});
             }
         }
         Window::Paint();

@@ -118,7 +118,8 @@ void StitchStroke::SetSquare(int column, int row, int position) {
     Pattern& design = m_desk.Design();
     design.SetStitch(column, row, type, floss, position);
     const SquareRect changed = SquaresOf(column, row, type, position);
-    Redraw(changed);
+    const bool isKnot = type == StitchFKnot;
+    Redraw(changed, isKnot);
     if (!m_desk.Mirror.IsMirrorActive()) {
         return;
     }
@@ -129,7 +130,7 @@ void StitchStroke::SetSquare(int column, int row, int position) {
         m_desk.View.OverlayChanged();
     }
     if (hasTwin) {
-        Redraw(Reflect(changed, m_desk.Mirror));
+        Redraw(Reflect(changed, m_desk.Mirror), isKnot);
     }
 }
 
@@ -139,16 +140,21 @@ void StitchStroke::EraseSquare(int column, int row) {
     m_desk.Design().DeleteStitch(column, row, Pattern::Everything);
     // A knot has reached into the squares around.
     const int reach = hadKnot ? 1 : 0;
-    Redraw({column - reach, row - reach, column + reach, row + reach});
+    Redraw({column - reach, row - reach, column + reach, row + reach}, hadKnot);
 }
 
-void StitchStroke::Redraw(const SquareRect& rect) {
+void StitchStroke::Redraw(const SquareRect& rect, bool reachesOut) {
     const Pattern& design = m_desk.Design();
     const SquareRect inside{std::max(rect.Left, 1), std::max(rect.Top, 1),
                             std::min(rect.Right, design.GetPatternWidth()),
                             std::min(rect.Bottom, design.GetPatternHeight())};
-    if (!inside.IsEmpty()) {
+    if (inside.IsEmpty()) {
+        return;
+    }
+    if (reachesOut) {
         m_desk.View.RedrawSquares(inside);
+    } else {
+        m_desk.View.RedrawStitches(inside);
     }
 }
 

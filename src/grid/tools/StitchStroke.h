@@ -29,7 +29,8 @@ private:
     void ChangeSquare(SquarePos square, int position);
     void SetSquare(int column, int row, int position);
     void EraseSquare(int column, int row);
-    void Redraw(const SquareRect& rect);
+    /// `reachesOut`: a knot is among what has changed.
+    void Redraw(const SquareRect& rect, bool reachesOut);
 
     ToolDesk m_desk;
     PointerButton m_button = PointerButton::None;

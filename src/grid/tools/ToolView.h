@@ -32,6 +32,9 @@ public:
     /// The content of these squares has changed. Knots and lines that reach beyond them are the
     /// implementer's to repair.
     virtual void RedrawSquares(const SquareRect& rect) = 0;
+    /// As RedrawSquares() where only stitches have changed, which stay inside of their squares: no
+    /// other pixel is painted. With a knot or a line among what has changed, that is too little.
+    virtual void RedrawStitches(const SquareRect& rect) = 0;
     void RedrawSquare(int column, int row) { RedrawSquares({column, row, column, row}); }
     /// What GetOverlay gives has changed.
     virtual void OverlayChanged() = 0;

@@ -41,6 +41,7 @@ public:
 
     [[nodiscard]] const GridGeometry& Geometry() const { return m_canvas->Geometry(); }
     void RedrawSquares(const SquareRect& rect) { m_canvas->RedrawSquares(rect); }
+    void RedrawStitches(const SquareRect& rect) { m_canvas->RedrawStitches(rect); }
     void SetOverlay(const Overlay& overlay) { m_canvas->SetOverlay(overlay); }
     void SetGridCursor(GridCursor kind) { m_canvas->SetGridCursor(kind); }
     void HoldGridPaint(bool hold) { m_canvas->HoldGridPaint(hold); }

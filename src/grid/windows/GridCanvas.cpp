@@ -90,6 +90,19 @@ GridView GridCanvas::View() const {
 }
 
 void GridCanvas::RedrawSquares(const SquareRect& rect) {
+    // A knot reaches half a square out, and so do at most the ties of a line; both have pens.
+    const GridScale& scale = m_geometry.Scale();
+    const int pen = GetBackStitchPenWidth(View()) + 1;
+    const int across = static_cast<int>(std::ceil(scale.SquareTwipsX / scale.TwipsPerPixelX / 2));
+    const int down = static_cast<int>(std::ceil(scale.SquareTwipsY / scale.TwipsPerPixelY / 2));
+    Redraw(rect, {across + pen, down + pen});
+}
+
+void GridCanvas::RedrawStitches(const SquareRect& rect) {
+    Redraw(rect, {0, 0});
+}
+
+void GridCanvas::Redraw(const SquareRect& rect, const QSize& reach) {
     const SquareRect all = m_geometry.Everything();
     const SquareRect cut{std::max(rect.Left, all.Left), std::max(rect.Top, all.Top),
                          std::min(rect.Right, all.Right), std::min(rect.Bottom, all.Bottom)};
@@ -104,13 +117,8 @@ void GridCanvas::RedrawSquares(const SquareRect& rect) {
                                    std::max(m_dirty.Bottom, cut.Bottom)};
         return;
     }
-    // A knot reaches half a square out, and so do at most the ties of a line; both have pens.
-    const GridScale& scale = m_geometry.Scale();
-    const int pen = GetBackStitchPenWidth(View()) + 1;
-    const int across = static_cast<int>(std::ceil(scale.SquareTwipsX / scale.TwipsPerPixelX / 2));
-    const int down = static_cast<int>(std::ceil(scale.SquareTwipsY / scale.TwipsPerPixelY / 2));
-    const QRect pixels =
-        m_geometry.PixelsOf(cut).adjusted(-across - pen, -down - pen, across + pen, down + pen);
+    const QRect pixels = m_geometry.PixelsOf(cut).adjusted(-reach.width(), -reach.height(),
+                                                           reach.width(), reach.height());
     m_behind.Forget(pixels);
     UpdatePixels(pixels);
 }

@@ -49,7 +49,9 @@ public:
 
     /// The squares' content has changed. They are painted soon, with what reaches out of them.
     void RedrawSquares(const SquareRect& rect);
-    /// While on, RedrawSquares only collects into DirtyRect; going off, all of it is painted.
+    /// The same where only stitches have changed: they stay inside of their squares' pixels.
+    void RedrawStitches(const SquareRect& rect);
+    /// While on, the two only collect into DirtyRect; going off, all of it is painted.
     void HoldGridPaint(bool hold);
     [[nodiscard]] bool IsPaintHeld() const { return m_hold; }
     /// What is to be painted once the hold ends; empty if nothing.
@@ -116,6 +118,8 @@ private:
     /// painter if that piece is null.
     static void ShowBand(QPainter& painter, const Piece& window, const Piece& band,
                          const QRegion& exposed);
+    /// The squares' pixels and so many of the device's on each side.
+    void Redraw(const SquareRect& rect, const QSize& reach);
     void UpdatePixels(const QRegion& pixels);
     [[nodiscard]] OverlayPainter OverlayOf(const Overlay& overlay) const;
     [[nodiscard]] PointerEvent EventOf(const QMouseEvent& event, PointerButton button) const;

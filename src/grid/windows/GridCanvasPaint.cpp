@@ -20,23 +20,29 @@ namespace {
 /// Pixels whose painting takes so long that nothing is gained by adding others to them.
 constexpr double LargeArea = 128 * 1024;
 
-/// Rectangles that hold the region, few of them: each has its cost beside its pixels. They hold at
-/// most about twice the region's pixels; what is too much is cut off by the painter. A large one of
-/// the region stays by itself, since what holds nothing else is painted where the window keeps it.
-std::vector<QRect> FewRectsOf(const QRegion& region) {
-    struct Part {
-        QRect Rect;
-        double Wanted; ///< pixels of the region in it
-    };
-    const auto areaOf = [](const QRect& rect) {
-        return static_cast<double>(rect.width()) * rect.height();
-    };
+double AreaOf(const QRect& rect) {
+    return static_cast<double>(rect.width()) * rect.height();
+}
+
+/// A rectangle that is painted at one go.
+struct Part {
+    QRect Rect;
+    double Wanted; ///< pixels in it that are exposed
+
+    [[nodiscard]] bool IsWhollyExposed() const { return Wanted == AreaOf(Rect); }
+};
+
+/// Parts that hold the region, few of them: each has its cost beside its pixels. They hold at most
+/// about twice the region's pixels; what is too much is cut off by the painter. A large rectangle
+/// of the region stays by itself, since what holds nothing else is painted where the window keeps
+/// it.
+std::vector<Part> FewPartsOf(const QRegion& region) {
     std::vector<Part> parts;
     for (const QRect& rect : region) {
-        const double area = areaOf(rect);
+        const double area = AreaOf(rect);
         const auto near = std::find_if(parts.begin(), parts.end(), [&](const Part& part) {
             return area < LargeArea && part.Wanted < LargeArea &&
-                   areaOf(part.Rect | rect) <= 2 * (part.Wanted + area);
+                   AreaOf(part.Rect | rect) <= 2 * (part.Wanted + area);
         });
         if (near == parts.end()) {
             parts.push_back({rect, area});
@@ -45,12 +51,7 @@ std::vector<QRect> FewRectsOf(const QRegion& region) {
             near->Wanted += area;
         }
     }
-    std::vector<QRect> rects;
-    rects.reserve(parts.size());
-    for (const Part& part : parts) {
-        rects.push_back(part.Rect);
-    }
-    return rects;
+    return parts;
 }
 
 /// Copies so many pixels of a picture to a place of another.
@@ -80,17 +81,17 @@ void GridCanvas::PaintExposed(const QRegion& region) {
     const OverlayPainter overlay = OverlayOf(m_pattern != nullptr ? m_overlay : Overlay{});
     const Layers layers{overlay, overlay.Covered(),
                         device.Covering(visibleRegion().boundingRect())};
-    for (const QRect& part : FewRectsOf(exposed)) {
-        QImage window = device.PixelsOf(*this, painter, part);
-        // What lies wholly in what is exposed is painted where the window keeps its pixels.
-        if (!window.isNull() && (QRegion(part) - exposed).isEmpty()) {
-            PaintPart(window, part, layers);
+    for (const Part& part : FewPartsOf(exposed)) {
+        QImage window = device.PixelsOf(*this, painter, part.Rect);
+        // What is exposed as a whole is painted where the window keeps its pixels.
+        if (!window.isNull() && part.IsWhollyExposed()) {
+            PaintPart(window, part.Rect, layers);
             continue;
         }
-        for (const QRect& band : BandsOf(part)) {
+        for (const QRect& band : BandsOf(part.Rect)) {
             QImage image = BandImage(band.size());
             PaintPart(image, band, layers);
-            ShowBand(painter, {window, part.topLeft()}, {image, band.topLeft()}, exposed);
+            ShowBand(painter, {window, part.Rect.topLeft()}, {image, band.topLeft()}, exposed);
         }
     }
 }

@@ -25,6 +25,10 @@ void GridToolView::RedrawSquares(const SquareRect& rect) {
     m_area.RedrawSquares(rect);
 }
 
+void GridToolView::RedrawStitches(const SquareRect& rect) {
+    m_area.RedrawStitches(rect);
+}
+
 void GridToolView::SetGridCursor(GridCursor kind) {
     m_area.SetGridCursor(kind);
 }

@@ -29,6 +29,7 @@ public:
 
     [[nodiscard]] const GridGeometry& Geometry() const override;
     void RedrawSquares(const SquareRect& rect) override;
+    void RedrawStitches(const SquareRect& rect) override;
     void OverlayChanged() override { m_followers.OverlayChanged(); }
     void DesignChanged() override { m_followers.DesignChanged(); }
     void FlossesChanged() override { m_followers.FlossesChanged(); }

@@ -33,9 +33,10 @@ public:
 
     [[nodiscard]] const GridGeometry& Geometry() const override { return m_geometry; }
     void RedrawSquares(const SquareRect& rect) override {
-        redraws.push_back(rect);
-        m_pending.push_back(rect);
+        // The pens of knots stand out by a pixel, which is the window's to know.
+        Redraw(rect, 1);
     }
+    void RedrawStitches(const SquareRect& rect) override { Redraw(rect, 0); }
     void OverlayChanged() override { ++overlayChanges; }
     void DesignChanged() override {
         ++designChanges;
@@ -75,14 +76,14 @@ public:
         if (m_screen.isNull()) {
             PaintAfresh();
         }
-        for (const SquareRect& rect : std::exchange(m_pending, {})) {
-            PaintSquares(m_screen, rect);
+        for (const auto& [rect, reach] : std::exchange(m_pending, {})) {
+            PaintSquares(m_screen, rect, reach);
         }
         return m_screen;
     }
     [[nodiscard]] QImage FreshPicture() {
         QImage image(m_geometry.GridSize(), QImage::Format_RGB32);
-        PaintSquares(image, m_geometry.Everything());
+        PaintSquares(image, m_geometry.Everything(), 0);
         return image;
     }
     /// Every square that lies in a redraw.
@@ -117,10 +118,14 @@ public:
     std::function<void()> whileMenuIsOpen;
 
 private:
-    /// The pixels of these squares, with whatever reaches into them. The pens of knots stand out
-    /// by a pixel, which is the window's to know.
-    void PaintSquares(QImage& image, const SquareRect& rect) {
-        const QRect pixels = m_geometry.PixelsOf(rect).adjusted(-1, -1, 1, 1) & image.rect();
+    void Redraw(const SquareRect& rect, int reach) {
+        redraws.push_back(rect);
+        m_pending.emplace_back(rect, reach);
+    }
+    /// The pixels of these squares and so many around, with whatever reaches into them.
+    void PaintSquares(QImage& image, const SquareRect& rect, int reach) {
+        const QRect pixels =
+            m_geometry.PixelsOf(rect).adjusted(-reach, -reach, reach, reach) & image.rect();
         const QRect around =
             m_geometry.PixelsOf({rect.Left - 1, rect.Top - 1, rect.Right + 1, rect.Bottom + 1});
         QImage part(around.size(), QImage::Format_RGB32);
@@ -135,7 +140,7 @@ private:
     GridView m_view;
     GridPainter m_painter;
     QImage m_screen;
-    std::vector<SquareRect> m_pending;
+    std::vector<std::pair<SquareRect, int>> m_pending; ///< and pixels around them
 };
 
 } // namespace zol::test

@@ -3,6 +3,8 @@
 
 #include <QMouseEvent>
 
+#include <string>
+
 #include "GridWindowKit.h"
 #include "grid/RowsAndColumns.h"
 
@@ -16,7 +18,10 @@ private Q_SLOTS:
     void thePixelsOnTheScreenAreThePainters();
     void scrollingPaintsOnlyTheStripThatComesIn();
     void scrolledPixelsAreThePainters();
+    void aStrokePaintsItsSquaresOnly_data();
     void aStrokePaintsItsSquaresOnly();
+    void stitchesStayInsideOfTheirSquares_data();
+    void stitchesStayInsideOfTheirSquares();
     void aKnotTakenAwayLeavesNothing();
     void heldPaintsAreGatheredAndComeAtTheEnd();
     void anOverlayPaintsWhereItLiesAndLeavesNothing();
@@ -93,29 +98,81 @@ void test_GridCanvas::scrolledPixelsAreThePainters() {
     }
 }
 
+void test_GridCanvas::aStrokePaintsItsSquaresOnly_data() {
+    QTest::addColumn<int>("zoom");
+    for (const int zoom : {20, 33, 100, 200, 250, 600}) {
+        QTest::addRow("%d percent", zoom) << zoom;
+    }
+}
+
 void test_GridCanvas::aStrokePaintsItsSquaresOnly() {
+    QFETCH(int, zoom);
     GridScene scene;
     scene.FillWithStitches();
     scene.AddLine(5, 5, 5, 30, 5, 5, LineTracks);
-    scene.Area->Zoom().ChangeZoom(200);
+    scene.Area->Zoom().ChangeZoom(zoom);
     scene.Show();
     PaintWatch watch(scene.Canvas());
-    QRegion allowed;
+    const double ratio = scene.Area->Geometry().PixelRatio();
+    const int more = ratio == std::floor(ratio) ? 0 : 1;
+    QRegion own;
     for (int i = 0; i < 10; ++i) {
         const int x = 6 + i;
         const int y = 4 + i % 3;
         scene.Design.SetStitch(x, y, StitchWhole, 1, 5);
-        scene.Area->RedrawSquares({x, y, x, y});
-        const QRect pixels = scene.Area->Geometry().PixelsOf({x - 1, y - 1, x + 1, y + 1});
-        allowed += QRectF(QPointF(pixels.topLeft()) / scene.Area->Geometry().PixelRatio(),
-                          QSizeF(pixels.size()) / scene.Area->Geometry().PixelRatio())
-                       .toAlignedRect()
-                       .adjusted(-1, -1, 1, 1);
+        scene.Area->RedrawStitches({x, y, x, y});
+        const QRect pixels = scene.Area->Geometry().PixelsOf({x, y, x, y});
+        own += QRectF(QPointF(pixels.topLeft()) / ratio, QSizeF(pixels.size()) / ratio)
+                   .toAlignedRect()
+                   .adjusted(-more, -more, more, more);
     }
     GridScene::Settle();
     QCOMPARE(watch.Count, 1);
-    QVERIFY(QRegion(watch.Painted).subtracted(allowed).isEmpty());
+    QVERIFY(QRegion(watch.Painted).subtracted(own).isEmpty());
     QCOMPARE(GridScene::Differing(scene.OnScreen(), scene.Fresh()), 0);
+}
+
+void test_GridCanvas::stitchesStayInsideOfTheirSquares_data() {
+    QTest::addColumn<int>("zoom");
+    QTest::addColumn<int>("style");
+    for (int style = ShowColorSquares; style <= ShowVStitches; ++style) {
+        for (const int zoom : {25, 80, 137, 233, 600}) {
+            QTest::addRow("style %d, %d percent", style, zoom) << zoom << style;
+        }
+    }
+}
+
+/// Every kind comes to a square between others, one more joins it, and all go again.
+void test_GridCanvas::stitchesStayInsideOfTheirSquares() {
+    QFETCH(int, zoom);
+    QFETCH(int, style);
+    GridScene scene;
+    scene.FillWithStitches();
+    scene.AddLine(1, 3, 1, 40, 3, 1, LinePlus);
+    PaintOptions options = scene.Canvas().GetPaintOptions();
+    options.StitchStyle = style;
+    scene.Area->SetPaintOptions(options);
+    scene.Area->Zoom().ChangeZoom(zoom);
+    scene.Show();
+    const auto differing = [&](int x, int y) {
+        scene.Area->RedrawStitches({x, y, x, y});
+        GridScene::Settle();
+        return GridScene::Differing(scene.OnScreen(), scene.Fresh());
+    };
+    for (int kind = StitchWhole; kind <= StitchLRQ; ++kind) {
+        if (kind == StitchFKnot) {
+            continue;
+        }
+        const auto context = std::to_string(kind);
+        const int x = kind % 2 == 0 ? 2 : 4;
+        const int y = 2 + kind % 3;
+        scene.Design.SetStitch(x, y, kind, 7, 5);
+        QVERIFY2(differing(x, y) == 0, context.c_str());
+        scene.Design.SetStitch(x, y, StitchULQ, 2, 1);
+        QVERIFY2(differing(x, y) == 0, context.c_str());
+        scene.Design.DeleteStitch(x, y, kind);
+        QVERIFY2(differing(x, y) == 0, context.c_str());
+    }
 }
 
 void test_GridCanvas::aKnotTakenAwayLeavesNothing() {
