@@ -66,6 +66,8 @@ QRgb WithoutGround(QRgb onCloth, QRgb onOther, QRgb cloth) {
 
 /// Pixels that are laid in one way at the least: shorter runs cost more than they would spare.
 constexpr int RunStep = 16;
+/// How many runs before it is laid the cloth below one is asked for.
+constexpr int RunsAhead = 5;
 
 } // namespace
 
@@ -158,12 +160,17 @@ void FloatingPicture::PaintOver(const QImage& cloth, QPoint clothCorner, QImage&
 void FloatingPicture::PaintRow(int row, int first, int count, const QRgb* cloth, QRgb* to) const {
     const auto* picture = reinterpret_cast<const QRgb*>(m_image.constScanLine(row));
     const Run* run = m_runs.data() + m_firstRuns[static_cast<std::size_t>(row)];
+    const int stop = first + count;
     int x = first;
-    while (x < first + count) {
+    while (x < stop) {
         while (run->End <= x) {
             ++run;
         }
-        const int end = std::min(run->End, first + count);
+        const int end = std::min(run->End, stop);
+        const int later = run[RunsAhead - 1].End; // in the next row if not between x and stop
+        if (run[RunsAhead].What != PictureRows::Kind::Opaque && later > x && later < stop) {
+            PictureRows::Expect(cloth + (later - first), stop - later);
+        }
         PictureRows::Lay(run->What, picture + x, cloth + (x - first), end - x, to + (x - first));
         x = end;
     }
@@ -216,6 +223,7 @@ void FloatingPicture::BuildEditBoxPicture(const QRect& part) {
         }
         AddRuns(made, part.width());
     }
+    m_runs.insert(m_runs.end(), RunsAhead, {0, PictureRows::Kind::Opaque}); // to look ahead into
     m_part = part;
 }
 

@@ -77,6 +77,19 @@ Kind KindOf(const QRgb* pixels, int count) {
     return isOpaque ? Kind::Opaque : isThrough ? Kind::Through : Kind::Chosen;
 }
 
+void Expect(const QRgb* pixels, int count) {
+#if defined(__SSE2__)
+    constexpr int line = 16; // pixels that come at once
+    constexpr int most = 2 * line;
+    for (int x = 0; x < std::min(count, most); x += line) {
+        _mm_prefetch(reinterpret_cast<const char*>(pixels + x), _MM_HINT_T0);
+    }
+#else
+    static_cast<void>(pixels);
+    static_cast<void>(count);
+#endif
+}
+
 void Lay(Kind kind, const QRgb* above, const QRgb* below, int count, QRgb* to) {
     switch (kind) {
     case Kind::Through:
