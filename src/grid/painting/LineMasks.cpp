@@ -19,16 +19,8 @@ constexpr std::int64_t LargestArea = std::int64_t{1} << 18U;
 /// And of its longer side.
 constexpr std::int64_t LongestSide = 30'000;
 
-/// Solid stretches shorter than this go along with their neighbours' cover.
+/// Fewer covered pixels side by side are blended with their neighbours.
 constexpr int LeastSolid = 16;
-
-/// Pixels at an edge that are blended together.
-constexpr int EdgePixels = 4;
-
-/// So many pixels rounded up to whole groups.
-int InGroups(int pixels) {
-    return (pixels + EdgePixels - 1) / EdgePixels * EdgePixels;
-}
 
 /// The inks that a line is laid out in, to be told apart.
 constexpr Colour UnderInk = 0;
@@ -74,7 +66,7 @@ public:
         }
     }
     /// What an ink covers, counted from `begin`.
-    [[nodiscard]] SpanMask Spans(Colour ink, QPoint begin) const;
+    [[nodiscard]] CoverMask MaskOf(Colour ink, QPoint begin) const;
 
 private:
     template<typename Join>
@@ -99,14 +91,16 @@ private:
     std::array<std::vector<std::uint8_t>, 2> m_cover;
 };
 
-/// Cuts a scan line into spans.
-class SpanCutter {
+/// Cuts a scan line into pieces.
+class LineCutter {
 public:
-    SpanCutter(SpanMask& mask, const std::uint8_t* row, int width, int beginX)
+    /// `begin` is the place that the mask counts from.
+    LineCutter(CoverMask& mask, const std::uint8_t* row, int width, QPoint begin, int y)
         : m_mask(mask),
           m_row(row),
           m_width(width),
-          m_beginX(beginX) {}
+          m_beginX(begin.x()),
+          m_y(static_cast<std::int16_t>(y - begin.y())) {}
 
     void Cut() {
         for (int x = 0; x < m_width;) {
@@ -123,71 +117,47 @@ private:
         }
         return end - x >= LeastSolid ? end : x;
     }
-    [[nodiscard]] int EdgeUpTo(int x) const {
-        while (x < m_width && m_row[x] != 0 && SolidUpTo(x) == x) {
-            ++x;
-        }
-        return x;
-    }
-    /// Adds the span that begins at x. Where its next one begins to be looked for.
+    /// Adds what begins at x. Where more is to be looked for.
     int Add(int x) {
-        const int edge = EdgeUpTo(x);
-        const int solidEnd = edge < m_width && m_row[edge] != 0 ? SolidUpTo(edge) : edge;
-        const int end = solidEnd > edge ? EdgeUpTo(solidEnd) : edge;
-        // Edges are filled up from the solid pixels between them, or from what is bare.
-        const int lead = InGroups(edge - x);
-        const int trail = solidEnd > edge ? InGroups(end - solidEnd) : 0;
-        const int solid = solidEnd > edge ? end - trail - x - lead : 0;
-        m_mask.Left = std::min(m_mask.Left, x - m_beginX);
-        m_mask.Right = std::max(m_mask.Right, x - m_beginX + lead + solid + trail);
-        m_mask.Spans.push_back({static_cast<std::int16_t>(x - m_beginX),
-                                static_cast<std::uint16_t>(lead), static_cast<std::uint16_t>(solid),
-                                static_cast<std::uint16_t>(trail),
-                                static_cast<std::uint32_t>(m_mask.Cover.size())});
-        AddCover(x, x + lead);
-        AddCover(x + lead + solid, x + lead + solid + trail);
-        return std::max(end, x + lead);
-    }
-    void AddCover(int from, int to) {
-        for (int x = from; x < to; ++x) {
-            m_mask.Cover.push_back(x < m_width ? m_row[x] : std::uint8_t{0});
+        if (const int end = SolidUpTo(x); end > x) {
+            m_mask.Stretches.push_back({Place(x), m_y, end - x});
+            Reach(x, end);
+            return end;
         }
+        CoverMask::Four four{Place(x), m_y, {}};
+        for (int i = 0; i < static_cast<int>(four.Cover.size()); ++i) {
+            four.Cover[static_cast<std::size_t>(i)] =
+                x + i < m_width ? m_row[x + i] : std::uint8_t{0};
+        }
+        m_mask.Fours.push_back(four);
+        const int end = x + static_cast<int>(four.Cover.size());
+        Reach(x, end);
+        return end;
     }
+    [[nodiscard]] std::int16_t Place(int x) const {
+        return static_cast<std::int16_t>(x - m_beginX);
+    }
+    void Reach(int from, int end) { m_mask.Bounds |= QRect(from - m_beginX, m_y, end - from, 1); }
 
-    SpanMask& m_mask;
+    CoverMask& m_mask;
     const std::uint8_t* m_row;
     int m_width;
     int m_beginX;
+    std::int16_t m_y;
 };
 
-SpanMask CoverCanvas::Spans(Colour ink, QPoint begin) const {
-    SpanMask mask;
+CoverMask CoverCanvas::MaskOf(Colour ink, QPoint begin) const {
+    CoverMask mask;
     const std::vector<std::uint8_t>& cover = m_cover[ink];
     if (cover.empty()) {
         return mask;
     }
-    const auto isBare = [](std::uint8_t share) { return share == 0; };
     for (int y = 0; y < m_height; ++y) {
-        const auto at = static_cast<std::ptrdiff_t>(y) * m_width;
-        const auto row = cover.begin() + at;
-        if (mask.Rows.empty()) {
-            if (std::all_of(row, row + m_width, isBare)) {
-                continue;
-            }
-            mask.Top = y - begin.y();
-        }
-        mask.Rows.push_back(static_cast<std::uint32_t>(mask.Spans.size()));
-        SpanCutter(mask, cover.data() + at, m_width, begin.x()).Cut();
+        LineCutter(mask, cover.data() + static_cast<std::ptrdiff_t>(y) * m_width, m_width, begin, y)
+            .Cut();
     }
-    while (!mask.Rows.empty() && mask.Rows.back() == mask.Spans.size()) {
-        mask.Rows.pop_back();
-    }
-    if (!mask.Rows.empty()) {
-        mask.Rows.push_back(static_cast<std::uint32_t>(mask.Spans.size()));
-    }
-    mask.Rows.shrink_to_fit();
-    mask.Spans.shrink_to_fit();
-    mask.Cover.shrink_to_fit();
+    mask.Fours.shrink_to_fit();
+    mask.Stretches.shrink_to_fit();
     return mask;
 }
 
@@ -243,7 +213,8 @@ const LineMask& LineMasks::Make(std::uint64_t key, QPoint span, const QSize& siz
     CoverCanvas canvas(size.width(), size.height(), m_antialias);
     canvas.Line(begin, begin + span, inks);
     canvas.DropHidden();
-    LineMask mask{canvas.Spans(UnderInk, begin), canvas.Spans(OverInk, begin)};
+    LineMask mask{canvas.MaskOf(UnderInk, begin), canvas.MaskOf(OverInk, begin), {}};
+    mask.Bounds = mask.Under.Bounds | mask.Over.Bounds;
     m_bytes += mask.Under.Bytes() + mask.Over.Bytes() + sizeof(LineMask);
     return m_masks.emplace(key, std::move(mask)).first->second;
 }

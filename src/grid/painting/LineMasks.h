@@ -4,8 +4,10 @@
 #pragma once
 
 #include <QPoint>
+#include <QRect>
 #include <QSize>
 
+#include <array>
 #include <cstdint>
 #include <unordered_map>
 #include <vector>
@@ -15,42 +17,41 @@
 
 namespace zol {
 
-/// How much of each pixel something long and thin covers: spans along scan lines, which leave out
-/// what is bare. Places count from the pixel where the line begins.
-struct SpanMask {
-    /// Pixels side by side: some at an edge, some covered wholly, some at the other edge. Edges are
-    /// multiples of four pixels, which are blended together, so bare ones may be among them.
-    struct Span {
+/// How much of each pixel something long and thin covers, without what is bare. Places count from
+/// the pixel where the line begins. One flat list for all scan lines: a list for each would end
+/// after so few pixels that to foresee where costs more than to blend them.
+struct CoverMask {
+    /// Pixels side by side that are blended together; bare ones may be among them.
+    struct Four {
         std::int16_t X = 0;
-        std::uint16_t Lead = 0;
-        std::uint16_t Solid = 0;
-        std::uint16_t Trail = 0;
-        std::uint32_t Cover = 0; ///< where the cover of Lead and Trail begins
+        std::int16_t Y = 0;
+        std::array<std::uint8_t, 4> Cover{};
     };
-    int Top = 0;                     ///< of the first scan line
-    int Left = 0;                    ///< of the first pixel of all spans
-    int Right = 0;                   ///< one past the last
-    std::vector<std::uint32_t> Rows; ///< the first span of each scan line, and one past the last
-    std::vector<Span> Spans;
-    std::vector<std::uint8_t> Cover;
+    /// Many pixels side by side that are covered wholly.
+    struct Stretch {
+        std::int16_t X = 0;
+        std::int16_t Y = 0;
+        std::int32_t Length = 0;
+    };
+    std::vector<Four> Fours; ///< from top to bottom, as the next
+    std::vector<Stretch> Stretches;
+    QRect Bounds; ///< of all their pixels
 
-    [[nodiscard]] int Height() const {
-        return Rows.empty() ? 0 : static_cast<int>(Rows.size()) - 1;
-    }
     [[nodiscard]] std::size_t Bytes() const {
-        return Rows.size() * sizeof(std::uint32_t) + Spans.size() * sizeof(Span) + Cover.size();
+        return Fours.size() * sizeof(Four) + Stretches.size() * sizeof(Stretch);
     }
 };
 
 /// Mixes a colour into the scan lines `top` to `bottom` by a mask that begins at `place`; what
 /// falls outside is cut.
-void BlendSpans(const PixelBuffer& target, int top, int bottom, QPoint place, const SpanMask& mask,
+void BlendCover(const PixelBuffer& target, int top, int bottom, QPoint place, const CoverMask& mask,
                 QRgb colour);
 
 /// A line in its style: what hides the ground, and the line on top of it.
 struct LineMask {
-    SpanMask Under;
-    SpanMask Over;
+    CoverMask Under;
+    CoverMask Over;
+    QRect Bounds; ///< of both
 };
 
 /// Lines of a pattern as masks, each made once and blended wherever such a line lies, in whatever

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 #include <utility>
 
 #include "grid/painting/Capsule.h"
@@ -25,19 +24,6 @@ int PiecesOf(const std::array<QPointF, 4>& p) {
     const double length =
         QLineF(p[0], p[1]).length() + QLineF(p[1], p[2]).length() + QLineF(p[2], p[3]).length();
     return std::clamp(static_cast<int>(length / pixelsEach), 2, 12);
-}
-
-/// The first and last scan line of a mask; nothing if the first lies behind the last.
-std::pair<int, int> RowsOf(const LineMask& mask) {
-    int top = std::numeric_limits<int>::max() / 4;
-    int bottom = -top;
-    for (const SpanMask* part : {&mask.Under, &mask.Over}) {
-        if (part->Height() > 0) {
-            top = std::min(top, part->Top);
-            bottom = std::max(bottom, part->Top + part->Height() - 1);
-        }
-    }
-    return {top, bottom};
 }
 
 } // namespace
@@ -81,10 +67,10 @@ void PixelCanvas::Line(QPoint start, QPoint end, const LinePen& pen) {
 std::vector<std::vector<std::uint32_t>> PixelCanvas::LinesOfBands() const {
     std::vector<std::vector<std::uint32_t>> lines(m_bands.Rows.size() - 1);
     for (std::size_t i = 0; i < m_placed.size(); ++i) {
-        const auto [top, bottom] = RowsOf(*m_placed[i].Mask);
-        const int from = std::max(0, m_placed[i].Place.y() + top);
-        const int to = std::min(m_target.Height - 1, m_placed[i].Place.y() + bottom);
-        if (from > to) {
+        const QRect covered = m_placed[i].Mask->Bounds.translated(m_placed[i].Place);
+        const int from = std::max(0, covered.top());
+        const int to = std::min(m_target.Height - 1, covered.bottom());
+        if (covered.isEmpty() || from > to) {
             continue;
         }
         auto band = std::upper_bound(m_bands.Rows.begin(), m_bands.Rows.end(), from) - 1;
@@ -116,8 +102,8 @@ void PixelCanvas::PaintBand(int worker, int top, int bottom,
     }
     for (const std::uint32_t i : lines) {
         const Placed& line = m_placed[i];
-        BlendSpans(m_target, top, bottom, line.Place, line.Mask->Under, ToRgb(line.Ground));
-        BlendSpans(m_target, top, bottom, line.Place, line.Mask->Over, ToRgb(line.Floss));
+        BlendCover(m_target, top, bottom, line.Place, line.Mask->Under, ToRgb(line.Ground));
+        BlendCover(m_target, top, bottom, line.Place, line.Mask->Over, ToRgb(line.Floss));
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <vector>
 
 namespace zol {
@@ -31,31 +32,29 @@ std::vector<QRgb> Ground() {
 }
 
 /// Pixel by pixel, with none outside.
-void BlendPlainly(std::vector<QRgb>& pixels, QPoint place, const SpanMask& mask, QRgb colour) {
+void BlendPlainly(std::vector<QRgb>& pixels, QPoint place, const CoverMask& mask, QRgb colour) {
     const auto blend = [&](int x, int y, unsigned cover) {
         if (x >= 0 && x < Side && y >= 0 && y < Side) {
             BlendPixel(pixels[static_cast<std::size_t>(y) * Side + static_cast<std::size_t>(x)],
                        colour, cover);
         }
     };
-    for (int row = 0; row < mask.Height(); ++row) {
-        const auto at = static_cast<std::size_t>(row);
-        for (std::uint32_t i = mask.Rows[at]; i < mask.Rows[at + 1]; ++i) {
-            const SpanMask::Span& span = mask.Spans[i];
-            const std::uint8_t* cover = mask.Cover.data() + span.Cover;
-            int x = place.x() + span.X;
-            const int y = place.y() + mask.Top + row;
-            for (int j = 0; j < span.Lead + span.Solid + span.Trail; ++j, ++x) {
-                const bool solid = j >= span.Lead && j < span.Lead + span.Solid;
-                blend(x, y, solid ? 255U : *cover++);
-            }
+    for (const CoverMask::Four& four : mask.Fours) {
+        for (int i = 0; i < 4; ++i) {
+            blend(place.x() + four.X + i, place.y() + four.Y,
+                  four.Cover[static_cast<std::size_t>(i)]);
+        }
+    }
+    for (const CoverMask::Stretch& stretch : mask.Stretches) {
+        for (int i = 0; i < stretch.Length; ++i) {
+            blend(place.x() + stretch.X + i, place.y() + stretch.Y, 255);
         }
     }
 }
 
 } // namespace
 
-TEST(LineMasks, SpansBlendAsTheirPixelsOneByOne) {
+TEST(LineMasks, MasksBlendAsTheirPixelsOneByOne) {
     for (const int width : {1, 3, 8, 21}) {
         LineMasks masks;
         masks.TakeLook(PenOf(width), true);
@@ -69,8 +68,8 @@ TEST(LineMasks, SpansBlendAsTheirPixelsOneByOne) {
                                            QPoint(40, -13), QPoint(33, 101), QPoint(-300, 5)}) {
                     std::vector<QRgb> blended = Ground();
                     std::vector<QRgb> expected = blended;
-                    for (const SpanMask* part : {&mask->Under, &mask->Over}) {
-                        BlendSpans({blended.data(), Side, Side, Side}, 0, Side - 1, place, *part,
+                    for (const CoverMask* part : {&mask->Under, &mask->Over}) {
+                        BlendCover({blended.data(), Side, Side, Side}, 0, Side - 1, place, *part,
                                    0xFF2468ACU);
                         BlendPlainly(expected, place, *part, 0xFF2468ACU);
                     }
@@ -81,17 +80,42 @@ TEST(LineMasks, SpansBlendAsTheirPixelsOneByOne) {
     }
 }
 
+TEST(LineMasks, PiecesGoFromTopToBottomWithinTheirBounds) {
+    LineMasks masks;
+    masks.TakeLook(PenOf(18), true);
+    for (int style = LineStraight; style <= LinePlus; ++style) {
+        const LineMask* mask = masks.Find(QPoint(50, -30), style);
+        ASSERT_NE(mask, nullptr);
+        const CoverMask& over = mask->Over;
+        EXPECT_FALSE(over.Stretches.empty()) << "a line as thick as that has solid pixels";
+        const auto higher = [](const auto& a, const auto& b) { return a.Y < b.Y; };
+        EXPECT_TRUE(std::is_sorted(over.Fours.begin(), over.Fours.end(), higher));
+        EXPECT_TRUE(std::is_sorted(over.Stretches.begin(), over.Stretches.end(), higher));
+        QRect bounds;
+        for (const CoverMask::Four& four : over.Fours) {
+            bounds |= QRect(four.X, four.Y, 4, 1);
+        }
+        for (const CoverMask::Stretch& stretch : over.Stretches) {
+            bounds |= QRect(stretch.X, stretch.Y, stretch.Length, 1);
+        }
+        EXPECT_EQ(over.Bounds, bounds);
+        EXPECT_EQ(mask->Bounds, bounds | mask->Under.Bounds);
+    }
+    EXPECT_TRUE(masks.Find(QPoint(50, -30), LineStraight)->Under.Bounds.isEmpty());
+}
+
 TEST(LineMasks, EveryCoverMixesAsOnePixelDoes) {
-    SpanMask mask;
-    mask.Rows = {0, 1};
-    mask.Right = 256;
-    mask.Spans = {{0, 256, 0, 0, 0}};
-    for (unsigned cover = 0; cover < 256; ++cover) {
-        mask.Cover.push_back(static_cast<std::uint8_t>(cover));
+    CoverMask mask;
+    mask.Bounds = {0, 0, 256, 1};
+    for (std::int16_t x = 0; x < 256; ++x) {
+        if (x % 4 == 0) {
+            mask.Fours.push_back({x, 0, {}});
+        }
+        mask.Fours.back().Cover[static_cast<std::size_t>(x % 4)] = static_cast<std::uint8_t>(x);
     }
     for (const QRgb ground : {0xFF000000U, 0xFFFFFFFFU, 0xFF12F37BU}) {
         std::vector<QRgb> pixels(256, ground);
-        BlendSpans({pixels.data(), 256, 256, 1}, 0, 0, {0, 0}, mask, 0xFFFE0180U);
+        BlendCover({pixels.data(), 256, 256, 1}, 0, 0, {0, 0}, mask, 0xFFFE0180U);
         for (unsigned cover = 0; cover < 256; ++cover) {
             QRgb expected = ground;
             BlendPixel(expected, 0xFFFE0180U, cover);
