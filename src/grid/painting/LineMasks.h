@@ -72,7 +72,7 @@ public:
 
 private:
     /// Memory that the masks may hold.
-    static constexpr std::size_t Budget = std::size_t{48} << 20U;
+    static constexpr std::size_t Budget = std::size_t{64} << 20U;
 
     [[nodiscard]] const LineMask& Make(std::uint64_t key, QPoint span, const QSize& size,
                                        int style);
