@@ -158,7 +158,8 @@ void PictureView::paintEvent(QPaintEvent* event) {
 void PictureView::PaintPicture(const QRegion& region) {
     QPainter painter(viewport());
     const DevicePixels pixels(painter);
-    // One by one: within a clip of several rectangles the system paints nothing at once.
+    // One by one, each in a clip of its own: what the system cuts by several rectangles it hands to
+    // its threads, and to wake one takes longer than to paint a strip.
     for (const QRect& rect : region) {
         const QRect exposed = pixels.Covering(rect) & m_painted.rect();
         if (exposed.isEmpty()) {
