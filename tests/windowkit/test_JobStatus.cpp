@@ -14,6 +14,7 @@
 #include "model/Doors.h"
 #include "support/DialogHands.h"
 #include "support/Gate.h"
+#include "windowkit/FeltDelay.h"
 #include "windowkit/JobStatus.h"
 #include "windowkit/LatestJob.h"
 
@@ -92,12 +93,17 @@ void TestJobStatus::StartGated() {
 }
 
 void TestJobStatus::LongWorkShowsItsStatusWithinAFifthOfASecond() {
+    StartGated();
     QElapsedTimer clock;
     clock.start();
-    StartGated();
-    QTRY_VERIFY(m_status->isVisible());
-    // The limit is 200; the rest is for a machine that has other things to do.
-    QVERIFY(clock.elapsed() < 1000);
+    // By the first turn of the event loop after that time, however long the machine lets the
+    // window wait in between.
+    qint64 turned = 0;
+    while (!m_status->isVisible() && turned < 200) {
+        turned = clock.elapsed();
+        QCoreApplication::processEvents();
+    }
+    QVERIFY(m_status->isVisible());
     QCOMPARE(m_status->objectName(), QStringLiteral("picStatus"));
     QTRY_COMPARE(PartOf<QLabel>(*m_window, "lblStatus").text(),
                  QStringLiteral("Counting Stitches"));
@@ -118,7 +124,7 @@ void TestJobStatus::ShortWorkShowsNothing() {
                      [this](int value) { m_result = value; });
         QTRY_COMPARE(m_result, i);
         // On a machine that has other things to do even this may take long enough to be felt.
-        QVERIFY(counter->Shown == before || clock.elapsed() > 100);
+        QVERIFY(counter->Shown == before || clock.elapsed() >= FeltDelay.count());
         QVERIFY(!m_status->isVisible());
     }
 }

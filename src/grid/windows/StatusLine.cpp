@@ -12,13 +12,12 @@
 #include "grid/windows/ZoomPanel.h"
 #include "windowkit/BusyScope.h"
 #include "windowkit/ElidedLabel.h"
+#include "windowkit/FeltDelay.h"
 
 namespace zol {
 
 namespace {
 
-/// Work that is over by then shows no progress, so that nothing flashes.
-constexpr int ShowAfterMs = 150;
 /// The window lives about thirty times a second.
 constexpr int YieldEveryMs = 33;
 constexpr int BarWidth = 180;
@@ -163,7 +162,7 @@ bool StatusLine::MayGoOn() {
 }
 
 bool StatusLine::IsDue() const {
-    return m_progress->isHidden() && m_sinceStart.hasExpired(ShowAfterMs);
+    return m_progress->isHidden() && m_sinceStart.hasExpired(FeltDelay.count());
 }
 
 void StatusLine::ShowProgress() {

@@ -18,6 +18,7 @@
 
 #include "grid/windows/StatusLine.h"
 #include "grid/windows/ZoomPanel.h"
+#include "windowkit/FeltDelay.h"
 
 using namespace zol;
 
@@ -194,20 +195,25 @@ void TestStatusLine::ShortWorkShowsNoProgress() {
         QVERIFY(m_line->MayGoOn());
     }
     m_line->StopStatus();
-    if (clock.hasExpired(140)) {
-        QSKIP("The machine is too busy for work to be short.");
-    }
-    QCOMPARE(counter.painted, 0);
+    // On a machine that has other things to do even this may take long enough to be felt.
+    QVERIFY(counter.painted == 0 || clock.elapsed() >= FeltDelay.count());
 }
 
 void TestStatusLine::ProgressLiesOverTheFirstPanel() {
-    QElapsedTimer clock;
-    clock.start();
+    QElapsedTimer beforeStart;
+    beforeStart.start();
     m_line->StartStatus("Long", 10);
-    QVERIFY(WorkUntilShown());
-    // Not at once, and soon: a fifth of a second on a machine at rest.
-    QVERIFY(clock.elapsed() >= 100);
-    QVERIFY(clock.elapsed() < 1000);
+    QElapsedTimer sinceStart;
+    sinceStart.start();
+    // Not at once, and by the first question that is put after a fifth of a second, however long
+    // the machine lets the work wait in between.
+    qint64 asked = 0;
+    while (!Find<QProgressBar>("pbStatus")->isVisible() && asked < 200) {
+        asked = sinceStart.elapsed();
+        QVERIFY(m_line->MayGoOn());
+    }
+    QVERIFY(Find<QProgressBar>("pbStatus")->isVisible());
+    QVERIFY(beforeStart.elapsed() >= FeltDelay.count());
     const auto* task = Find<QLabel>("lblStatus");
     const auto* panel = Find<QLabel>("placePanel");
     const QRect overlay(task->parentWidget()->mapTo(m_line, QPoint()),
