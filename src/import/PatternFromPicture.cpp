@@ -6,6 +6,7 @@
 #include <array>
 #include <cstddef>
 #include <new>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -171,6 +172,27 @@ ImportFigures FiguresOf(const std::array<int, 256>& counts, const Palette& palet
     return figures;
 }
 
+/// What is to be written, worked out whole.
+struct Plan {
+    Palette Flosses;
+    std::vector<int> Numbers; ///< of the floss, by distinct colour
+    std::array<int, 256> Counts{};
+};
+
+/// Nothing if the door stopped it.
+std::optional<Plan> MakePlan(const DistinctColours& colours, const ImportCandidates& candidates,
+                             const FlossSource& source, bool useEditBox, const Pattern& pattern,
+                             ProgressDoor* door) {
+    ProgramContext& context = pattern.Context();
+    Plan plan{useEditBox ? pattern.GetPalette() : Palette(context), {}, {}};
+    BuildImportPalette(context, candidates, source, useEditBox, plan.Flosses);
+    plan.Numbers = FlossesOf(colours, plan.Flosses);
+    if (!CountSquares(colours, plan.Numbers, door, plan.Counts)) {
+        return std::nullopt;
+    }
+    return plan;
+}
+
 } // namespace
 
 void BuildImportPalette(const ProgramContext& context, const ImportCandidates& candidates,
@@ -190,25 +212,25 @@ ImportStatus WritePattern(const Picture& preview, const ImportCandidates& candid
                           const std::function<void()>& beforeChange) {
     const ImportStatusScope status(progress);
     try {
-        ProgramContext& context = pattern.Context();
-        Palette palette = target.UseEditBox ? pattern.GetPalette() : Palette(context);
-        BuildImportPalette(context, candidates, source, target.UseEditBox, palette);
         const DistinctColours colours(preview);
-        const std::vector<int> flosses = FlossesOf(colours, palette);
-        std::array<int, 256> counts{};
-        if (!CountSquares(colours, flosses, progress, counts)) {
+        std::optional<Plan> plan =
+            MakePlan(colours, candidates, source, target.UseEditBox, pattern, progress);
+        if (!plan) {
             return {ImportStatus::Outcome::Cancelled, {}};
         }
-        figures = FiguresOf(counts, palette);
         if (beforeChange) {
             beforeChange();
+            // What floated over the design may have landed and brought flosses of its own, whose
+            // numbers its stitches and lines hold.
+            plan = MakePlan(colours, candidates, source, target.UseEditBox, pattern, nullptr);
         }
+        figures = FiguresOf(plan->Counts, plan->Flosses);
         if (!target.UseEditBox) {
             pattern.Initialize(preview.ImageWidth(), preview.ImageHeight(), target.ClothCountX,
                                target.ClothCountY);
         }
-        pattern.GetPalette() = std::move(palette);
-        SetSquares(preview, colours, flosses, target, pattern);
+        pattern.GetPalette() = std::move(plan->Flosses);
+        SetSquares(preview, colours, plan->Numbers, target, pattern);
         // Also with no stitch at all: what was there before is gone.
         pattern.SetChanged(true);
     } catch (const RunTimeError& error) {

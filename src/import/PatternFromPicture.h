@@ -59,7 +59,8 @@ void BuildImportPalette(const ProgramContext& context, const ImportCandidates& c
                         const FlossSource& source, bool useEditBox, Palette& palette);
 
 /// Writes a recoloured picture as full stitches. Nothing of the pattern changes unless it is
-/// done: all squares are worked out before the first is set, and `beforeChange` is called.
+/// done: all squares are worked out before `beforeChange` is called and the first one is set.
+/// `beforeChange` may still add flosses to the pattern.
 [[nodiscard]] ImportStatus WritePattern(const Picture& preview, const ImportCandidates& candidates,
                                         const FlossSource& source, const ImportTarget& target,
                                         ProgressDoor* progress, Pattern& pattern,

@@ -9,18 +9,14 @@
 #include <QPushButton>
 #include <QStackedWidget>
 
-#include <filesystem>
-#include <functional>
-
 #include "flosses/Palette.h"
 #include "gui/DrawnProgram.h"
+#include "gui/ImportHands.h"
 #include "import/windows/PictureView.h"
 #include "import/windows/frmImportWizard.h"
 #include "support/DialogDriver.h"
 
 namespace zol::test {
-
-namespace fs = std::filesystem;
 
 /// From a picture to a design in the whole program.
 class ImportInWindowTest : public QObject {
@@ -38,63 +34,13 @@ private Q_SLOTS:
     void FewFlossesThatShareTheirSymbolsAreTold();
 
 private:
-    /// Lets a user work in the wizard that the command opens.
-    void Import(DrawnProgram& program, const std::function<void(frmImportWizard&)>& work) {
-        DialogDriver driver({[&work](QDialog& dialog) {
-            auto* wizard = qobject_cast<frmImportWizard*>(&dialog);
-            QVERIFY(wizard != nullptr);
-            work(*wizard);
-            if (wizard->isVisible()) {
-                wizard->reject();
-            }
-        }});
-        program.Choose("mnuImport");
-        program.Settle();
-        QVERIFY(driver.AllDone());
-    }
     QTemporaryDir m_folder;
 };
 
 namespace {
 
-fs::path Sample(const char* name) {
-    return fs::path(SourceFolder) / "data/samples/pictures" / name;
-}
-
-void Next(frmImportWizard& wizard) {
-    ClickIn(wizard, "cmdNext");
-}
-
 bool IsShown(frmImportWizard& wizard, const char* part) {
     return PartOf<QWidget>(wizard, part).isVisible();
-}
-
-/// A file chosen by its dialog, and on to the size screen.
-void TakeFile(DrawnProgram& program, frmImportWizard& wizard, const char* sample) {
-    QCOMPARE(wizard.CurrentScreen(), 0);
-    program.User.files = {Sample(sample)};
-    ClickIn(wizard, "cmdBrowse");
-    QTRY_VERIFY(PartOf<PictureView>(wizard, "LPicPreview").Shown() != nullptr);
-    for (int screen = 1; screen <= 3; ++screen) {
-        Next(wizard);
-        QCOMPARE(wizard.CurrentScreen(), screen);
-    }
-}
-
-/// From the size screen to the mapping screen.
-void GoToMapping(frmImportWizard& wizard) {
-    Next(wizard);
-    QCOMPARE(wizard.CurrentScreen(), 4);
-    Next(wizard);
-    QCOMPARE(wizard.CurrentScreen(), 5);
-}
-
-void ChooseFamily(frmImportWizard& wizard, const QString& maxColors) {
-    auto& family = PartOf<QComboBox>(wizard, "cmbFlossFamily");
-    QVERIFY(family.count() > 0);
-    family.setFocus();
-    QTest::keyClick(&family, Qt::Key_Home);
-    TypeIn(wizard, "txtMaxColors", maxColors);
 }
 
 /// Presses Cancel as soon as a strip that says how far work is shows up.
@@ -116,11 +62,6 @@ private:
     QWidget& m_strip;
     bool m_wasShown = false;
 };
-
-void SetWidth(frmImportWizard& wizard, const QString& stitches) {
-    ClickIn(wizard, "optStitches");
-    TypeIn(wizard, "txtWidth", stitches);
-}
 
 } // namespace
 

@@ -365,6 +365,23 @@ TEST_F(ImportIntoEditBox, TheChangeIsAnnouncedJustBeforeItAndOnlyIfItComes) {
     EXPECT_EQ(announced, 1);
 }
 
+TEST_F(ImportIntoEditBox, FlossesThatArriveJustBeforeTheChangeKeepTheirNumbers) {
+    constexpr Colour late = MakeColour(0, 200, 200);
+    session.SetImage(RowOf({Blue, Red}));
+    session.ChooseCatalogue(CatalogueOf({Blue}));
+    const auto land = [this] {
+        pattern.GetPalette().AddPaletteEntry(late, "9", "late", "Mill", "L", 2, 1, 0, 0, 0, {});
+        pattern.SetStitch(9, 9, StitchWhole, 3, 5);
+    };
+    ASSERT_TRUE(session.CreateThePattern(pattern, 9, 14, 14, land).IsDone());
+    const Palette& palette = pattern.GetPalette();
+    ASSERT_EQ(palette.GetEntriesCount(), 4);
+    EXPECT_EQ(palette.GetFlossRGB(pattern.Cell(9, 9).PaletteIndex), late);
+    EXPECT_EQ(palette.GetFlossRGB(pattern.Cell(3, 2).PaletteIndex), Blue);
+    EXPECT_EQ(palette.GetFlossRGB(pattern.Cell(4, 2).PaletteIndex), Red);
+    EXPECT_EQ(session.Figures().Flosses, (std::vector<ImportFigures::FlossUse>{{1, 1}, {4, 1}}));
+}
+
 TEST_F(ImportIntoEditBox, LockedFlossesAreKnownFromOthers) {
     EXPECT_TRUE(session.IsLockedTo(pattern.GetPalette()));
     EXPECT_FALSE(session.IsLockedTo(PaletteOf({Red}, "!")));

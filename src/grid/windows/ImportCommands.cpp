@@ -32,6 +32,7 @@ bool ImportCommands::CanResume() {
 }
 
 void ImportCommands::Import() {
+    const std::optional<SquareRect> editBox = LandEditBox();
     const bool resume =
         CanResume() &&
         m_workshop.Messages.Ask("Would you like to resume the last Import?", MessageIcon::Question,
@@ -39,18 +40,18 @@ void ImportCommands::Import() {
     if (resume) {
         m_wizard->Resume();
     } else {
-        BeginAnew();
+        BeginAnew(editBox);
     }
     ShowWizard();
 }
 
 void ImportCommands::ImportFile(const std::filesystem::path& file) {
-    BeginAnew();
+    BeginAnew(LandEditBox());
     m_wizard->TakeFile(file);
     ShowWizard();
 }
 
-void ImportCommands::BeginAnew() {
+void ImportCommands::BeginAnew(std::optional<SquareRect> editBox) {
     // The old one goes first, with whatever it still works on.
     m_wizard.reset();
     m_wizardDesign = &m_workshop.Open.Design();
@@ -59,7 +60,7 @@ void ImportCommands::BeginAnew() {
                                  m_workshop.Settings, m_workshop.Messages, m_workshop.Files,
                                  &m_workshop.Scanners,
                                  [this](ImportWork& work) { return CreateThePattern(work); }},
-        EditBoxInDesign(), &m_window);
+        editBox, &m_window);
 }
 
 void ImportCommands::ShowWizard() {
@@ -79,6 +80,14 @@ std::optional<SquareRect> ImportCommands::EditBoxInDesign() const {
                             std::min(rect.Right, design.GetPatternWidth()),
                             std::min(rect.Bottom, design.GetPatternHeight())};
     return inside.IsEmpty() ? std::nullopt : std::optional(inside);
+}
+
+std::optional<SquareRect> ImportCommands::LandEditBox() {
+    const std::optional<SquareRect> editBox = EditBoxInDesign();
+    if (m_modes.Box().HasPattern()) {
+        m_followers.EndTool();
+    }
+    return editBox;
 }
 
 ImportStatus ImportCommands::CreateThePattern(ImportWork& work) {

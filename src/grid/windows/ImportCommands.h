@@ -42,10 +42,13 @@ public:
 
 private:
     void Import();
-    void BeginAnew();
+    void BeginAnew(std::optional<SquareRect> editBox);
     void ShowWizard();
     [[nodiscard]] bool CanResume();
     [[nodiscard]] std::optional<SquareRect> EditBoxInDesign() const;
+    /// The edit box for a new import. One that floats lands first, so that the import begins with
+    /// the design, and the flosses, that it will change.
+    [[nodiscard]] std::optional<SquareRect> LandEditBox();
     [[nodiscard]] ImportStatus CreateThePattern(ImportWork& work);
     void TellResult();
 
