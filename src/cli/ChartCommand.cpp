@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Korvanta contributors
 // SPDX-License-Identifier: MIT
 
+#include <QFile>
 #include <QPageSize>
+#include <QTemporaryDir>
 
 #include "cli/CommandLine.h"
 #include "cli/Commands.h"
@@ -98,6 +100,30 @@ ChartPdfOptions ReadOptions(const CommandLine& line, const Options& options) {
     return chart;
 }
 
+/// Writes the chart; answers its pages.
+int WriteChart(Environment& environment, Pattern& pattern, const ChartPdfOptions& chart,
+               const std::filesystem::path& path) {
+    const ChartPdfResult result =
+        WriteChartPdf(pattern, chart, path, environment.Context().Progress);
+    if (!result.IsWhole()) {
+        throw CommandFailed(result.ErrorText);
+    }
+    return result.Pages;
+}
+
+/// To standard output goes a chart that is whole, or nothing.
+void SendChart(Environment& environment, Pattern& pattern, const ChartPdfOptions& chart) {
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("chart.pdf")));
+    WriteChart(environment, pattern, chart, PathOf(file.fileName().toStdString()));
+    if (!file.open(QIODevice::ReadOnly)) {
+        throw CommandFailed(file.errorString().toStdString());
+    }
+    const QByteArray bytes = file.readAll();
+    WriteOutput("-", {reinterpret_cast<const std::uint8_t*>(bytes.constData()),
+                      static_cast<std::size_t>(bytes.size())});
+}
+
 } // namespace
 
 void RunChart(Environment& environment, const CommandWords& words) {
@@ -115,19 +141,15 @@ void RunChart(Environment& environment, const CommandWords& words) {
                                    {"--pages", true}});
     line.ExpectFiles(1, 1);
     const std::string output = line.Required("-o");
-    if (output == "-") {
-        throw WrongUsage("a chart needs a file to be written to");
-    }
     const ChartPdfOptions chart = ReadOptions(line, environment.GetOptions());
     Pattern pattern(environment.Context());
     environment.LoadPattern(pattern, line.Files()[0]);
-    const ChartPdfResult result =
-        WriteChartPdf(pattern, chart, PathOf(output), environment.Context().Progress);
-    if (!result.IsWhole()) {
-        throw CommandFailed(result.ErrorText);
+    if (output == "-") {
+        SendChart(environment, pattern, chart);
+        return;
     }
-    environment.Say(output + ": " + std::to_string(result.Pages) +
-                    (result.Pages == 1 ? " page" : " pages"));
+    const int pages = WriteChart(environment, pattern, chart, PathOf(output));
+    environment.Say(output + ": " + std::to_string(pages) + (pages == 1 ? " page" : " pages"));
 }
 
 } // namespace zol

@@ -48,7 +48,7 @@ void KeyPages::NewKeyPage() {
 
 void KeyPages::PrintCopyright(double paperEnd) {
     const QString copyright = OneLine(m_job->NamedPattern().Copyright);
-    double y = m_usableH + 2 * m_canvas.Hairline();
+    double y = m_usableH + 2 * PageCanvas::FinestRule;
     // Two lines have room above the margin; a longer text goes on below rather than past the edge.
     const int mostLines = std::max(2, static_cast<int>((paperEnd - y) / m_font.TextHeight()));
     for (const TextLine& line : WrapText(copyright, 0, m_font, FrameWidth(), mostLines)) {

@@ -65,7 +65,9 @@ std::size_t KeySectionPainter::PrintPart(std::size_t first) {
     const auto columns = static_cast<std::size_t>(m_columnCount);
     m_pages->MoveDown(m_rowHeight / 2);
     const double top = m_pages->CurrentY();
-    const double room = m_pages->Bottom() - 2 * canvas.Hairline() - top;
+    // By no measure of the device, so that rows flow alike on every one and where pages are
+    // counted.
+    const double room = m_pages->Bottom() - 2 * PageCanvas::FinestRule - top;
     const auto fitting = static_cast<std::size_t>(std::max(1.0, room / m_rowHeight));
     const std::size_t lines = std::min(fitting, (left + columns - 1) / columns);
     const std::size_t taken = std::min(left, lines * columns);

@@ -13,8 +13,7 @@ PageCanvas::PageCanvas(PageDevice& device)
       m_twipsPerPixelY(device.TwipsPerPixelY()) {}
 
 double PageCanvas::Hairline() const {
-    constexpr double QuarterPoint = 5;
-    return std::max(QuarterPoint, m_twipsPerPixelX);
+    return std::max(FinestRule, m_twipsPerPixelX);
 }
 
 void PageCanvas::Text(double x, double y, const QString& text, const PageFont& font,

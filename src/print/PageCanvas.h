@@ -26,8 +26,9 @@ public:
     [[nodiscard]] QPainter* Painter() const { return m_painter; }
     [[nodiscard]] double PixelX(double twips) const { return twips / m_twipsPerPixelX; }
     [[nodiscard]] double PixelY(double twips) const { return twips / m_twipsPerPixelY; }
-    /// Width of the finest rule: a pixel of the device, but no finer than a quarter point, which
-    /// a sharp device would lose on paper.
+    /// A quarter point in twips: a sharp device would lose a finer rule on paper.
+    static constexpr double FinestRule = 5;
+    /// Width of the finest rule: a pixel of the device, but no finer than FinestRule.
     [[nodiscard]] double Hairline() const;
 
     /// `y` is the top of the text's line.

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "model/Rounding.h"
+#include "model/RunTimeError.h"
 
 namespace zol {
 
@@ -21,6 +22,11 @@ double WiderMargin(int border) {
 }
 
 } // namespace
+
+std::string WhyRefused(const PageDevice& device) {
+    const std::string text = device.ErrorText();
+    return text.empty() ? RunTimeErrorText(ErrDeviceIO) : text;
+}
 
 QSize PaperTwips(const QPageLayout& layout) {
     return TwipsOfPoints(layout.fullRect(QPageLayout::Point));

@@ -59,6 +59,9 @@ public:
     [[nodiscard]] int OffsetY() const { return IsPrinter() ? BorderY() : 0; }
 };
 
+/// What to tell of a device that refused a document or a page.
+[[nodiscard]] std::string WhyRefused(const PageDevice& device);
+
 /// Size of a layout's paper, and of what its margins leave of it, in twips.
 [[nodiscard]] QSize PaperTwips(const QPageLayout& layout);
 [[nodiscard]] QSize PrintableTwips(const QPageLayout& layout);

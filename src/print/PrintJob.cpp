@@ -5,8 +5,6 @@
 
 #include <exception>
 
-#include "model/RunTimeError.h"
-
 namespace zol {
 
 PrintJob::PrintJob(PrintFuncs& functions, PageDevice& target, ProgressDoor* progress)
@@ -66,7 +64,7 @@ void PrintJob::PaintPage() {
     const bool opened = m_firstPage || m_target->NewPage();
     m_firstPage = false;
     if (!opened || !m_functions->PrintPatternPage(*m_target, m_progress, true, true)) {
-        m_errorText = DeviceError();
+        m_errorText = WhyRefused(*m_target);
         m_state = State::Failed;
     }
 }
@@ -76,15 +74,10 @@ PrintJob::State PrintJob::End(State state) {
     if (state != State::Done) {
         m_target->KillDoc();
     } else if (!m_target->EndDoc()) {
-        m_errorText = DeviceError();
+        m_errorText = WhyRefused(*m_target);
         m_state = State::Failed;
     }
     return m_state;
-}
-
-std::string PrintJob::DeviceError() const {
-    const std::string text = m_target->ErrorText();
-    return text.empty() ? RunTimeErrorText(ErrDeviceIO) : text;
 }
 
 } // namespace zol

@@ -35,7 +35,6 @@ public:
 private:
     void PaintPage();
     State End(State state);
-    [[nodiscard]] std::string DeviceError() const;
 
     PrintFuncs* m_functions;
     PageDevice* m_target;

@@ -115,6 +115,8 @@ bool PrintFuncs::PrintPatternPage(PageDevice& target, ProgressDoor* progress, bo
         numbers.PrintCentreMarks(m_pattern->GetPatternWidth(), m_pattern->GetPatternHeight());
         if (view.Options.StitchStyle != PaintOptions::None) {
             PaintStitches(painter, view, range.Squares, progress);
+        } else if (MayGoOn(progress) && progress != nullptr) {
+            progress->UpdateStatus(100);
         }
         if (!m_printCancelled && m_options.BackStitchSymbol != PrintNone) {
             m_painter.DrawBackStitchLines(painter, view, range.Squares);

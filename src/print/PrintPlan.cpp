@@ -113,7 +113,9 @@ PrintRequestFault PrintPlan::Check(PrintRequest request) {
     if (!m_layoutFault.empty()) {
         return {PrintField::GSPI, m_layoutFault};
     }
-    return {PrintField::None, m_countFault};
+    // A key that nobody wants may be as long as it likes.
+    const bool wantsKey = IsKeyOnly() || m_job.Options().PrintColorKey;
+    return {PrintField::None, wantsKey ? m_countFault : std::string()};
 }
 
 } // namespace zol

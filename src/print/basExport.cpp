@@ -118,7 +118,8 @@ bool WritePicture(const PatternPicture& picture, const QImage& raster, PictureFo
 WholeFileResult SavePicture(const PatternPicture& picture, const QImage& raster,
                             const std::filesystem::path& file, ProgressDoor* progress) {
     return WriteWholeFile(file, [&](CheckedOutput& output) {
-        return WritePicture(picture, raster, PictureFormatOf(file), output, progress);
+        return WritePicture(picture, raster, PictureFormatOf(file), output, progress) &&
+               (progress == nullptr || progress->MayGoOn());
     });
 }
 

@@ -15,6 +15,7 @@ namespace {
 using test::CliResult;
 using test::CliRunner;
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
@@ -208,6 +209,16 @@ TEST_F(PictureCommands, ChartIsAPdfWithItsPages) {
     ASSERT_EQ(result.exitCode, 0) << result.err;
     EXPECT_THAT(result.out, HasSubstr("c.pdf: "));
     EXPECT_THAT(cli.Read("c.pdf"), StartsWith("%PDF-"));
+}
+
+TEST_F(PictureCommands, ChartGoesToStandardOutputAlone) {
+    const std::string file = cli.Pattern("p.pat", "SetStitch 1 1 1 3 0\n");
+    const CliResult result = cli.Run({"chart", file, "-o", "-"});
+    ASSERT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_THAT(result.out, StartsWith("%PDF-"));
+    EXPECT_THAT(result.out, EndsWith("%%EOF\n"));
+    EXPECT_EQ(cli.Run({"chart", file, "-o", "-", "--pages", "1-99"}).out, "");
+    EXPECT_THAT(cli.Names(), ElementsAre("floss.col", "floss.csv", "p.pat"));
 }
 
 TEST_F(PictureCommands, ChartRequestsAreCheckedInTheWordsOfTheDialog) {

@@ -7,10 +7,13 @@
 
 #include <QPdfWriter>
 
+#include <algorithm>
+
 #include "model/RunTimeError.h"
 #include "print/ChartPdf.h"
 #include "print/PagePicture.h"
 #include "print/PdfReading.h"
+#include "print/PrintJob.h"
 #include "print/PrintScene.h"
 
 namespace zol::test {
@@ -42,6 +45,23 @@ protected:
         auto path = scene.Path("key.pdf");
         const ChartPdfResult result = WriteChartPdf(*pattern, chart, path, nullptr);
         EXPECT_TRUE(result.IsWhole()) << result.ErrorText;
+        return path;
+    }
+
+    /// Prints the key alone on paper of that height in twips and so many dots to the inch.
+    std::filesystem::path PrintKey(const PrintOptions& options, int height, int dotsPerInch) {
+        auto path = scene.Path("key alone.pdf");
+        QPdfWriter writer(QString::fromStdString(path.string()));
+        writer.setResolution(dotsPerInch);
+        writer.setPageLayout(QPageLayout(QPageSize(QSizeF(11900, height) / 20.0, QPageSize::Point),
+                                         QPageLayout::Portrait, QMarginsF()));
+        PagedPageDevice device(writer);
+        PrintFuncs functions(options, &device);
+        functions.SetPattern(*pattern);
+        functions.CountKeyPages();
+        functions.GetPageCount();
+        functions.SetPrintRange(1, functions.KeyPages(), true);
+        EXPECT_EQ(PrintJob(functions, device, nullptr).Run(), PrintJob::State::Done);
         return path;
     }
 
@@ -137,6 +157,24 @@ TEST_F(NewColorKeyTest, EveryFlossIsListedOnceOverPagesThatRepeatTheTitle) {
     }
     for (int page = 2; page <= pages; ++page) {
         EXPECT_TRUE(PdfText(path, page).contains(QStringLiteral("Legend: DMC"))) << page;
+    }
+}
+
+TEST_F(NewColorKeyTest, EveryFlossIsListedOnceWhereADotIsWideToo) {
+    AddFlosses(120);
+    PrintOptions options;
+    options.TextInfoFontSize = 18;
+    // Over the height of a row, so that the last one of a page fits by every measure once.
+    for (int height = 12000; height < 12500; height += 20) {
+        const auto path = PrintKey(options, height, 80);
+        std::vector<int> seen(121, 0);
+        for (const PdfWord& word : PdfWords(path)) {
+            const int number = word.Text.toInt();
+            if (number > 20 && number <= 120) { // the cover has numbers of its own
+                ++seen[static_cast<std::size_t>(number)];
+            }
+        }
+        EXPECT_EQ(std::count(seen.begin() + 21, seen.end(), 2), 100) << height;
     }
 }
 

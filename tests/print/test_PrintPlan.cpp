@@ -115,6 +115,18 @@ TEST_F(PrintPlanTest, MorePagesThanCanBeCountedAreRefused) {
     EXPECT_EQ(fault.Text, "The chart takes more pages than can be counted.");
 }
 
+TEST_F(PrintPlanTest, KeyThatCannotBeCountedStandsInNobodysWayWhoDoesNotWantIt) {
+    pattern->Instructions = std::string(30000, '\n') + "end";
+    PrintPlan plan = Plan();
+    EXPECT_FALSE(plan.Check(Asking(1, 1)).Text.empty());
+    plan.SetPrintColorKey(false);
+    EXPECT_EQ(plan.Check(Asking(1, plan.LastPage())).Text, "");
+    EXPECT_EQ(plan.LastPage(), plan.Job().PatternPages());
+    plan.SetPrintColorKey(true);
+    EXPECT_FALSE(plan.Check(Asking(1, 1)).Text.empty());
+    EXPECT_FALSE(Plan(PrintPlan::Form::ColorKey).Check(Asking(1, 1)).Text.empty());
+}
+
 TEST_F(PrintPlanTest, OneAndTheSamePageIsARange) {
     PrintPlan plan = Plan();
     EXPECT_TRUE(plan.Check(Asking(2, 2)).Text.empty());

@@ -162,6 +162,18 @@ TEST_F(ExportTest, CancelGivesNoPictureAndNoFile) {
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(scene.Folder()), {}), 1);
 }
 
+TEST_F(ExportTest, CancelWhileAPaintedPictureIsSavedLeavesTheOldFile) {
+    const QImage painted = Picture().Raster(nullptr);
+    for (const char* name : {"a.bmp", "a.png"}) {
+        WriteFile(scene.Path(name), "old");
+        RecordingProgress progress;
+        progress.cancelAfter = 0;
+        EXPECT_EQ(SavePicture(Picture(), painted, scene.Path(name), &progress), WholeFileResult());
+        EXPECT_EQ(ReadFile(scene.Path(name)), "old");
+        EXPECT_TRUE(SavePicture(Picture(), painted, scene.Path(name), nullptr).IsWritten);
+    }
+}
+
 TEST_F(ExportTest, WhatNoMemoryHoldsIsRefusedBeforeItIsAskedFor) {
     settings.ExportZoom = 2'000'000'000;
     EXPECT_FALSE(Picture().IsPossible());

@@ -63,11 +63,14 @@ public:
         ++killed;
     }
 
+    [[nodiscard]] std::string ErrorText() const override { return why; }
+
     int width = 11906; ///< A4 in twips
     int height = 16838;
     int borderX = 360;
     int borderY = 360;
     bool refusesDocuments = false;
+    std::string why; ///< it refuses them, if it tells
     int ended = 0;
     int killed = 0;
     std::vector<QImage> printed; ///< the pages of whole documents

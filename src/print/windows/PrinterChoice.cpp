@@ -31,11 +31,15 @@ bool NeedPrinter(PrintDesk& desk) {
     if (FindPrinter(desk)) {
         return true;
     }
+    TellNoPrinter(desk);
+    return false;
+}
+
+void TellNoPrinter(PrintDesk& desk) {
     desk.Messages.TellMore(NoPrinterText,
                            "The pages can be saved as a PDF: choose Save Chart as PDF in the File "
                            "menu.",
                            MessageIcon::Exclamation, Title);
-    return false;
 }
 
 bool ChoosePrinter(PrintDesk& desk, QWidget* parent) {

@@ -13,6 +13,7 @@ namespace zol::PrinterChoice {
 bool FindPrinter(PrintDesk& desk);
 /// The same, and the user is told if there is none.
 [[nodiscard]] bool NeedPrinter(PrintDesk& desk);
+void TellNoPrinter(PrintDesk& desk);
 /// Shows the printer dialog; a new choice is remembered. False if nothing was chosen.
 bool ChoosePrinter(PrintDesk& desk, QWidget* parent);
 /// Whether a job can be sent now. Says what is in the way, and asks where it is only that the

@@ -169,16 +169,18 @@ void frmFlossUsage::Print() {
     PageDevice* printer = m_desk.Printers.Printer();
     m_desk.Printers.NameDocument(QLatin1String(ReportName));
     bool isPrinted = false;
+    std::string fault = RunTimeErrorText(ErrDeviceIO);
     if (printer != nullptr) {
         const WaitCursor waiting;
         isPrinted =
             PrintFlossUsage(m_desk.Open.Design(), m_model->Rows(), m_desk.OptionsNow(), *printer);
         if (!isPrinted) {
             printer->KillDoc();
+            fault = WhyRefused(*printer);
         }
     }
     if (!isPrinted) {
-        m_desk.Messages.TellMore(RunTimeErrorText(ErrDeviceIO),
+        m_desk.Messages.TellMore(fault,
                                  "The report was not printed. Look whether the printer is there "
                                  "and takes jobs.",
                                  MessageIcon::Exclamation, "Print");

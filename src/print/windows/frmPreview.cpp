@@ -197,7 +197,10 @@ void frmPreview::TellFault(const std::string& fault, const std::string& more) {
 }
 
 void frmPreview::PrintPage() {
-    if (!PrinterChoice::NeedPrinter(m_desk)) {
+    // The pages are laid out for the printer that was there when they were chosen, if any; whether
+    // it still is, printing asks.
+    if (m_desk.Printers.Printer() == nullptr) {
+        PrinterChoice::TellNoPrinter(m_desk);
         return;
     }
     const KeptRange kept(m_job);

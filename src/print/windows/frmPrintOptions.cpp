@@ -10,6 +10,7 @@
 #include <initializer_list>
 #include <utility>
 
+#include "print/KeptRange.h"
 #include "print/windows/JobPrinting.h"
 #include "print/windows/PdfSaving.h"
 #include "print/windows/PrinterChoice.h"
@@ -306,7 +307,11 @@ void frmPrintOptions::Preview() {
 }
 
 void frmPrintOptions::Print() {
-    if (PrepareJob() && PrintOnPrinter(m_desk, m_plan.Job(), this) == PrintJob::State::Done) {
+    if (!PrepareJob()) {
+        return;
+    }
+    const KeptRange kept(m_plan.Job());
+    if (PrintOnPrinter(m_desk, m_plan.Job(), this) == PrintJob::State::Done) {
         accept();
     }
 }

@@ -50,7 +50,9 @@ private Q_SLOTS:
     void RangeOfOnePageIsPrinted();
     void WindowSaysWhichPageIsPrinted();
     void CancelBetweenPagesKillsTheDocument();
+    void PagesAreCountedAnewAfterACancel();
     void CancelIsHeardWithinAPage();
+    void CancelIsHeardOnAPageOfLinesAlone();
     void EscapeCancels();
     void FaultOfTheWorkIsThrownOn();
     void LateWindowShowsWhileTheSameWorkGoesOn();
@@ -132,6 +134,23 @@ void PrintingTest::CancelBetweenPagesKillsTheDocument() {
     QVERIFY(window.PagesPrinted() > 0);
 }
 
+void PrintingTest::PagesAreCountedAnewAfterACancel() {
+    PrintWindow window;
+    window.Open();
+    const QString before = window.AllPages();
+    window.Printers.device.onPage = [](int) {
+        QTest::mouseClick(&PartOf<QPushButton>(*PrintingWindow(), "cmdCancel"), Qt::LeftButton);
+    };
+    window.Click("cmdPrint");
+    QCOMPARE(window.PagesPrinted(), std::size_t{0});
+    window.InOptions = [&](QWidget*) { window.Settings.TextInfoFontSize = 40; };
+    window.Click("cmdAdvanced");
+    const QString after = window.AllPages();
+    QVERIFY(after != before);
+    window.Open();
+    QCOMPARE(after, window.AllPages());
+}
+
 void PrintingTest::CancelIsHeardWithinAPage() {
     PrintWindow window;
     window.Open();
@@ -147,6 +166,23 @@ void PrintingTest::CancelIsHeardWithinAPage() {
     window.Click("cmdPrint");
     // After the first of a hundred columns.
     QCOMPARE(percent, 1);
+    QVERIFY(window.Printers.device.killed >= 1);
+    QCOMPARE(window.Printers.device.ended, 0);
+}
+
+void PrintingTest::CancelIsHeardOnAPageOfLinesAlone() {
+    PrintWindow window;
+    window.Settings.StitchSymbol = PrintNone;
+    window.Open();
+    window.Click("chkPrintColorKey");
+    QVERIFY(window.Text("txtToPage").toInt() > 1);
+    int pages = 0;
+    window.Printers.device.onPage = [&](int page) {
+        pages = page;
+        PostClick(PartOf<QPushButton>(*PrintingWindow(), "cmdCancel"));
+    };
+    window.Click("cmdPrint");
+    QCOMPARE(pages, 1);
     QVERIFY(window.Printers.device.killed >= 1);
     QCOMPARE(window.Printers.device.ended, 0);
 }

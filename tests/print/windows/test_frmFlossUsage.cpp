@@ -214,12 +214,14 @@ void FlossUsageWindowTest::PrintersThatFailAreTold() {
     scene.printers.device.refusesDocuments = true;
     scene.printers.choices.push_back({QStringLiteral("Loom"), true});
     ClickIn(window, "cmdPrint");
-    QCOMPARE(scene.user.told.size(), std::size_t{1});
+    scene.printers.device.why = "Disk full";
+    scene.printers.choices.push_back({QStringLiteral("Loom"), true});
+    ClickIn(window, "cmdPrint");
     scene.printers.isDefined = false;
     ClickIn(window, "cmdPrint");
-    QCOMPARE(scene.user.told.size(), std::size_t{2});
-    QCOMPARE(scene.user.told[1].text, std::string("No Default Printer Defined!"));
-    QCOMPARE(scene.printers.choosers, 1);
+    QCOMPARE(scene.user.ToldTexts(), (std::vector<std::string>{"Device I/O error", "Disk full",
+                                                               "No Default Printer Defined!"}));
+    QCOMPARE(scene.printers.choosers, 2);
 }
 
 void FlossUsageWindowTest::AnEmptyDesignHasAnEmptyList() {

@@ -86,6 +86,7 @@ private Q_SLOTS:
     void WheelZoomsAroundThePointer();
     void MouseDragsThePaper();
     void PrintPagePrintsTheShownPage();
+    void PrintPageKeepsToThePrinterOfItsPages();
     void WithoutAPrinterPrintingIsToldAndTheRestWorks();
     void PageIsExported_data();
     void PageIsExported();
@@ -295,6 +296,22 @@ void PreviewTest::PrintPagePrintsTheShownPage() {
     const QImage printed = printers.device.printed[0];
     QCOMPARE(printed, page.copy(QRect(QPoint(border, border), printed.size())));
     QVERIFY(m_window->isVisible());
+}
+
+void PreviewTest::PrintPageKeepsToThePrinterOfItsPages() {
+    // Another one is remembered, and would be found if one were looked for.
+    m_store->WriteSetting("Printer Opts", "PrinterName", "Frame");
+    printers.others = QStringList{QStringLiteral("Loom"), QStringLiteral("Frame")};
+    Show(1, 5);
+    ClickIn(*m_window, "cmdPrintPage");
+    QCOMPARE(printers.DeviceName(), QStringLiteral("Loom"));
+    QCOMPARE(printers.device.printed.size(), 1U);
+    printers.state = PrinterState::Gone;
+    ClickIn(*m_window, "cmdPrintPage");
+    printers.state = PrinterState::Ready;
+    QCOMPARE(user.ToldTexts(),
+             std::vector<std::string>{"The printer \"Loom\" is not there any more."});
+    QCOMPARE(printers.device.printed.size(), 1U);
 }
 
 void PreviewTest::WithoutAPrinterPrintingIsToldAndTheRestWorks() {
