@@ -12,6 +12,39 @@
 
 namespace zol {
 
+namespace {
+
+/// A copy holds primary threads only, so blends are matched and kept as those.
+Palette PrimaryThreads(const Palette& palette) {
+    Palette copy = Palette::Empty(palette.Context());
+    palette.CreateCopy(copy);
+    return copy;
+}
+
+/// All that an import takes over of a floss. The rows of the makers are each palette's own.
+bool IsSameFloss(const Palette& one, const Palette& other, int index) {
+    PaletteEntry entry = one.GetEntry(index);
+    const PaletteEntry& with = other.GetEntry(index);
+    entry.ManufacturerIndex = with.ManufacturerIndex;
+    entry.BlendManufacturerIndex = with.BlendManufacturerIndex;
+    return entry == with && one.GetManufShortDesc(index) == other.GetManufShortDesc(index) &&
+           one.GetManufLongDesc(index) == other.GetManufLongDesc(index) &&
+           one.GetBlendManufShortDesc(index) == other.GetBlendManufShortDesc(index);
+}
+
+bool HoldSameFlosses(const Palette& one, const Palette& other) {
+    const int count = one.GetEntriesCount();
+    bool same = count == other.GetEntriesCount() && one.GetFontName() == other.GetFontName() &&
+                one.GetFontBold() == other.GetFontBold() &&
+                one.GetFontItalic() == other.GetFontItalic();
+    for (int i = 1; same && i <= count; ++i) {
+        same = IsSameFloss(one, other, i);
+    }
+    return same;
+}
+
+} // namespace
+
 ImportSession::ImportSession(ProgramContext& context)
     : m_context(&context),
       m_image(std::make_shared<const Picture>()),
@@ -45,17 +78,12 @@ void ImportSession::UseWholePattern() {
     BuildCandidates();
 }
 
-bool ImportSession::IsLockedTo(const Palette& patternPalette) const {
-    if (!m_lockedPalette ||
-        m_lockedPalette->GetEntriesCount() != patternPalette.GetEntriesCount()) {
+bool ImportSession::IsUpToDateWith(const Palette& patternPalette) const {
+    if (m_lockedPalette && !HoldSameFlosses(*m_lockedPalette, patternPalette)) {
         return false;
     }
-    for (int i = 1; i <= patternPalette.GetEntriesCount(); ++i) {
-        if (m_lockedPalette->GetFlossRGB(i) != patternPalette.GetFlossRGB(i)) {
-            return false;
-        }
-    }
-    return true;
+    return m_from != FlossSource::Kind::CurrentPalette ||
+           HoldSameFlosses(*m_sourcePalette, PrimaryThreads(patternPalette));
 }
 
 void ImportSession::ChooseCatalogue(const AvailColors& catalogue) {
@@ -66,9 +94,7 @@ void ImportSession::ChooseCatalogue(const AvailColors& catalogue) {
 
 void ImportSession::ChooseCurrentPalette(const Palette& patternPalette) {
     m_from = FlossSource::Kind::CurrentPalette;
-    m_sourcePalette = Palette::Empty(*m_context);
-    // A copy holds primary threads only, so blends are matched and kept as those.
-    patternPalette.CreateCopy(*m_sourcePalette);
+    m_sourcePalette = PrimaryThreads(patternPalette);
     BuildCandidates();
 }
 

@@ -39,8 +39,9 @@ public:
     /// chosen anew.
     void UseEditBox(int left, int top, const Palette& patternPalette);
     void UseWholePattern();
-    /// Whether the flosses that are locked for the edit box are those of a palette, in its order.
-    [[nodiscard]] bool IsLockedTo(const Palette& patternPalette) const;
+    /// Whether what was taken from the pattern's palette, for the edit box or as the flosses to
+    /// choose from, is what that palette holds now.
+    [[nodiscard]] bool IsUpToDateWith(const Palette& patternPalette) const;
 
     void ChooseCatalogue(const AvailColors& catalogue);
     void ChooseCurrentPalette(const Palette& patternPalette);

@@ -1,7 +1,11 @@
 // SPDX-FileCopyrightText: 2026 Korvanta contributors
 // SPDX-License-Identifier: MIT
 
-#include <QLabel>
+#include <QComboBox>
+
+#include <filesystem>
+#include <string>
+#include <vector>
 
 #include "flosses/Palette.h"
 #include "grid/tools/EditBox.h"
@@ -11,6 +15,8 @@
 
 namespace zol::test {
 
+namespace fs = std::filesystem;
+
 /// What an import does to a design that is there already.
 class ImportIntoDesignTest : public QObject {
     Q_OBJECT
@@ -19,6 +25,9 @@ private Q_SLOTS:
     void init();
     void APasteThatFloatsLandsBeforeTheImport_data();
     void APasteThatFloatsLandsBeforeTheImport();
+    void AnotherDesignEndsTheImportThatWasLeft_data();
+    void AnotherDesignEndsTheImportThatWasLeft();
+    void AResumedImportTakesTheCurrentPaletteAsItIsNow();
 
 private:
     QTemporaryDir m_folder;
@@ -117,6 +126,75 @@ void ImportIntoDesignTest::APasteThatFloatsLandsBeforeTheImport() {
     QCOMPARE(design.GetPalette().GetEntriesCount(), 2);
     QCOMPARE(design.GetStitchCount(2, 2), 1);
     QCOMPARE(design.GetStitchCount(6, 5), 0);
+}
+
+void ImportIntoDesignTest::AnotherDesignEndsTheImportThatWasLeft_data() {
+    QTest::addColumn<bool>("opened");
+    QTest::newRow("New") << false;
+    QTest::newRow("Open") << true;
+}
+
+void ImportIntoDesignTest::AnotherDesignEndsTheImportThatWasLeft() {
+    QFETCH(const bool, opened);
+    OpenedProgram program;
+    program.Take(20, 12, 300);
+    const fs::path file = program.Home / "other.pat";
+    QCOMPARE(program.Design().Save(file), 0);
+    program.Choose("mnuDrawModeEditBox");
+    program.DragOver({{4, 3}, {11, 8}});
+    Import(program, [&program](frmImportWizard& wizard) {
+        TakeFile(program, wizard, "still-life.jpg");
+        ClickIn(wizard, "chkUseEditBox");
+        GoToMapping(wizard);
+        ChooseFamily(wizard, QStringLiteral("150"));
+        wizard.reject();
+    });
+    program.Design().SetChanged(false);
+    if (opened) {
+        program.User.files = {file};
+        program.Choose("mnuFileOpen");
+        program.Settle();
+        QCOMPARE(program.Design().FileName, file);
+    } else {
+        program.NewPatternByMenu();
+    }
+    const std::string before = BytesOf(program.Parts().Open.Get());
+    Import(program, [](frmImportWizard& wizard) {
+        QCOMPARE(wizard.CurrentScreen(), 0);
+        QVERIFY(PartOf<PictureView>(wizard, "LPicPreview").Shown() == nullptr);
+    });
+    QVERIFY(program.User.asked.empty());
+    QCOMPARE(BytesOf(program.Parts().Open.Get()), before);
+}
+
+void ImportIntoDesignTest::AResumedImportTakesTheCurrentPaletteAsItIsNow() {
+    OpenedProgram program;
+    Pattern& design = program.Design();
+    program.Take(20, 12, 300);
+    design.GetPalette() = PaletteOf(program, {MakeColour(200, 0, 0), MakeColour(0, 0, 200)});
+    Import(program, [&program](frmImportWizard& wizard) {
+        TakeFile(program, wizard, "cat.png");
+        SetWidth(wizard, QStringLiteral("10"));
+        GoToMapping(wizard);
+        ClickIn(wizard, "optPalette");
+        auto& palettes = PartOf<QComboBox>(wizard, "cmbFlossFamily");
+        palettes.setFocus();
+        QTest::keyClick(&palettes, Qt::Key_Home);
+        wizard.reject();
+    });
+    // No colour and no number of flosses has changed.
+    design.GetPalette().SetFlossSymbol(1, "Q");
+    design.GetPalette().SetFlossManuIDs(2, "4711");
+    program.User.answers = {MessageAnswer::Yes};
+    Import(program, [](frmImportWizard& wizard) {
+        QCOMPARE(wizard.CurrentScreen(), 5);
+        QCOMPARE(PartOf<QComboBox>(wizard, "cmbFlossFamily").currentIndex(), 0);
+        Next(wizard);
+        QVERIFY(!wizard.isVisible());
+    });
+    QCOMPARE(design.GetPatternWidth(), 10);
+    QCOMPARE(design.GetPalette().GetFlossSymbol(1), int('Q'));
+    QCOMPARE(design.GetPalette().GetManufID(2), std::string("4711"));
 }
 
 } // namespace zol::test

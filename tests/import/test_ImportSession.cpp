@@ -383,11 +383,43 @@ TEST_F(ImportIntoEditBox, FlossesThatArriveJustBeforeTheChangeKeepTheirNumbers) 
 }
 
 TEST_F(ImportIntoEditBox, LockedFlossesAreKnownFromOthers) {
-    EXPECT_TRUE(session.IsLockedTo(pattern.GetPalette()));
-    EXPECT_FALSE(session.IsLockedTo(PaletteOf({Red}, "!")));
-    EXPECT_FALSE(session.IsLockedTo(PaletteOf({Red, Blue}, "!z")));
+    EXPECT_TRUE(session.IsUpToDateWith(pattern.GetPalette()));
+    EXPECT_FALSE(session.IsUpToDateWith(PaletteOf({Red}, "!")));
+    EXPECT_FALSE(session.IsUpToDateWith(PaletteOf({Red, Blue}, "!z")));
     session.UseWholePattern();
-    EXPECT_FALSE(session.IsLockedTo(pattern.GetPalette()));
+    EXPECT_TRUE(session.IsUpToDateWith(PaletteOf({Red}, "!")));
+}
+
+TEST_F(Import, TheCurrentPaletteIsOutOfDateOnceAnythingOfAFlossChanged) {
+    Palette& palette = pattern.GetPalette();
+    palette = PaletteOf({Red, Blue}, "!z");
+    palette.BlendFloss(2, Red, "5", "Mill", "thread", 0);
+    session.ChooseCurrentPalette(palette);
+    EXPECT_TRUE(session.IsUpToDateWith(palette));
+    Palette other = palette;
+    other.RemoveBlend(2); // no import takes a second thread
+    EXPECT_TRUE(session.IsUpToDateWith(other));
+    other = palette;
+    other.SetFlossSymbol(1, "q");
+    EXPECT_FALSE(session.IsUpToDateWith(other));
+    other = palette;
+    other.SetFlossStrands(1, 6, 1);
+    EXPECT_FALSE(session.IsUpToDateWith(other));
+    other = palette;
+    other.SetFlossManuIDs(2, "77");
+    EXPECT_FALSE(session.IsUpToDateWith(other));
+    other = palette;
+    other.SetSymbolFont("Another Font", true, false);
+    EXPECT_FALSE(session.IsUpToDateWith(other));
+    session.ChooseCatalogue(CatalogueOf({Red}));
+    EXPECT_TRUE(session.IsUpToDateWith(other));
+}
+
+TEST_F(Import, APaletteThatAnImportReplacedIsUpToDate) {
+    session.SetImage(RowOf({Blue}));
+    session.ChooseCurrentPalette(PaletteOf({Red, Blue}, "!z"));
+    ASSERT_EQ(Create().Result, Done);
+    EXPECT_TRUE(session.IsUpToDateWith(pattern.GetPalette()));
 }
 
 } // namespace

@@ -26,15 +26,14 @@ ImportCommands::ImportCommands(MainCommands& commands, const Workshop& workshop,
 
 ImportCommands::~ImportCommands() = default;
 
-bool ImportCommands::CanResume() {
-    return m_wizard != nullptr && m_wizard->HasWork() &&
-           m_wizardDesign == &m_workshop.Open.Design();
+void ImportCommands::ForgetImport() {
+    m_wizard.reset();
 }
 
 void ImportCommands::Import() {
     const std::optional<SquareRect> editBox = LandEditBox();
     const bool resume =
-        CanResume() &&
+        m_wizard != nullptr && m_wizard->HasWork() &&
         m_workshop.Messages.Ask("Would you like to resume the last Import?", MessageIcon::Question,
                                 MessageButtons::YesNo, ImportMessages::Title) == MessageAnswer::Yes;
     if (resume) {
@@ -54,9 +53,8 @@ void ImportCommands::ImportFile(const std::filesystem::path& file) {
 void ImportCommands::BeginAnew(std::optional<SquareRect> editBox) {
     // The old one goes first, with whatever it still works on.
     m_wizard.reset();
-    m_wizardDesign = &m_workshop.Open.Design();
     m_wizard = std::make_unique<frmImportWizard>(
-        frmImportWizard::Outside{m_workshop.Context, *m_wizardDesign, m_workshop.Store,
+        frmImportWizard::Outside{m_workshop.Context, m_workshop.Open.Design(), m_workshop.Store,
                                  m_workshop.Settings, m_workshop.Messages, m_workshop.Files,
                                  &m_workshop.Scanners,
                                  [this](ImportWork& work) { return CreateThePattern(work); }},

@@ -22,7 +22,7 @@ class MainCommands;
 struct ImportWork;
 
 /// The command that makes a design of a picture. Keeps the wizard that was left, so that its import
-/// can be resumed for as long as the program runs.
+/// can be resumed for as long as its design stands on the grid.
 class ImportCommands {
 public:
     /// What the window does about an import.
@@ -39,12 +39,14 @@ public:
 
     /// A picture file that was dropped onto the window: a new import of it.
     void ImportFile(const std::filesystem::path& file);
+    /// Another design stands on the grid. The import that was left is of the one before: its edit
+    /// box and its flosses would be wrong here, so it cannot be resumed.
+    void ForgetImport();
 
 private:
     void Import();
     void BeginAnew(std::optional<SquareRect> editBox);
     void ShowWizard();
-    [[nodiscard]] bool CanResume();
     [[nodiscard]] std::optional<SquareRect> EditBoxInDesign() const;
     /// The edit box for a new import. One that floats lands first, so that the import begins with
     /// the design, and the flosses, that it will change.
@@ -57,8 +59,7 @@ private:
     QWidget& m_window;
     Followers m_followers;
     std::unique_ptr<frmImportWizard> m_wizard;
-    const Pattern* m_wizardDesign = nullptr; ///< what the wizard was opened for
-    ImportFigures m_figures;                 ///< of the last import that was carried out
+    ImportFigures m_figures; ///< of the last import that was carried out
 };
 
 } // namespace zol

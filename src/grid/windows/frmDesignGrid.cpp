@@ -162,6 +162,7 @@ void frmDesignGrid::ShowDesign() {
     FollowCurrentColor();
     FollowTool();
     m_design->EnableForNewDesign();
+    m_import->ForgetImport();
     m_edit->UpdateEditMenus();
 }
 

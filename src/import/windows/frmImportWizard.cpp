@@ -141,9 +141,8 @@ bool frmImportWizard::HasWork() const {
 }
 
 void frmImportWizard::Resume() {
-    // Flosses that came or went meanwhile have other numbers now, so they are locked anew.
-    if (m_flow.IsOnLastScreen() && m_work.UseEditBox &&
-        !m_work.Session.IsLockedTo(m_desk.Design.GetPalette())) {
+    // Flosses that changed meanwhile are taken anew: an import of the old ones would put them back.
+    if (m_flow.IsOnLastScreen() && !m_work.Session.IsUpToDateWith(m_desk.Design.GetPalette())) {
         DisplayScreen(m_flow.CurrentScreen(), false);
     }
 }

@@ -53,7 +53,8 @@ public:
     [[nodiscard]] int CurrentScreen() const { return m_flow.CurrentScreen(); }
     /// Whether there is anything that could be resumed.
     [[nodiscard]] bool HasWork() const;
-    /// To be called before a wizard that was left is shown again: the design may have changed.
+    /// To be called before a wizard that was left is shown again: the design's palette may have
+    /// changed. It is still the design that the wizard was made for.
     void Resume();
     /// Only on the first screen: a file as the source.
     void TakeFile(const std::filesystem::path& file);
