@@ -128,6 +128,9 @@ public:
     /// Master identity, number and short manufacturer equal; without a master identity the
     /// colours too.
     [[nodiscard]] bool FlossesMatch(int index, const Palette& other, int otherIndex) const;
+    /// Whether the primary threads are one and the same: colour, master identity, number and short
+    /// manufacturer.
+    [[nodiscard]] bool IsSameThread(int index, const Palette& other, int otherIndex) const;
     /// The number of the entry in `target`, added there if nothing matches; 1 if adding failed.
     /// A symbol that the target uses is replaced by this palette's next free one.
     int MergePaletteEntrytoTarget(Palette& target, int index) const;
@@ -199,6 +202,7 @@ private:
     Palette(ProgramContext& context, WithoutEntries);
 
     [[nodiscard]] bool InRange(int index) const;
+    [[nodiscard]] bool HasSameName(int index, const Palette& other, int otherIndex) const;
     [[nodiscard]] PaletteEntry& At(int index);
     [[nodiscard]] const PaletteEntry& At(int index) const;
     /// AddPaletteEntry without the sort, which whoever adds many runs once at the end.

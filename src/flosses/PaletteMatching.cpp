@@ -105,16 +105,20 @@ void Palette::CreateCopy(Palette& target) const {
     target.Sort(target.m_sortOrder);
 }
 
+bool Palette::HasSameName(int index, const Palette& other, int otherIndex) const {
+    return InRange(index) && other.InRange(otherIndex) &&
+           GetFlossMasterID(index) == other.GetFlossMasterID(otherIndex) &&
+           GetManufID(index) == other.GetManufID(otherIndex) &&
+           GetManufShortDesc(index) == other.GetManufShortDesc(otherIndex);
+}
+
 bool Palette::FlossesMatch(int index, const Palette& other, int otherIndex) const {
-    if (!InRange(index) || !other.InRange(otherIndex)) {
-        return false;
-    }
-    if (GetFlossMasterID(index) != other.GetFlossMasterID(otherIndex) ||
-        GetManufID(index) != other.GetManufID(otherIndex) ||
-        GetManufShortDesc(index) != other.GetManufShortDesc(otherIndex)) {
-        return false;
-    }
-    return GetFlossMasterID(index) != 0 || GetFlossRGB(index) == other.GetFlossRGB(otherIndex);
+    return HasSameName(index, other, otherIndex) &&
+           (GetFlossMasterID(index) != 0 || GetFlossRGB(index) == other.GetFlossRGB(otherIndex));
+}
+
+bool Palette::IsSameThread(int index, const Palette& other, int otherIndex) const {
+    return HasSameName(index, other, otherIndex) && At(index).RGB == other.At(otherIndex).RGB;
 }
 
 int Palette::MergePaletteEntrytoTarget(Palette& target, int index) const {

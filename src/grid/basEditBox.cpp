@@ -116,7 +116,12 @@ void EraseArea(Pattern& pattern, const SquareRect& rect) {
 
 void WriteBack(const Pattern& content, Pattern& target, int left, int top) {
     content.CopySectionToTarget(target, left, top, 1, 1, content.GetPatternWidth(),
-                                content.GetPatternHeight(), -1);
+                                content.GetPatternHeight(), MergeFlosses);
+}
+
+void PutBack(const Pattern& content, Pattern& pattern, int left, int top) {
+    content.CopySectionToTarget(pattern, left, top, 1, 1, content.GetPatternWidth(),
+                                content.GetPatternHeight(), KeepFlosses);
 }
 
 void TransformArea(Pattern& pattern, const SquareRect& rect, TransformOperation operation) {
@@ -124,7 +129,7 @@ void TransformArea(Pattern& pattern, const SquareRect& rect, TransformOperation 
     EraseArea(pattern, rect);
     const Pattern turned = StitchTransform::Apply(lifted, operation);
     const SquareRect place = StitchTransform::Rect(rect, operation);
-    WriteBack(turned, pattern, place.Left, place.Top);
+    PutBack(turned, pattern, place.Left, place.Top);
 }
 
 } // namespace zol::basEditBox

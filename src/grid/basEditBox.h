@@ -45,6 +45,10 @@ void EraseArea(Pattern& pattern, const SquareRect& rect);
 /// lost, flosses are merged.
 void WriteBack(const Pattern& content, Pattern& target, int left, int top);
 
+/// Writes a block back that was lifted from this very pattern, or is in its flosses: they keep
+/// their numbers, and so their blends.
+void PutBack(const Pattern& content, Pattern& pattern, int left, int top);
+
 /// Lifts the rectangle, erases it, turns the content and writes it back on the same centre.
 void TransformArea(Pattern& pattern, const SquareRect& rect, TransformOperation operation);
 

@@ -137,7 +137,7 @@ public:
     /// Does not set `Changed`. A size of 0 leaves a pattern without squares. Throws as Initialize
     /// for a size below 0 or above MaxSquares.
     void Resize(int width, int height, int clothCountX, int clothCountY);
-    /// A palette override of -1 merges flosses.
+    /// The palette override is the floss that everything takes, or one of CopiedFlosses.
     void CopySectionToTarget(Pattern& target, int targetX, int targetY, int sourceX, int sourceY,
                              int sourceWidth, int sourceHeight, int paletteOverride) const;
     void Paint(int x, int y, int stitchType, int newIndex, int oldIndex);

@@ -32,7 +32,7 @@ public:
 
     /// 0 for a number that the source's palette lacks: such a stitch is not copied.
     int operator()(int floss) {
-        if (m_override != merge) {
+        if (m_override >= 0) {
             return m_override;
         }
         if (floss < 1 || static_cast<std::size_t>(floss) >= m_map.size()) {
@@ -40,14 +40,23 @@ public:
         }
         int& mapped = m_map[static_cast<std::size_t>(floss)];
         if (mapped == notYet) {
-            mapped = m_source.MergePaletteEntrytoTarget(m_target, floss);
+            mapped = NumberOf(floss);
         }
-        return mapped < NoFloss ? mapped : 0;
+        return mapped;
     }
 
 private:
-    static constexpr int merge = -1;
     static constexpr int notYet = -1;
+
+    [[nodiscard]] int NumberOf(int floss) const {
+        // A block's palette knows no blends, so a merge could not tell a blend from its first
+        // thread, nor two blends of one first thread from each other.
+        if (m_override == KeepFlosses && m_source.IsSameThread(floss, m_target, floss)) {
+            return floss;
+        }
+        const int merged = m_source.MergePaletteEntrytoTarget(m_target, floss);
+        return merged < NoFloss ? merged : 0;
+    }
 
     const Palette& m_source;
     Palette& m_target;

@@ -44,6 +44,15 @@ struct PatternNote {
     friend bool operator==(const PatternNote&, const PatternNote&) = default;
 };
 
+/// What copied stitches and lines are sewn with in the target, beside one floss for all of them.
+enum CopiedFlosses : std::int16_t {
+    /// In the flosses that they had, which are merged into the target's palette.
+    MergeFlosses = -1,
+    /// For what was lifted from the target itself: a floss keeps its number, and with it its blend,
+    /// where the target's entry of that number is still the same thread; else it is merged.
+    KeepFlosses = -2,
+};
+
 /// Results of CountStitches; element i - 1 belongs to floss i, lengths in inches.
 struct PatternCounts {
     std::vector<std::int32_t> StitchCounts;

@@ -37,6 +37,7 @@ void EditBox::Forget() {
     m_hasPattern = false;
     m_pasted = false;
     m_lifted = false;
+    m_inOwnFlosses = false;
     m_drag.reset();
 }
 
@@ -99,6 +100,7 @@ void EditBox::TakeSelection(const SquareRect& rect) {
     const Pattern& design = m_desk.Design();
     m_frame.SetBox(rect);
     m_sourceRect = rect;
+    m_inOwnFlosses = true;
     m_content = std::make_shared<Pattern>(
         basEditBox::PickUpSelection(design, rect, std::nullopt, design.Context().Progress));
 }
@@ -114,8 +116,8 @@ void EditBox::PickUpSelection(const Pattern& source, int column, int row,
     Pattern& design = m_desk.Design();
     auto block = std::make_shared<Pattern>(basEditBox::PickUpSelection(
         source, {1, 1, width, height}, recolor, design.Context().Progress));
-    if (recolor) {
-        // The floss is one of the design's.
+    m_inOwnFlosses = recolor.has_value();
+    if (m_inOwnFlosses) {
         design.GetPalette().CreateCopy(block->GetPalette());
     }
     Float(std::move(block), {column, row, column + width - 1, row + height - 1});
@@ -233,7 +235,8 @@ void EditBox::WriteBack() {
     Pattern& design = m_desk.Design();
     const SquareRect box = GetEditBoxRect();
     const int flosses = design.GetPalette().GetEntriesCount();
-    basEditBox::WriteBack(*m_content, design, box.Left, box.Top);
+    const auto write = m_inOwnFlosses ? basEditBox::PutBack : basEditBox::WriteBack;
+    write(*m_content, design, box.Left, box.Top);
     design.SetChanged(true);
     if (design.GetPalette().GetEntriesCount() != flosses) {
         m_desk.View.FlossesChanged();

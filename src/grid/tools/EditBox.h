@@ -125,6 +125,7 @@ private:
     bool m_hasPattern = false;
     bool m_pasted = false;
     bool m_lifted = false;
+    bool m_inOwnFlosses = false; ///< the content's floss numbers are the design's
     std::optional<Drag> m_drag;
     SquareRect m_sourceRect; ///< where the content was picked up
     int m_floatStep = -1;    ///< the undo step in which the content left the design or came to it
