@@ -3,16 +3,30 @@
 
 #include "import/EraseWork.h"
 
+#include <utility>
+
 #include "import/Eraser.h"
 
 namespace zol {
 
+namespace {
+
+std::shared_ptr<Picture> CopyOf(const SharedPicture& picture) {
+    return std::make_shared<Picture>(picture ? *picture : Picture());
+}
+
+} // namespace
+
 void EraseWork::Take(const SharedPicture& picture) {
-    m_own = std::make_shared<Picture>(picture ? *picture : Picture());
+    Begin(CopyOf(picture));
+    m_hasStep = false;
+}
+
+void EraseWork::Begin(std::shared_ptr<Picture> own) {
+    m_own = std::move(own);
     m_handedOn = false;
     m_undo = nullptr;
     m_kept.Forget();
-    m_hasStep = false;
 }
 
 SharedPicture EraseWork::HandOn() {
@@ -31,14 +45,19 @@ PixelRect EraseWork::Whole() const {
     return {0, 0, m_own->ImageWidth(), m_own->ImageHeight()};
 }
 
-/// What was kept of the step before is given up only when the picture is really changed.
-void EraseWork::BeginStep() {
-    if (!m_stepBegun) {
-        m_stepBegun = true;
-        m_hasStep = true;
-        m_undo = nullptr;
-        m_kept.Forget();
+/// Before that part of the picture changes. What was kept of the step before is given up only once
+/// there is what takes its place.
+void EraseWork::Keep(const PixelRect& rect) {
+    if (m_stepBegun) {
+        m_kept.Keep(*m_own, rect);
+        return;
     }
+    KeptTiles kept;
+    kept.Keep(*m_own, rect);
+    m_kept = std::move(kept);
+    m_undo = nullptr;
+    m_stepBegun = true;
+    m_hasStep = true;
 }
 
 PixelRect EraseWork::BeginStroke(PicturePoint place, int across) {
@@ -61,8 +80,7 @@ PixelRect EraseWork::EraseWay(PicturePoint to) {
         return {};
     }
     MakeOwn();
-    BeginStep();
-    m_kept.Keep(*m_own, reach);
+    Keep(reach);
     Eraser::Erase(*m_own, from, to, m_across);
     return reach;
 }
@@ -74,8 +92,7 @@ PixelRect EraseWork::ClearSelected(const PictureRegion& region) {
     const PixelRect bounds = region.Bounds();
     MakeOwn();
     m_stepBegun = false;
-    BeginStep();
-    m_kept.Keep(*m_own, bounds);
+    Keep(bounds);
     region.FillRegion(*m_own, EraseColor);
     return bounds;
 }
@@ -104,16 +121,15 @@ PixelRect EraseWork::Undo() {
 }
 
 void EraseWork::Reset(const SharedPicture& picture) {
-    const bool hadStep = m_hasStep;
+    std::shared_ptr<Picture> own = CopyOf(picture);
     SharedPicture before = m_undo;
-    if (hadStep && !before) {
+    if (m_hasStep && !before) {
         MakeOwn();
         m_kept.PutBack(*m_own);
         before = m_own;
     }
-    Take(picture);
-    m_undo = before;
-    m_hasStep = hadStep;
+    Begin(std::move(own));
+    m_undo = std::move(before);
 }
 
 } // namespace zol

@@ -13,7 +13,8 @@ namespace zol {
 
 /// The picture of the erase screen: what is erased from it, with one step that can be taken back
 /// (`lpicUndo`). It works on a copy of its own, so that pictures handed on stay as they are. Every
-/// operation needs a picture.
+/// operation needs a picture. One that there is no memory for throws std::bad_alloc, and all is as
+/// it was.
 class EraseWork {
 public:
     /// Works on a copy of that picture from now on, and nothing can be taken back.
@@ -46,8 +47,9 @@ public:
     void Reset(const SharedPicture& picture);
 
 private:
+    void Begin(std::shared_ptr<Picture> own);
     PixelRect EraseWay(PicturePoint to);
-    void BeginStep();
+    void Keep(const PixelRect& rect);
     [[nodiscard]] PixelRect Whole() const;
 
     std::shared_ptr<Picture> m_own;

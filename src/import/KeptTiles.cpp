@@ -21,6 +21,16 @@ PixelRect KeptTiles::RectOf(const Picture& image, Place place) {
                          image.ImageHeight());
 }
 
+std::vector<Colour> KeptTiles::PixelsOf(const Picture& image, const PixelRect& rect) {
+    std::vector<Colour> pixels;
+    pixels.reserve(static_cast<std::size_t>(rect.Width) * static_cast<std::size_t>(rect.Height));
+    for (int y = rect.Top; y < rect.Top + rect.Height; ++y) {
+        const Colour* from = image.Row(y) + rect.Left;
+        pixels.insert(pixels.end(), from, from + rect.Width);
+    }
+    return pixels;
+}
+
 void KeptTiles::Keep(const Picture& image, const PixelRect& rect) {
     if (rect.Width < 1 || rect.Height < 1) {
         return;
@@ -28,13 +38,10 @@ void KeptTiles::Keep(const Picture& image, const PixelRect& rect) {
     for (int row = rect.Top / Side; row <= (rect.Top + rect.Height - 1) / Side; ++row) {
         for (int column = rect.Left / Side; column <= (rect.Left + rect.Width - 1) / Side;
              ++column) {
-            const auto [tile, isNew] = m_tiles.try_emplace(Place{row, column});
-            if (isNew) {
-                const PixelRect part = RectOf(image, tile->first);
-                for (int y = part.Top; y < part.Top + part.Height; ++y) {
-                    const Colour* from = image.Row(y) + part.Left;
-                    tile->second.insert(tile->second.end(), from, from + part.Width);
-                }
+            const Place place{row, column};
+            if (!m_tiles.contains(place)) {
+                // Whole before it is kept: memory may end half-way.
+                m_tiles.emplace(place, PixelsOf(image, RectOf(image, place)));
             }
         }
     }

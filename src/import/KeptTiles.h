@@ -29,6 +29,7 @@ private:
         friend auto operator<=>(const Place&, const Place&) = default;
     };
     [[nodiscard]] static PixelRect RectOf(const Picture& image, Place place);
+    [[nodiscard]] static std::vector<Colour> PixelsOf(const Picture& image, const PixelRect& rect);
 
     std::map<Place, std::vector<Colour>> m_tiles;
 };

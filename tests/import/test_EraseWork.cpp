@@ -6,6 +6,9 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <new>
+
+#include "support/ScarceMemory.h"
 
 namespace zol {
 
@@ -172,6 +175,57 @@ TEST(EraseWork, WorksWithoutAPicture) {
     work.Take(nullptr);
     EXPECT_FALSE(work.HasPicture());
     EXPECT_EQ(work.BeginStroke({1, 1}, 8), PixelRect{});
+}
+
+/// A tile kept for taking back is as large as this.
+constexpr std::size_t TileBytes = 64 * 64 * sizeof(Colour);
+
+TEST(EraseWork, AStepThatThereIsNoMemoryForLeavesTheOneBefore) {
+    const SharedPicture photo = Photo();
+    EraseWork work;
+    work.Take(photo);
+    work.BeginStroke({10, 10}, 32);
+    const Picture afterFirst = *work.Shown();
+    PictureRegion region(300, 200);
+    region.SelectRectRegion({20, 20, 150, 150});
+    {
+        const test::ScarceMemory scarce(TileBytes - 1, 2);
+        EXPECT_THROW(work.ClearSelected(region), std::bad_alloc);
+    }
+    EXPECT_EQ(*work.Shown(), afterFirst);
+    ASSERT_TRUE(work.CanUndo());
+    work.Undo();
+    EXPECT_EQ(*work.Shown(), *photo);
+}
+
+TEST(EraseWork, AStrokeThatRunsOutOfMemoryIsTakenBackAsFarAsItCame) {
+    const SharedPicture photo = Photo();
+    EraseWork work;
+    work.Take(photo);
+    work.BeginStroke({10, 10}, 32);
+    {
+        const test::ScarceMemory scarce(TileBytes - 1, 1);
+        EXPECT_THROW(work.MoveStroke({250, 10}), std::bad_alloc);
+    }
+    work.Undo();
+    EXPECT_EQ(*work.Shown(), *photo);
+}
+
+TEST(EraseWork, AResetThatThereIsNoMemoryForChangesNothing) {
+    const SharedPicture photo = Photo();
+    EraseWork work;
+    work.Take(photo);
+    work.BeginStroke({100, 100}, 32);
+    const SharedPicture handedOn = work.HandOn();
+    const Picture erased = *handedOn;
+    for (const int granted : {0, 1}) {
+        const test::ScarceMemory scarce(TileBytes, granted);
+        EXPECT_THROW(work.Reset(photo), std::bad_alloc);
+    }
+    EXPECT_EQ(*work.Shown(), erased);
+    work.Undo();
+    EXPECT_EQ(*work.Shown(), *photo);
+    EXPECT_EQ(*handedOn, erased);
 }
 
 } // namespace zol

@@ -11,6 +11,7 @@
 #include "import/PictureFiles.h"
 #include "import/PictureOps.h"
 #include "import/windows/PictureMarks.h"
+#include "import/windows/WithinMemory.h"
 #include "import/windows/ui_CropScreen.h"
 #include "windowkit/Theme.h"
 #include "windowkit/WaitCursor.h"
@@ -64,8 +65,10 @@ CropScreen::CropScreen(ImportDesk& desk, QWidget* parent)
     ConnectView();
     m_sizesDue.setSingleShot(true);
     connect(&m_sizesDue, &QTimer::timeout, this, &CropScreen::ShowSizes);
-    connect(m_ui->cmdCrop, &QPushButton::clicked, this, &CropScreen::Crop);
-    connect(m_ui->cmdResetCrop, &QPushButton::clicked, this, &CropScreen::ResetCrop);
+    connect(m_ui->cmdCrop, &QPushButton::clicked, this,
+            [this] { WithinMemory(m_desk.Messages, [this] { Crop(); }); });
+    connect(m_ui->cmdResetCrop, &QPushButton::clicked, this,
+            [this] { WithinMemory(m_desk.Messages, [this] { ResetCrop(); }); });
     ShowSizes();
 }
 

@@ -12,6 +12,7 @@
 
 #include "import/Eraser.h"
 #include "import/windows/PictureMarks.h"
+#include "import/windows/WithinMemory.h"
 #include "import/windows/ui_EraseScreen.h"
 #include "windowkit/WaitCursor.h"
 
@@ -49,9 +50,12 @@ void EraseScreen::ConnectView() {
     PictureView& view = *m_ui->lpicErase;
     view.SetOverlay(
         [this](QPainter& painter, const PicturePlace& place) { Paint(painter, place); });
-    connect(&view, &PictureView::Pressed, this, [this](QPointF place) { Press(place); });
-    connect(&view, &PictureView::Moved, this, &EraseScreen::Move);
-    connect(&view, &PictureView::Released, this, &EraseScreen::Release);
+    connect(&view, &PictureView::Pressed, this,
+            [this](QPointF place) { Try([&] { Press(place); }); });
+    connect(&view, &PictureView::Moved, this,
+            [this](QPointF place, bool dragging) { Try([&] { Move(place, dragging); }); });
+    connect(&view, &PictureView::Released, this,
+            [this](QPointF place) { Try([&] { Release(place); }); });
     connect(&view, &PictureView::Left, this, [this] { MoveRing(std::nullopt); });
     connect(&view, &PictureView::ZoomChanged, this, &EraseScreen::ShowPointer);
 }
@@ -61,10 +65,24 @@ void EraseScreen::ConnectChoices() {
     for (QRadioButton* size : {m_ui->optEraser0, m_ui->optEraser1, m_ui->optEraser2}) {
         connect(size, &QRadioButton::toggled, this, &EraseScreen::ShowPointer);
     }
-    connect(m_ui->cmdClearSelected, &QPushButton::clicked, this, &EraseScreen::ClearSelected);
-    connect(m_ui->cmdClearUnselected, &QPushButton::clicked, this, &EraseScreen::ClearUnselected);
-    connect(m_ui->cmdUndo, &QPushButton::clicked, this, &EraseScreen::UndoErase);
-    connect(m_ui->cmdResetErase, &QPushButton::clicked, this, &EraseScreen::ResetErase);
+    connect(m_ui->cmdClearSelected, &QPushButton::clicked, this,
+            [this] { Try([this] { ClearSelected(); }); });
+    connect(m_ui->cmdClearUnselected, &QPushButton::clicked, this,
+            [this] { Try([this] { ClearUnselected(); }); });
+    connect(m_ui->cmdUndo, &QPushButton::clicked, this, [this] { Try([this] { UndoErase(); }); });
+    connect(m_ui->cmdResetErase, &QPushButton::clicked, this,
+            [this] { Try([this] { ResetErase(); }); });
+}
+
+/// A stroke that there is no memory for ends, so that it is told once.
+template<typename Work>
+void EraseScreen::Try(const Work& work) {
+    if (!WithinMemory(m_desk.Messages, work)) {
+        m_stroking = false;
+        if (m_drawing) {
+            FreeRegion();
+        }
+    }
 }
 
 QString EraseScreen::Instruction() const {
@@ -290,9 +308,9 @@ void EraseScreen::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && (m_region.HasRegion() || m_drawing)) {
         FreeRegion();
     } else if (event->key() == Qt::Key_Delete && m_region.HasRegion()) {
-        ClearSelected();
+        Try([this] { ClearSelected(); });
     } else if (event->matches(QKeySequence::Undo)) {
-        UndoErase();
+        Try([this] { UndoErase(); });
     } else {
         WizardScreen::keyPressEvent(event);
     }

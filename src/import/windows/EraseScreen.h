@@ -45,6 +45,8 @@ private:
     [[nodiscard]] int EraserSize() const;
     [[nodiscard]] AreaOutline::Shape MaskMode() const;
 
+    template<typename Work>
+    void Try(const Work& work);
     void Press(QPointF place);
     void Move(QPointF place, bool dragging);
     void Release(QPointF place);

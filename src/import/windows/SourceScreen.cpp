@@ -15,6 +15,7 @@
 #include "import/PictureOps.h"
 #include "import/windows/ImagePicture.h"
 #include "import/windows/ScannerList.h"
+#include "import/windows/WithinMemory.h"
 #include "import/windows/WizardProgress.h"
 #include "import/windows/ui_SourceScreen.h"
 #include "model/RunTimeError.h"
@@ -73,7 +74,8 @@ void SourceScreen::ConnectOptions() {
         options->addButton(option);
     }
     // Also for the option that is chosen already: the clipboard may hold another image by now.
-    connect(options, &QButtonGroup::buttonClicked, this, &SourceScreen::ChooseSource);
+    connect(options, &QButtonGroup::buttonClicked, this,
+            [this] { WithinMemory(m_desk.Messages, [this] { ChooseSource(); }); });
     connect(m_ui->cmdBrowse, &QPushButton::clicked, this, &SourceScreen::Browse);
     // A name that is longer than the field can be read in full.
     connect(m_ui->txtFileName, &QLineEdit::textChanged, m_ui->txtFileName, &QWidget::setToolTip);
@@ -89,7 +91,8 @@ void SourceScreen::SetUpScanning() {
         m_scanners =
             new ScannerList({*m_desk.Scanners, m_desk.Context, m_desk.Store, m_desk.Messages},
                             *m_ui->cmbScanSource, *m_ui->cmdAcquire, this);
-        connect(m_ui->cmdAcquire, &QPushButton::clicked, this, &SourceScreen::Acquire);
+        connect(m_ui->cmdAcquire, &QPushButton::clicked, this,
+                [this] { WithinMemory(m_desk.Messages, [this] { Acquire(); }); });
     }
 }
 

@@ -16,6 +16,7 @@
 #include "import/windows/MappingScreen.h"
 #include "import/windows/SizeScreen.h"
 #include "import/windows/SourceScreen.h"
+#include "import/windows/WithinMemory.h"
 #include "import/windows/WizardProgress.h"
 #include "import/windows/WizardScreen.h"
 #include "import/windows/ui_frmImportWizard.h"
@@ -77,6 +78,11 @@ void frmImportWizard::AddScreens() {
 }
 
 void frmImportWizard::DisplayScreen(int screen, bool keepPicture) {
+    ShowFrame(screen);
+    m_screens[static_cast<std::size_t>(screen)]->DisplayScreen(keepPicture);
+}
+
+void frmImportWizard::ShowFrame(int screen) {
     WizardScreen& shown = *m_screens[static_cast<std::size_t>(screen)];
     m_ui->lblInstruction->setText(shown.Instruction());
     m_ui->cmdBack->setEnabled(m_flow.CanGoBack());
@@ -84,7 +90,6 @@ void frmImportWizard::DisplayScreen(int screen, bool keepPicture) {
     m_ui->cmdNext->setText(last ? QStringLiteral("&Finish") : QStringLiteral("&Next"));
     ShowReplaceNote();
     m_ui->fraWiz->setCurrentWidget(&shown);
-    shown.DisplayScreen(keepPicture);
 }
 
 void frmImportWizard::ShowReplaceNote() {
@@ -108,16 +113,33 @@ bool frmImportWizard::ValidateScreen() {
     return m_screens[static_cast<std::size_t>(m_flow.CurrentScreen())]->ValidateScreen();
 }
 
-void frmImportWizard::GoOn() {
-    if (ValidateScreen()) {
-        DisplayNextScreen();
+/// Leaves a screen. Where the next one finds no memory for its picture, the one that was left still
+/// has its own and comes back.
+template<typename Step>
+void frmImportWizard::Try(const Step& step) {
+    const ImportFlow flow = m_flow;
+    const SharedPicture travelling = m_work.TheImage;
+    if (!WithinMemory(m_desk.Messages, step)) {
+        m_flow = flow;
+        m_work.TheImage = travelling;
+        ShowFrame(m_flow.CurrentScreen());
     }
 }
 
+void frmImportWizard::GoOn() {
+    Try([this] {
+        if (ValidateScreen()) {
+            DisplayNextScreen();
+        }
+    });
+}
+
 void frmImportWizard::GoBack() {
-    if (const auto change = m_flow.Back(ValidateScreen())) {
-        DisplayScreen(change->Screen, change->KeepPicture);
-    }
+    Try([this] {
+        if (const auto change = m_flow.Back(ValidateScreen())) {
+            DisplayScreen(change->Screen, change->KeepPicture);
+        }
+    });
 }
 
 void frmImportWizard::Finish() {

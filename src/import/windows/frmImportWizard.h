@@ -71,6 +71,9 @@ private:
     void SetupVariables(std::optional<SquareRect> editBox);
     void AddScreens();
     void DisplayScreen(int screen, bool keepPicture);
+    void ShowFrame(int screen);
+    template<typename Step>
+    void Try(const Step& step);
     void DisplayNextScreen();
     void DisplayLastScreen();
     [[nodiscard]] bool ValidateScreen();
