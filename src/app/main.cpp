@@ -12,6 +12,7 @@
 #include "grid/windows/frmDesignGrid.h"
 #include "import/scan/SaneScanner.h"
 #include "print/windows/SystemPrinter.h"
+#include "windowkit/DialogManners.h"
 #include "windowkit/IconFamily.h"
 #include "windowkit/QtUserDoor.h"
 #include "windowkit/Theme.h"
@@ -48,6 +49,7 @@ int Run(int argc, char** argv) {
     QApplication::setDesktopFileName(QStringLiteral("korvanta"));
     QApplication::setWindowIcon(zol::IconFamily::ProgramIcon());
     zol::Theme::Apply(app);
+    zol::DialogManners::Teach(app);
     zol::QtUserDoor user;
     zol::SystemPrinter printers;
     zol::SaneScanner scanners;

@@ -31,6 +31,7 @@ public:
                           const std::string& title) {
         Tell(text, icon, title);
     }
+    /// Cancel if the question is left without an answer, also one of yes and no alone.
     [[nodiscard]] virtual MessageAnswer Ask(const std::string& text, MessageIcon icon,
                                             MessageButtons buttons, const std::string& title) = 0;
 };

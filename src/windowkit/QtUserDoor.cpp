@@ -4,8 +4,10 @@
 #include "windowkit/QtUserDoor.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QFileDialog>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -103,26 +105,45 @@ void LeaveRoomToRead(QMessageBox& box) {
     }
 }
 
+/// A box of two answers that can be left without one: Qt would take the Escape key and the close
+/// button for No, which may be the answer that throws something away.
+class QuestionBox : public QMessageBox {
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->matches(QKeySequence::Cancel)) {
+            done(QMessageBox::Cancel);
+        } else {
+            QMessageBox::keyPressEvent(event);
+        }
+    }
+    void closeEvent(QCloseEvent* event) override {
+        event->accept();
+        done(QMessageBox::Cancel);
+    }
+};
+
+/// What Enter answers: where something may be lost, not what loses it.
+QMessageBox::StandardButton UsualAnswer(const BoxContent& content) {
+    if (content.Buttons == MessageButtons::Ok) {
+        return QMessageBox::Ok;
+    }
+    return content.Buttons == MessageButtons::YesNo && content.Icon == MessageIcon::Exclamation
+               ? QMessageBox::No
+               : QMessageBox::Yes;
+}
+
 MessageAnswer ShowBox(QWidget* parent, const BoxContent& content) {
     const NormalCursor cursor;
-    QMessageBox box(IconOf(content.Icon),
+    QuestionBox box(IconOf(content.Icon),
                     content.Title.isEmpty() ? QStringLiteral("Korvanta") : content.Title,
                     content.Text, ButtonsOf(content.Buttons), parent);
     // File names may hold "<" and "&", which are to be seen as they stand.
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(content.More);
-    box.setDefaultButton(content.Buttons == MessageButtons::Ok ? QMessageBox::Ok
-                                                               : QMessageBox::Yes);
-    switch (content.Buttons) {
-    case MessageButtons::YesNo:
-        box.setEscapeButton(QMessageBox::No);
-        break;
-    case MessageButtons::YesNoCancel:
-        box.setEscapeButton(QMessageBox::Cancel);
-        break;
-    default:
-        box.setEscapeButton(QMessageBox::Ok);
-    }
+    box.setDefaultButton(UsualAnswer(content));
     if (!content.More.isEmpty()) {
         LeaveRoomToRead(box);
     }
@@ -257,7 +278,8 @@ std::optional<fs::path> QtUserDoor::AskSaveFile(const FileChoice& choice) {
         std::error_code error;
         if (!fs::exists(*file, error) ||
             Ask(PathText(file->filename()) + " already exists.  Do you want to replace it?",
-                MessageIcon::Question, MessageButtons::YesNo, choice.Title) == MessageAnswer::Yes) {
+                MessageIcon::Exclamation, MessageButtons::YesNo,
+                choice.Title) == MessageAnswer::Yes) {
             return file;
         }
         present.Folder = file->parent_path();

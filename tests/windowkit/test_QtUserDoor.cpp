@@ -103,8 +103,10 @@ private Q_SLOTS:
     void TitleIsTheProgramsWithoutAnother();
     void QuestionGivesTheButtonThatWasClicked_data();
     void QuestionGivesTheButtonThatWasClicked();
-    void EscapeIsCancelOrNo();
+    void QuestionThatIsLeftHasNoAnswer_data();
+    void QuestionThatIsLeftHasNoAnswer();
     void EnterIsYes();
+    void EnterOnAWarningLosesNothing();
     void AmpersandsAndTagsAreSeenAsTheyStand();
     void BoxIsModalToItsParent();
     void WaitCursorStepsAsideForABox();
@@ -192,14 +194,24 @@ void test_QtUserDoor::QuestionGivesTheButtonThatWasClicked() {
     QCOMPARE(seen.Icon, QMessageBox::Question);
 }
 
-void test_QtUserDoor::EscapeIsCancelOrNo() {
-    DialogDriver driver({Press(Qt::Key_Escape), Press(Qt::Key_Escape)});
+void test_QtUserDoor::QuestionThatIsLeftHasNoAnswer_data() {
+    QTest::addColumn<bool>("byKey");
+    QTest::newRow("Escape") << true;
+    QTest::newRow("close button") << false;
+}
+
+void test_QtUserDoor::QuestionThatIsLeftHasNoAnswer() {
+    QFETCH(bool, byKey);
+    const auto close = [](QDialog& dialog) { dialog.close(); };
+    const DialogDriver::Step leave = byKey ? Press(Qt::Key_Escape) : DialogDriver::Step(close);
+    DialogDriver driver({leave, leave, leave});
     const MessageAnswer three =
         m_user.Ask("?", MessageIcon::Question, MessageButtons::YesNoCancel, {});
     const MessageAnswer two = m_user.Ask("?", MessageIcon::Question, MessageButtons::YesNo, {});
+    m_user.Tell("!", MessageIcon::Information, {});
     QVERIFY(driver.AllDone());
     QVERIFY(three == MessageAnswer::Cancel);
-    QVERIFY(two == MessageAnswer::No);
+    QVERIFY(two == MessageAnswer::Cancel);
 }
 
 void test_QtUserDoor::EnterIsYes() {
@@ -208,6 +220,14 @@ void test_QtUserDoor::EnterIsYes() {
         m_user.Ask("?", MessageIcon::Question, MessageButtons::YesNoCancel, {});
     QVERIFY(driver.AllDone());
     QVERIFY(answer == MessageAnswer::Yes);
+}
+
+void test_QtUserDoor::EnterOnAWarningLosesNothing() {
+    DialogDriver driver({Press(Qt::Key_Return)});
+    const MessageAnswer answer =
+        m_user.Ask("All goes.", MessageIcon::Exclamation, MessageButtons::YesNo, {});
+    QVERIFY(driver.AllDone());
+    QVERIFY(answer == MessageAnswer::No);
 }
 
 void test_QtUserDoor::AmpersandsAndTagsAreSeenAsTheyStand() {
