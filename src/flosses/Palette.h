@@ -128,6 +128,8 @@ public:
     /// Master identity, number and short manufacturer equal; without a master identity the
     /// colours too.
     [[nodiscard]] bool FlossesMatch(int index, const Palette& other, int otherIndex) const;
+    /// The first entry of `other` that FlossesMatch finds for the entry; 0 for none.
+    [[nodiscard]] int FindMatch(int index, const Palette& other) const;
     /// Whether the primary threads are one and the same: colour, master identity, number and short
     /// manufacturer.
     [[nodiscard]] bool IsSameThread(int index, const Palette& other, int otherIndex) const;

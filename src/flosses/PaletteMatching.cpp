@@ -117,6 +117,15 @@ bool Palette::FlossesMatch(int index, const Palette& other, int otherIndex) cons
            (GetFlossMasterID(index) != 0 || GetFlossRGB(index) == other.GetFlossRGB(otherIndex));
 }
 
+int Palette::FindMatch(int index, const Palette& other) const {
+    for (int i = 1; i <= other.GetEntriesCount(); ++i) {
+        if (FlossesMatch(index, other, i)) {
+            return i;
+        }
+    }
+    return 0;
+}
+
 bool Palette::IsSameThread(int index, const Palette& other, int otherIndex) const {
     return HasSameName(index, other, otherIndex) && At(index).RGB == other.At(otherIndex).RGB;
 }
@@ -125,10 +134,8 @@ int Palette::MergePaletteEntrytoTarget(Palette& target, int index) const {
     if (!InRange(index)) {
         return 0;
     }
-    for (int i = 1; i <= target.GetEntriesCount(); ++i) {
-        if (FlossesMatch(index, target, i)) {
-            return i;
-        }
+    if (const int match = FindMatch(index, target); match != 0) {
+        return match;
     }
     std::string symbol = SymbolText(At(index).Symbol);
     if (target.IsSymbolUsed(symbol)) {

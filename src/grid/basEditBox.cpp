@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace zol::basEditBox {
 
@@ -122,6 +123,34 @@ void WriteBack(const Pattern& content, Pattern& target, int left, int top) {
 void PutBack(const Pattern& content, Pattern& pattern, int left, int top) {
     content.CopySectionToTarget(pattern, left, top, 1, 1, content.GetPatternWidth(),
                                 content.GetPatternHeight(), KeepFlosses);
+}
+
+void MergeUsedFlosses(const Pattern& content, Palette& palette) {
+    const Palette& flosses = content.GetPalette();
+    std::vector<bool> merged(static_cast<std::size_t>(flosses.GetEntriesCount()) + 1, false);
+    const auto merge = [&](int floss) {
+        if (floss >= 1 && floss <= flosses.GetEntriesCount() &&
+            !merged[static_cast<std::size_t>(floss)]) {
+            merged[static_cast<std::size_t>(floss)] = true;
+            flosses.MergePaletteEntrytoTarget(palette, floss);
+        }
+    };
+    // In the order in which they are copied: what a floss matches depends on what came before it.
+    for (int x = 1; x <= content.GetPatternWidth(); ++x) {
+        for (int y = 1; y <= content.GetPatternHeight(); ++y) {
+            for (int index = 0; index < content.GetStitchCount(x, y); ++index) {
+                if (content.GetStitchType(x, y, index) != NoStitch) {
+                    merge(content.GetStitchColorIndex(x, y, index));
+                }
+            }
+        }
+    }
+    for (int index = 1; index <= content.GetBackStitchCount(); ++index) {
+        if (content.IsLineInRect(index, 1, 1, content.GetPatternWidth(),
+                                 content.GetPatternHeight())) {
+            merge(content.GetBackStitchLine(index).PaletteIndex);
+        }
+    }
 }
 
 void TransformArea(Pattern& pattern, const SquareRect& rect, TransformOperation operation) {

@@ -49,6 +49,10 @@ void WriteBack(const Pattern& content, Pattern& target, int left, int top);
 /// their numbers, and so their blends.
 void PutBack(const Pattern& content, Pattern& pattern, int left, int top);
 
+/// Merges the flosses that a block uses into a palette, as WriteBack does but beyond what a palette
+/// may hold: the palette's count then tells how many flosses it takes.
+void MergeUsedFlosses(const Pattern& content, Palette& palette);
+
 /// Lifts the rectangle, erases it, turns the content and writes it back on the same centre.
 void TransformArea(Pattern& pattern, const SquareRect& rect, TransformOperation operation);
 

@@ -54,6 +54,10 @@ private:
         if (m_override == KeepFlosses && m_source.IsSameThread(floss, m_target, floss)) {
             return floss;
         }
+        if (m_target.GetEntriesCount() >= Palette::MostFlosses &&
+            m_source.FindMatch(floss, m_target) == 0) {
+            return m_target.GetClosest(m_source.GetEntry(floss).RGB, Palette::NoExclusion);
+        }
         const int merged = m_source.MergePaletteEntrytoTarget(m_target, floss);
         return merged < NoFloss ? merged : 0;
     }

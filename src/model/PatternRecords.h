@@ -46,7 +46,8 @@ struct PatternNote {
 
 /// What copied stitches and lines are sewn with in the target, beside one floss for all of them.
 enum CopiedFlosses : std::int16_t {
-    /// In the flosses that they had, which are merged into the target's palette.
+    /// In the flosses that they had, which are merged into the target's palette. A full palette
+    /// grows no further: a floss that it lacks becomes the nearest one.
     MergeFlosses = -1,
     /// For what was lifted from the target itself: a floss keeps its number, and with it its blend,
     /// where the target's entry of that number is still the same thread; else it is merged.

@@ -16,6 +16,7 @@ private Q_SLOTS:
     void CopyToThatFailsIsTold();
     void PasteFromLetsAFileFloat();
     void PasteFromThatFailsIsTold();
+    void PasteWithoutRoomForItsFlossesIsRefused();
     void CancelledDialogsChangeNothing();
     void SavingWritesWhatFloats();
     void ClosingAsksAboutWhatFloats();
@@ -100,6 +101,28 @@ void EditBoxFilesTest::PasteFromThatFailsIsTold() {
             program.User.told[0].text.find(" loading "));
     QVERIFY2(Box(program).IsActive(), "what was selected stays");
     QCOMPARE(program.Design().GetStitchPaletteIndex(4, 4), 1);
+}
+
+void EditBoxFilesTest::PasteWithoutRoomForItsFlossesIsRefused() {
+    OpenedProgram program;
+    Prepare(program);
+    Palette& flosses = program.Design().GetPalette();
+    while (flosses.GetEntriesCount() < Palette::MostFlosses) {
+        flosses.AddPaletteEntry(0x123456U, std::to_string(flosses.GetEntriesCount()), "Own",
+                                "CUSTOM", "o", 2, 1, 0, 0, 0, "My Colors");
+    }
+    program.Choose("mnuFlipHorizontal");
+    program.User.files = {program.Home / "app" / "Patterns" / "robin.pat"};
+    program.Choose("mnuEditPasteFrom");
+    QCOMPARE(program.User.told.size(), std::size_t{1});
+    const std::string& told = program.User.told[0].text;
+    QVERIFY2(told.starts_with("With these stitches the palette would need ") &&
+                 told.ends_with(" flosses. A palette holds at most 254."),
+             told.c_str());
+    QVERIFY2(Box(program).HasPattern(), "what floats goes on floating");
+    QCOMPARE(Box(program).GetEditBoxRect().Left, 4);
+    QCOMPARE(program.Command("mnuEditUndo").text(), QStringLiteral("Undo Flip"));
+    QCOMPARE(flosses.GetEntriesCount(), int{Palette::MostFlosses});
 }
 
 void EditBoxFilesTest::CancelledDialogsChangeNothing() {

@@ -99,5 +99,23 @@ TEST_F(PatternCopy, TargetMayBeTheSource) {
     EXPECT_EQ(source.GetPalette().GetEntriesCount(), 3);
 }
 
+TEST_F(PatternCopy, AFullPaletteTakesTheNearestFlossAndGrowsNoFurther) {
+    Palette& full = target.GetPalette();
+    for (int i = 1; i < Palette::MostFlosses; ++i) {
+        full.AddPaletteEntry(MakeColour(static_cast<unsigned>(i), 90, 0), std::to_string(i), "full",
+                             "Y", "a", 2, 1, 0, 1000 + i, 0, "Y");
+    }
+    for (int i = 1; i <= 3; ++i) {
+        source.SetStitch(i, 1, StitchWhole, i, 0);
+    }
+    source.SetBackstitchLine(Line(1, 1, 1, 2, 2, 1, 2));
+    source.CopySectionToTarget(target, 1, 1, 1, 1, 10, 8, MergeFlosses);
+    EXPECT_EQ(full.GetEntriesCount(), 254);
+    EXPECT_EQ(target.GetStitchColorIndex(1, 1, 0), 254) << "there was room for one";
+    EXPECT_EQ(target.GetStitchColorIndex(2, 1, 0), 254) << "nearer than any of the target's own";
+    EXPECT_EQ(target.GetStitchColorIndex(3, 1, 0), 254);
+    EXPECT_EQ(target.GetBackStitchLine(1).PaletteIndex, 254);
+}
+
 } // namespace
 } // namespace zol

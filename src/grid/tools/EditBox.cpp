@@ -107,6 +107,9 @@ void EditBox::TakeSelection(const SquareRect& rect) {
 
 void EditBox::PickUpSelection(const Pattern& source, int column, int row,
                               std::optional<int> recolor) {
+    if (!recolor && !HasRoomFor(source)) {
+        return;
+    }
     DropEditBox(false);
     const int width = source.GetPatternWidth();
     const int height = source.GetPatternHeight();

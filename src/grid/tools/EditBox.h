@@ -58,7 +58,8 @@ public:
     /// Drops the old box and puts one round all that is stitched; none round an empty design.
     void SelectAll();
     /// Drops the old box; a new one holds a copy of `source`, all of it in one floss of the design
-    /// if that is given. It is written back by the next drop. For custom stitches and inserts.
+    /// if that is given. It is written back by the next drop. Nothing happens without room for its
+    /// flosses, which is told. For custom stitches and inserts.
     void PickUpSelection(const Pattern& source, int column, int row,
                          std::optional<int> recolor = std::nullopt);
     /// The design has changed below a selection: what the box would move is picked up anew.
@@ -90,11 +91,17 @@ public:
     void EraseEditBox();
     /// One step "Flip" or "Rotate". What was selected is erased below the box.
     void TransformEditBox(TransformOperation operation);
+    /// Whether the palette has room for a block's flosses beside those of what floats; where it has
+    /// not, that is told.
+    [[nodiscard]] bool HasRoomFor(const Pattern& block) const;
+    [[nodiscard]] bool HasRoomForClipboard() const {
+        return m_clipboard != nullptr && HasRoomFor(*m_clipboard);
+    }
     /// One step "Paste". The draw mode must let the box be seen and moved.
     void PasteClipboard();
     /// Drops the old box and lets a block float in the upper left of what shows. Where the block is
     /// larger than the design the user is asked whether the design shall grow. The block takes the
-    /// design's cloth counts.
+    /// design's cloth counts. Nothing happens without room for its flosses.
     void PastePattern(std::shared_ptr<Pattern> block, const std::string& label);
     /// The content, for a file of its own: it gets the design's header. Null without a finished
     /// box.
@@ -113,6 +120,7 @@ private:
     void WriteBack();
     [[nodiscard]] UndoStep BeginStep(const std::string& label);
     void Float(std::shared_ptr<Pattern> content, const SquareRect& rect);
+    [[nodiscard]] int FlossesWith(const Pattern& block) const;
     [[nodiscard]] bool GrowFor(const Pattern& block);
     void Forget();
     void Changed();

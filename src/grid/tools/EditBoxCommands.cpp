@@ -76,6 +76,30 @@ void EditBox::TransformEditBox(TransformOperation operation) {
     Changed();
 }
 
+int EditBox::FlossesWith(const Pattern& block) const {
+    Palette flosses = m_desk.Design().GetPalette();
+    if (m_hasPattern && !m_inOwnFlosses) {
+        basEditBox::MergeUsedFlosses(*m_content, flosses);
+    }
+    basEditBox::MergeUsedFlosses(block, flosses);
+    return flosses.GetEntriesCount();
+}
+
+bool EditBox::HasRoomFor(const Pattern& block) const {
+    const Pattern& design = m_desk.Design();
+    const int needed = FlossesWith(block);
+    if (needed <= std::max<int>(Palette::MostFlosses, design.GetPalette().GetEntriesCount())) {
+        return true;
+    }
+    if (MessageDoor* messages = design.Context().Messages) {
+        messages->TellMore("With these stitches the palette would need " + std::to_string(needed) +
+                               " flosses. A palette holds at most " +
+                               std::to_string(Palette::MostFlosses) + ".",
+                           "The pattern stays as it is.", MessageIcon::Exclamation, {});
+    }
+    return false;
+}
+
 void EditBox::PasteClipboard() {
     if (m_clipboard != nullptr) {
         PastePattern(m_clipboard, "Paste");
@@ -83,6 +107,9 @@ void EditBox::PasteClipboard() {
 }
 
 void EditBox::PastePattern(std::shared_ptr<Pattern> block, const std::string& label) {
+    if (!HasRoomFor(*block)) {
+        return;
+    }
     CancelDrag();
     // What floated before lands before the copy for undo is taken, which it is no part of.
     DropEditBox(false);

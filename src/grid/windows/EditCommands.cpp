@@ -83,16 +83,19 @@ void EditCommands::SelectAll() {
 }
 
 void EditCommands::Paste() {
-    if (m_box.IsClipboardFilled()) {
+    // Asked first: a change of the draw mode lands what floats.
+    if (m_box.HasRoomForClipboard()) {
         m_modes.SetDrawMode(DrawEditBox);
         m_box.PasteClipboard();
     }
 }
 
 void EditCommands::LayPattern(std::shared_ptr<Pattern> block, const std::string& label) {
-    m_modes.SetDrawMode(DrawEditBox);
-    m_box.PastePattern(std::move(block), label);
-    m_done();
+    if (m_box.HasRoomFor(*block)) {
+        m_modes.SetDrawMode(DrawEditBox);
+        m_box.PastePattern(std::move(block), label);
+        m_done();
+    }
 }
 
 // --- Files --------------------------------------------------------------------------------

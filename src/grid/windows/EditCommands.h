@@ -38,7 +38,8 @@ public:
 
     /// What can be done with the box and the clipboard as they are now.
     void UpdateEditMenus();
-    /// Lets a block from elsewhere float over the design, in draw mode 3, as one undo step.
+    /// Lets a block from elsewhere float over the design, in draw mode 3, as one undo step;
+    /// nothing, which is told, without room for its flosses.
     void LayPattern(std::shared_ptr<Pattern> block, const std::string& label);
 
 private:
