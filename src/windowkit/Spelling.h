@@ -15,7 +15,8 @@ struct ProgramContext;
 /// elsewhere the words as they are.
 [[nodiscard]] QString Spelled(QString words, const ProgramContext& context);
 
-/// The same for everything that a window and its parts say. To be called once all is written.
+/// The same for everything that a window and its parts say. To be called before names of flosses,
+/// catalogues or colours are filled in: those are the user's, and stay as they are spelled.
 void Spell(QWidget& window, const ProgramContext& context);
 
 } // namespace zol

@@ -17,6 +17,10 @@ frmAddPalette::frmAddPalette(Colour mixed, bool maySave, const ProgramContext& c
       m_ui(std::make_unique<Ui::frmAddPalette>()),
       m_mixed(mixed) {
     m_ui->setupUi(this);
+    // The one with quotation marks is the name of a catalogue.
+    const QString saving = m_ui->chkMyColors->text();
+    Spell(*this, context);
+    m_ui->chkMyColors->setText(saving);
     QPushButton* add = m_ui->buttonBox->button(QDialogButtonBox::Ok);
     add->setObjectName(QStringLiteral("cmdOK"));
     add->setText(QStringLiteral("Add"));
@@ -27,7 +31,6 @@ frmAddPalette::frmAddPalette(Colour mixed, bool maySave, const ProgramContext& c
     m_ui->txtDescription->setText(QStringLiteral("<Enter Description>"));
     m_ui->txtDescription->selectAll();
     m_ui->txtID->setFocus();
-    Spell(*this, context);
     adjustSize();
     RememberSize(*this, store);
 }

@@ -18,17 +18,17 @@ frmDeleteColor::frmDeleteColor(const Palette& palette, const RemovalQuestion& qu
     : QDialog(parent),
       m_ui(std::make_unique<Ui::frmDeleteColor>()) {
     m_ui->setupUi(this);
+    Spell(*this, palette.Context());
     QPushButton* remove = m_ui->buttonBox->button(QDialogButtonBox::Ok);
     remove->setObjectName(QStringLiteral("cmdOK"));
     remove->setText(QStringLiteral("Remove"));
     m_ui->buttonBox->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));
-    m_ui->lblStitches->setText(QString::fromStdString(question.Text));
+    m_ui->lblStitches->setText(Spelled(QString::fromStdString(question.Text), palette.Context()));
     m_ui->picDeleteColor->SetColor(palette.GetFlossRGB(question.Entry));
     m_ui->lblDeleteDesc->setText(FlossText::LongDescription(palette, question.Entry));
     m_ui->picReplaceColor->SetColor(palette.GetFlossRGB(question.Closest));
     m_ui->lblReplaceDesc->setText(FlossText::LongDescription(palette, question.Closest));
     m_ui->optReplaceStitches->setFocus();
-    Spell(*this, palette.Context());
     adjustSize();
     RememberSize(*this, store);
 }

@@ -31,13 +31,16 @@ frmPalette::frmPalette(const PaletteDesk& desk, QWidget* parent)
       m_editor({desk.Design, desk.Messages, m_windows, desk.EditBox, desk.BeforeFirstChange},
                desk.SelectedFloss) {
     m_ui->setupUi(this);
+    FillOwnLists();
+    Spell(*this, desk.Design.Context());
     m_windows.SetAvailable(m_editor.Available());
     m_ui->buttonBox->button(QDialogButtonBox::Close)->setObjectName(QStringLiteral("cmdOK"));
     m_ui->paletteArea->verticalScrollBar()->setObjectName(QStringLiteral("vsbPalette"));
     m_ui->chkEditBoxOnly->setEnabled(m_editor.HasEditBox());
     m_ui->flossInfo->SetEditor(m_editor, m_store, m_messages, m_whole);
-    FillLists(desk.Catalogue);
-    Spell(*this, desk.Design.Context());
+    m_editor.Available().Show(desk.Catalogue);
+    m_ui->picAvailable->SetFlosses(m_editor.Available());
+    ShowCatalogues();
     ConnectAvailable();
     ConnectPalette();
     ConnectDragging();
@@ -49,7 +52,7 @@ frmPalette::frmPalette(const PaletteDesk& desk, QWidget* parent)
 
 frmPalette::~frmPalette() = default;
 
-void frmPalette::FillLists(const std::string& catalogue) {
+void frmPalette::FillOwnLists() {
     for (const char* style : {"Numbers & Descriptions", "Numbers & Colors", "Colors Only"}) {
         m_ui->cmbListStyle->addItem(QString::fromLatin1(style));
     }
@@ -58,9 +61,6 @@ void frmPalette::FillLists(const std::string& catalogue) {
     m_ui->cmbSortBy->addItem(QStringLiteral("Description"), 2);
     FillCombo(*m_ui->cmbSortPaletteBy, OptionLists::SortOrders("Color"));
     SetCombo(*m_ui->cmbSortPaletteBy, m_editor.Flosses().GetSortOrder());
-    m_editor.Available().Show(catalogue);
-    m_ui->picAvailable->SetFlosses(m_editor.Available());
-    ShowCatalogues();
 }
 
 void frmPalette::ShowCatalogues() {

@@ -45,7 +45,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void FillLists(const std::string& catalogue);
+    void FillOwnLists();
     void ConnectAvailable();
     void ConnectPalette();
     void ConnectDragging();

@@ -20,6 +20,7 @@ frmReplaceColor::frmReplaceColor(const Palette& palette, const AvailableFlosses&
     : QDialog(parent),
       m_ui(std::make_unique<Ui::frmReplaceColor>()) {
     m_ui->setupUi(this);
+    Spell(*this, palette.Context());
     QPushButton* replace = m_ui->buttonBox->button(QDialogButtonBox::Ok);
     replace->setObjectName(QStringLiteral("cmdOK"));
     replace->setText(QStringLiteral("Replace"));
@@ -27,11 +28,12 @@ frmReplaceColor::frmReplaceColor(const Palette& palette, const AvailableFlosses&
     m_ui->lblReplace->setText(QStringLiteral("Replace ") +
                               FlossText::LongDescription(palette, question.Entry) +
                               QStringLiteral(" with"));
+    m_ui->lblAvailableColor->setText(
+        Spelled(QStringLiteral("No available color is selected"), palette.Context()));
     LoadImageList(palette, question.Entry);
     ShowAvailable(available, question.AvailableRow);
     connect(m_ui->optReplacewith0, &QRadioButton::toggled, this, &frmReplaceColor::EnableParts);
     connect(m_ui->imgPaletteColors, &QListWidget::itemDoubleClicked, this, &QDialog::accept);
-    Spell(*this, palette.Context());
     EnableParts();
     adjustSize();
     RememberSize(*this, store);
@@ -57,11 +59,10 @@ void frmReplaceColor::LoadImageList(const Palette& palette, int except) {
 }
 
 void frmReplaceColor::ShowAvailable(const AvailableFlosses& available, int row) {
-    const FlossLook look = available.LookOf(row);
     m_ui->optReplacewith1->setEnabled(row > 0);
-    m_ui->lblAvailableColor->setText(row > 0 ? QString::fromStdString(look.Description)
-                                             : QStringLiteral("No available color is selected"));
     if (row > 0) {
+        const FlossLook look = available.LookOf(row);
+        m_ui->lblAvailableColor->setText(QString::fromStdString(look.Description));
         m_ui->picColor->SetColor(look.RGB);
         m_ui->optReplacewith1->setChecked(!m_ui->optReplacewith0->isChecked());
     }

@@ -19,6 +19,7 @@ frmSymbols::frmSymbols(const Palette& palette, int entry, const std::optional<Fl
       m_palette(palette),
       m_choice(palette, entry, messages) {
     m_ui->setupUi(this);
+    Spell(*this, palette.Context());
     m_ui->buttonBox->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
     m_ui->buttonBox->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));
     m_ui->picGrid->SetChoice(m_choice, palette);
@@ -32,7 +33,6 @@ frmSymbols::frmSymbols(const Palette& palette, int entry, const std::optional<Fl
     connect(m_ui->picGrid, &SymbolGrid::Taken, this, &QDialog::accept);
     ShowChoice();
     m_ui->picGrid->setFocus();
-    Spell(*this, palette.Context());
     adjustSize();
     RememberSize(*this, store);
 }

@@ -11,6 +11,7 @@
 #include <QScreen>
 #include <QTabWidget>
 
+#include "flosses/editing/MyColors.h"
 #include "flosses/windows/ColorSample.h"
 #include "flosses/windows/PaletteWindow.h"
 #include "flosses/windows/SymbolGrid.h"
@@ -53,6 +54,9 @@ private Q_SLOTS:
     void FlossIsCreatedAndSaved();
     void SavingIsHiddenWhereItCannotBe();
     void WindowComesBackInItsSize();
+    void NamesStayAsTheyAreSpelled();
+    void QuestionsNameFlossesAsTheyAreSpelled();
+    void MyColorsIsAName();
 
 private:
     static void ShowTab(PaletteWindow& test, int tab) {
@@ -264,6 +268,55 @@ void FlossWindowsTest::WindowComesBackInItsSize() {
     PaletteDesk desk{*test.Design, test.User, test.Store, "dmc.col", 1};
     test.Window = std::make_unique<frmPalette>(desk);
     QCOMPARE(test.Window->size(), left.boundedTo(test.Window->screen()->availableSize()));
+}
+
+void FlossWindowsTest::NamesStayAsTheyAreSpelled() {
+    PaletteWindow test(std::nullopt, true);
+    QVERIFY(MyColors::Save(test.Context, {0, "M1", "True Color", true}, {}));
+    ColorLists::SaveNonRepColors(test.Store, {{"Color of the sea", MakeColour(1, 2, 3)}});
+    PaletteDesk desk{*test.Design, test.User, test.Store, "my colors.col", 1};
+    test.Window = std::make_unique<frmPalette>(desk);
+    QVERIFY(test.Show());
+    QCOMPARE(test.Find<QComboBox>("cmbCategory").currentText(), QStringLiteral("My Colors"));
+    ShowTab(test, 2);
+    test.Choose("cmbNonRepColors", -1);
+    QCOMPARE(test.Find<QComboBox>("cmbNonRepColors").currentText(),
+             QStringLiteral("Color of the sea"));
+    QCOMPARE(test.Flosses().GetNonRepDesc(1), std::string("Color of the sea"));
+}
+
+void FlossWindowsTest::QuestionsNameFlossesAsTheyAreSpelled() {
+    PaletteWindow test(std::nullopt, true);
+    const QString name = QStringLiteral("R1 - True Color");
+    test.Flosses().SetFlossDesc(1, "True Color");
+    QVERIFY(test.Show());
+    InNextWindow("frmReplaceColor", [&](QDialog& window) {
+        QCOMPARE(PartOf<QLabel>(window, "lblReplace").text(),
+                 QStringLiteral("Replace ") + name + QStringLiteral(" with"));
+        QCOMPARE(window.windowTitle(), QStringLiteral("Replace Colour"));
+        ClickIn(window, "cmdCancel");
+    });
+    test.Click("cmdReplaceColor");
+    InNextWindow("frmDeleteColor", [&](QDialog& window) {
+        QCOMPARE(PartOf<QLabel>(window, "lblDeleteDesc").text(), name);
+        QCOMPARE(PartOf<QLabel>(window, "lblStitches").text(),
+                 QStringLiteral("There are currently 2 stitches of this colour in your pattern."));
+        ClickIn(window, "cmdCancel");
+    });
+    test.Click("cmdRemoveColor");
+    ShowTab(test, 1);
+    InNextWindow("frmSymbols", [&](QDialog& window) {
+        QCOMPARE(PartOf<QLabel>(window, "lblFlossDesc").text(), name);
+        ClickIn(window, "cmdCancel");
+    });
+    test.Click("cmdChangeSymbol");
+}
+
+void FlossWindowsTest::MyColorsIsAName() {
+    PaletteWindow test(std::nullopt, true);
+    frmAddPalette window(0, true, test.Context, test.Store);
+    QCOMPARE(PartOf<QCheckBox>(window, "chkMyColors").text().remove(QLatin1Char('&')),
+             QStringLiteral("Save to \"My Colors\""));
 }
 
 } // namespace zol::test
