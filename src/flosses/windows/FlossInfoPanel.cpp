@@ -10,7 +10,6 @@
 #include "flosses/windows/frmColorList.h"
 #include "flosses/windows/ui_FlossInfoPanel.h"
 #include "grid/painting/SymbolText.h"
-#include "windowkit/Spelling.h"
 
 namespace zol {
 
@@ -173,8 +172,7 @@ void FlossInfoPanel::SetNonRep(int line) {
 }
 
 void FlossInfoPanel::CustomizeNonRep() {
-    frmColorList window(*m_store, *m_messages, this);
-    Spell(window, m_editor->Flosses().Context());
+    frmColorList window(*m_store, *m_messages, m_editor->Flosses().Context(), this);
     window.exec();
     LoadNonRepColors(*m_ui->cmbNonRepColors, *m_store, true,
                      m_editor->Flosses().GetNonRepColor(m_editor->SelectedFloss()));

@@ -29,9 +29,9 @@ std::optional<CustomFloss> PaletteWindows::AskCustomFloss(bool maySave) {
     const ProgramContext& context = m_desk.Flosses.Context();
     const QString title = QString::fromStdString("Create Custom " + context.ColorWord());
     const int row = m_available->Selected();
-    const int mixed =
-        frmColors::CreateCustomColor(title, row > 0 ? m_available->Rows().GetFlossRGB(row) : white,
-                                     m_desk.Parent, {&m_desk.Store, &m_available->Rows()});
+    const int mixed = frmColors::CreateCustomColor(
+        title, row > 0 ? m_available->Rows().GetFlossRGB(row) : white, m_desk.Parent,
+        {&m_desk.Store, &m_available->Rows(), &context});
     if (mixed < 0) {
         return std::nullopt;
     }

@@ -12,16 +12,20 @@
 #include "flosses/windows/frmColorListItem.h"
 #include "flosses/windows/ui_frmColorList.h"
 #include "windowkit/DialogSize.h"
+#include "windowkit/Spelling.h"
 
 namespace zol {
 
-frmColorList::frmColorList(SettingsDoor& store, MessageDoor& messages, QWidget* parent)
+frmColorList::frmColorList(SettingsDoor& store, MessageDoor& messages,
+                           const ProgramContext& context, QWidget* parent)
     : QDialog(parent),
       m_ui(std::make_unique<Ui::frmColorList>()),
       m_store(store),
       m_messages(messages),
+      m_context(context),
       m_lines(ColorLists::LoadNonRepColors(store)) {
     m_ui->setupUi(this);
+    Spell(*this, context);
     m_ui->buttonBox->button(QDialogButtonBox::Close)->setObjectName(QStringLiteral("cmdClose"));
     m_ui->picList->verticalScrollBar()->setObjectName(QStringLiteral("vsbList"));
     connect(m_ui->cmdAdd, &QPushButton::clicked, this, &frmColorList::Add);
@@ -48,7 +52,7 @@ void frmColorList::ShowList(int selected) {
 
 std::optional<ColorLists::NamedColor>
 frmColorList::AskLine(const std::optional<ColorLists::NamedColor>& line) {
-    frmColorListItem dialog(line, m_messages, this);
+    frmColorListItem dialog(line, m_messages, m_context, this);
     return dialog.exec() == Accepted ? std::optional(dialog.Line()) : std::nullopt;
 }
 

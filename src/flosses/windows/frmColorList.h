@@ -9,6 +9,7 @@
 #include <optional>
 #include <vector>
 
+#include "model/ProgramContext.h"
 #include "settings/ColorLists.h"
 
 namespace Ui {
@@ -22,7 +23,8 @@ class frmColorList : public QDialog {
     Q_OBJECT
 
 public:
-    frmColorList(SettingsDoor& store, MessageDoor& messages, QWidget* parent = nullptr);
+    frmColorList(SettingsDoor& store, MessageDoor& messages, const ProgramContext& context,
+                 QWidget* parent = nullptr);
     ~frmColorList() override;
 
     void done(int result) override;
@@ -39,6 +41,7 @@ private:
     std::unique_ptr<Ui::frmColorList> m_ui;
     SettingsDoor& m_store;
     MessageDoor& m_messages;
+    const ProgramContext& m_context;
     std::vector<ColorLists::NamedColor> m_lines;
 };
 

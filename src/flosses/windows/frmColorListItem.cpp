@@ -7,15 +7,18 @@
 
 #include "flosses/windows/ColorDialog.h"
 #include "flosses/windows/ui_frmColorListItem.h"
+#include "windowkit/Spelling.h"
 
 namespace zol {
 
 frmColorListItem::frmColorListItem(const std::optional<ColorLists::NamedColor>& line,
-                                   MessageDoor& messages, QWidget* parent)
+                                   MessageDoor& messages, const ProgramContext& context,
+                                   QWidget* parent)
     : QDialog(parent),
       m_ui(std::make_unique<Ui::frmColorListItem>()),
       m_messages(messages) {
     m_ui->setupUi(this);
+    Spell(*this, context);
     QPushButton* ok = m_ui->buttonBox->button(QDialogButtonBox::Ok);
     ok->setObjectName(QStringLiteral("cmdOK"));
     m_ui->buttonBox->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));

@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 
+#include "model/ProgramContext.h"
 #include "settings/ColorLists.h"
 
 namespace Ui {
@@ -23,7 +24,7 @@ class frmColorListItem : public QDialog {
 public:
     /// With a line: mode "CHANGE", which begins with it; else mode "ADD", which begins empty.
     frmColorListItem(const std::optional<ColorLists::NamedColor>& line, MessageDoor& messages,
-                     QWidget* parent = nullptr);
+                     const ProgramContext& context, QWidget* parent = nullptr);
     ~frmColorListItem() override;
 
     [[nodiscard]] ColorLists::NamedColor Line() const;

@@ -14,6 +14,7 @@
 #include "model/Rounding.h"
 #include "windowkit/DialogSize.h"
 #include "windowkit/NumericFilter.h"
+#include "windowkit/Spelling.h"
 
 namespace zol {
 
@@ -42,6 +43,9 @@ frmColors::frmColors(const QString& title, Colour start, const ColorMixerDesk& d
       m_ui(std::make_unique<Ui::frmColors>()),
       m_itself(start) {
     m_ui->setupUi(this);
+    if (desk.Context != nullptr) {
+        Spell(*this, *desk.Context);
+    }
     setWindowTitle(title);
     m_ui->buttonBox->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdOK"));
     m_ui->buttonBox->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));

@@ -21,11 +21,13 @@ namespace zol {
 class AvailColors;
 class ColorField;
 class SettingsDoor;
+struct ProgramContext;
 
-/// What the colour mixer is given by its caller; both may be missing.
+/// What the colour mixer is given by its caller; any of it may be missing.
 struct ColorMixerDesk {
-    SettingsDoor* Store = nullptr;        ///< remembers the window's size
-    const AvailColors* Threads = nullptr; ///< a catalogue whose colours are offered
+    SettingsDoor* Store = nullptr;           ///< remembers the window's size
+    const AvailColors* Threads = nullptr;    ///< a catalogue whose colours are offered
+    const ProgramContext* Context = nullptr; ///< how its words are spelled; the title is given so
 };
 
 /// The colour mixer: a colour is taken from a field, made darker or brighter, or typed as three

@@ -56,6 +56,7 @@ private Q_SLOTS:
     void ClothColoursAreSevenWithTextAndColour();
     void EditsOfALineAreWrittenBack();
     void EachListHasItsCaption();
+    void WordsAreBritishAndNamesStay();
 
 private:
     [[nodiscard]] std::string Stored(const char* section, const char* name) const {
@@ -65,6 +66,7 @@ private:
     QTemporaryDir m_folder;
     std::unique_ptr<INIFuncs> m_store;
     ScriptedUser m_user;
+    ProgramContext m_context;
 };
 
 void ColorListWindowsTest::init() {
@@ -76,7 +78,7 @@ void ColorListWindowsTest::init() {
 }
 
 void ColorListWindowsTest::AnEmptyListHasNothingToDelete() {
-    frmColorList list(*m_store, m_user);
+    frmColorList list(*m_store, m_user, m_context);
     list.show();
     QCOMPARE(list.windowTitle(), QStringLiteral("Non-Representative Floss Colors"));
     QCOMPARE(PartOf<QListWidget>(list, "picList").count(), 0);
@@ -86,7 +88,7 @@ void ColorListWindowsTest::AnEmptyListHasNothingToDelete() {
 }
 
 void ColorListWindowsTest::AddedLinesAreWrittenWhenTheWindowCloses() {
-    frmColorList list(*m_store, m_user);
+    frmColorList list(*m_store, m_user, m_context);
     list.show();
     DialogDriver user({[](QDialog& item) {
                            QVERIFY(PartOf<QLineEdit>(item, "txtDesc").text().isEmpty());
@@ -109,7 +111,7 @@ void ColorListWindowsTest::AddedLinesAreWrittenWhenTheWindowCloses() {
 }
 
 void ColorListWindowsTest::ALineWithoutADescriptionIsRefused() {
-    frmColorList list(*m_store, m_user);
+    frmColorList list(*m_store, m_user, m_context);
     list.show();
     DialogDriver user({[this](QDialog& item) {
         for (const char* text : {"", "   "}) {
@@ -132,7 +134,7 @@ void ColorListWindowsTest::ALineWithoutADescriptionIsRefused() {
 
 void ColorListWindowsTest::AChangedLineShowsWhatItWas() {
     ColorLists::SaveNonRepColors(*m_store, {{"One", 1}, {"Two", 0x0000FF}});
-    frmColorList list(*m_store, m_user);
+    frmColorList list(*m_store, m_user, m_context);
     list.show();
     auto& lines = PartOf<QListWidget>(list, "picList");
     QTest::keyClick(&lines, Qt::Key_Down);
@@ -151,7 +153,7 @@ void ColorListWindowsTest::AChangedLineShowsWhatItWas() {
 
 void ColorListWindowsTest::DeletedLinesAreGone() {
     ColorLists::SaveNonRepColors(*m_store, {{"One", 1}, {"Two", 2}, {"Three", 3}});
-    frmColorList list(*m_store, m_user);
+    frmColorList list(*m_store, m_user, m_context);
     list.show();
     auto& lines = PartOf<QListWidget>(list, "picList");
     QTest::keyClick(&lines, Qt::Key_Down);
@@ -169,7 +171,7 @@ void ColorListWindowsTest::BlackEndsTheListAndIsNotStored() {
     QCOMPARE(combo.count(), 1);
     QCOMPARE(combo.currentText(), QStringLiteral("Black"));
     QCOMPARE(combo.currentData().toUInt(), 0U);
-    frmColorList list(*m_store, m_user);
+    frmColorList list(*m_store, m_user, m_context);
     QCOMPARE(PartOf<QListWidget>(list, "picList").count(), 0);
 }
 
@@ -237,6 +239,24 @@ void ColorListWindowsTest::EachListHasItsCaption() {
     QCOMPARE(british.windowTitle(), QStringLiteral("Customise Cloth Colours"));
     QCOMPARE(PartOf<QPushButton>(british, "cmdReMix").text().remove(QLatin1Char('&')),
              QStringLiteral("Change Colour"));
+}
+
+void ColorListWindowsTest::WordsAreBritishAndNamesStay() {
+    ColorLists::SaveNonRepColors(*m_store, {{"Color of the sea", 1}});
+    ProgramContext inBritain;
+    inBritain.BritishSpelling = true;
+    frmColorList list(*m_store, m_user, inBritain);
+    list.show();
+    QCOMPARE(list.windowTitle(), QStringLiteral("Non-Representative Floss Colours"));
+    QCOMPARE(PartOf<QListWidget>(list, "picList").item(0)->text(),
+             QStringLiteral("Color of the sea"));
+    DialogDriver user({[](QDialog& item) {
+        QCOMPARE(item.windowTitle(), QStringLiteral("Colour"));
+        QCOMPARE(PartOf<QLineEdit>(item, "txtDesc").text(), QStringLiteral("Color of the sea"));
+        Click(item, "cmdCancel");
+    }});
+    Click(list, "cmdChange");
+    QVERIFY(user.AllDone());
 }
 
 } // namespace zol::test

@@ -59,6 +59,7 @@ private Q_SLOTS:
     void TypingMakesANewColourItself();
     void ThreadsAreOfferedOnlyFromACatalogue();
     void CreateCustomColorGivesTheColourOrMinusOne();
+    void WordsAreBritishWhereTheProgramIs();
 };
 
 void frmColorsTest::BeginsWithTheColourGiven() {
@@ -228,6 +229,17 @@ void frmColorsTest::CreateCustomColorGivesTheColourOrMinusOne() {
     QCOMPARE(mix(), static_cast<int>(MakeColour(1, 77, 3)));
     QCOMPARE(mix(), -1);
     QVERIFY(user.AllDone());
+}
+
+void frmColorsTest::WordsAreBritishWhereTheProgramIs() {
+    ProgramContext inBritain;
+    inBritain.BritishSpelling = true;
+    frmColors mixer(QStringLiteral("Create Custom Colour"), 0, {nullptr, nullptr, &inBritain});
+    const auto& tabs = PartOf<QTabWidget>(mixer, "tabFields");
+    QCOMPARE(tabs.tabText(1).remove(QLatin1Char('&')), QStringLiteral("256 Colours"));
+    QCOMPARE(PartOf<ColorSample>(mixer, "picSample").accessibleName(),
+             QStringLiteral("New colour"));
+    QCOMPARE(mixer.windowTitle(), QStringLiteral("Create Custom Colour"));
 }
 
 } // namespace zol::test
