@@ -118,7 +118,9 @@ void FlossInfoPanel::ShowFlossInfo() {
 
 void FlossInfoPanel::ShowTexts(int entry) {
     const Palette& flosses = m_editor->Flosses();
-    m_ui->lblManuf->setText(Colon(flosses.GetManufShortDesc(entry)));
+    // Beside a field of its own a label takes a single ampersand for a mnemonic.
+    m_ui->lblManuf->setText(
+        Colon(flosses.GetManufShortDesc(entry)).replace(QLatin1Char('&'), QLatin1String("&&")));
     m_ui->txtFlossID->setText(QString::fromStdString(flosses.GetManufID(entry)));
     m_ui->txtFlossDescription->setText(QString::fromStdString(flosses.GetFlossShortDesc(entry)));
     const bool blended = flosses.IsBlended(entry);

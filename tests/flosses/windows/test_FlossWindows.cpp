@@ -57,6 +57,7 @@ private Q_SLOTS:
     void NamesStayAsTheyAreSpelled();
     void QuestionsNameFlossesAsTheyAreSpelled();
     void MyColorsIsAName();
+    void AmpersandOfAMakerIsShown();
 
 private:
     static void ShowTab(PaletteWindow& test, int tab) {
@@ -317,6 +318,23 @@ void FlossWindowsTest::MyColorsIsAName() {
     frmAddPalette window(0, true, test.Context, test.Store);
     QCOMPARE(PartOf<QCheckBox>(window, "chkMyColors").text().remove(QLatin1Char('&')),
              QStringLiteral("Save to \"My Colors\""));
+}
+
+void FlossWindowsTest::AmpersandOfAMakerIsShown() {
+    PaletteWindow test;
+    test.Flosses().ChangePaletteEntry(1, MakeColour(9, 9, 9), "8", "Fawn", "J&P Coats", 0,
+                                      Palette::KeepStrands, Palette::KeepStrands);
+    test.Flosses().BlendFloss(1, 0, "9", "J&P Coats", "Sable", 0);
+    QVERIFY(test.Show());
+    test.ClickEntry(2);
+    test.ClickEntry(1);
+    // A label with a field of its own takes a single ampersand for a mnemonic.
+    const auto& maker = test.Find<QLabel>("lblManuf");
+    QVERIFY(maker.buddy() != nullptr);
+    QCOMPARE(maker.text(), QStringLiteral("J&&P Coats:"));
+    const auto& second = test.Find<QLabel>("lblManufB");
+    QVERIFY(second.buddy() == nullptr);
+    QCOMPARE(second.text(), QStringLiteral("J&P Coats:"));
 }
 
 } // namespace zol::test
