@@ -69,6 +69,9 @@ void MoveFrom(Pattern& pattern, Band band, int first, int delta) {
 
 std::optional<Fault> ValidateAddRows(const Pattern& pattern, Band band, bool deleting, double start,
                                      double howMany) {
+    // A fraction can come by the clipboard; what counts is the number that is acted on.
+    start = RoundHalfEven(start);
+    howMany = RoundHalfEven(howMany);
     const std::string words = band == Band::Rows ? "rows" : "columns";
     if (howMany == 0) {
         return Fault{"You must specify how many " + words + " to add", Field::HowMany};

@@ -22,8 +22,9 @@ struct Fault {
     Field Where;
 };
 
-/// Nothing if `howMany` rows or columns can be added after, or deleted from, number `start`. The
-/// words "row" and "column" of the messages are crossed against the choice and stay so.
+/// Nothing if `howMany` rows or columns can be added after, or deleted from, number `start`, both
+/// taken to the nearest integer. The words "row" and "column" of the messages are crossed against
+/// the choice and stay so.
 [[nodiscard]] std::optional<Fault> ValidateAddRows(const Pattern& pattern, Band band, bool deleting,
                                                    double start, double howMany);
 

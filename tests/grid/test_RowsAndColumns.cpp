@@ -34,6 +34,15 @@ TEST_F(RowsTest, ZeroNeverReachesThePattern) {
     EXPECT_EQ(Fault(Band::Columns, false, 0, 1), "You must specify the starting column");
 }
 
+TEST_F(RowsTest, FractionsCountAsTheNumberThatIsUsed) {
+    EXPECT_EQ(Fault(Band::Rows, false, 1, 0.4), "You must specify how many rows to add");
+    EXPECT_EQ(Fault(Band::Rows, true, 0.5, 1), "You must specify the starting row");
+    EXPECT_EQ(Fault(Band::Rows, false, 5.4, 1), "");
+    EXPECT_EQ(Fault(Band::Rows, false, 5.6, 1), "After column must be 5 or less");
+    EXPECT_EQ(Fault(Band::Rows, false, 1, 994.4), "");
+    EXPECT_EQ(Fault(Band::Rows, true, 5, 1.6), "Deleting 2 rows exceeds the pattern height");
+}
+
 TEST_F(RowsTest, WordsStandCrossed) {
     EXPECT_EQ(Fault(Band::Columns, false, 7, 1), "After row must be 6 or less");
     EXPECT_EQ(Fault(Band::Rows, false, 6, 1), "After column must be 5 or less");

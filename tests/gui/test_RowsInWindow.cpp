@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Korvanta contributors
 // SPDX-License-Identifier: MIT
 
+#include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -18,6 +19,7 @@ class RowsInWindowTest : public QObject {
 private Q_SLOTS:
     void WordsOfBothModes();
     void FieldsTakeDigitsAlone();
+    void PastedFractionIsNoNumberOfRows();
     void Faults_data();
     void Faults();
     void AddingInTheMiddleLosesTheLastRows();
@@ -116,6 +118,28 @@ void RowsInWindowTest::FieldsTakeDigitsAlone() {
     }});
     program.Choose("mnuAddRows");
     QVERIFY(driver.AllDone());
+}
+
+void RowsInWindowTest::PastedFractionIsNoNumberOfRows() {
+    OpenedProgram program;
+    const int height = program.Design().GetPatternHeight();
+    QGuiApplication::clipboard()->setText(QStringLiteral("0.4"));
+    DialogDriver driver({[&](QDialog& dialog) {
+        Fill(dialog, false, "", "1");
+        auto* field = dialog.findChild<QLineEdit*>(QStringLiteral("txtHowMany"));
+        field->setFocus();
+        QTest::keyClick(field, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(field->text(), QStringLiteral("0.4"));
+        Ok(dialog);
+        QVERIFY(dialog.isVisible());
+        dialog.reject();
+    }});
+    program.Choose("mnuAddRows");
+    QVERIFY(driver.AllDone());
+    QCOMPARE(program.User.ToldTexts(),
+             (std::vector<std::string>{"You must specify how many rows to add"}));
+    QCOMPARE(program.Design().GetPatternHeight(), height);
+    QVERIFY(!program.Design().IsChanged());
 }
 
 void RowsInWindowTest::Faults_data() {
