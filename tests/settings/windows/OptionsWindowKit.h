@@ -18,6 +18,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "flosses/AvailColors.h"
 #include "settings/INIFuncs.h"
@@ -57,9 +58,13 @@ public:
     }
 
     void Open() {
-        Dialog = std::make_unique<frmOptions>(
-            OptionsDesk{Settings, *Store, m_context, [this] { ++Applied; },
-                        [this](bool hold) { Held += hold ? 1 : -1; }});
+        Dialog =
+            std::make_unique<frmOptions>(OptionsDesk{Settings, *Store, m_context,
+                                                     [this] {
+                                                         ++Applied;
+                                                         HeldAtApply.push_back(Held);
+                                                     },
+                                                     [this](bool hold) { Held += hold ? 1 : -1; }});
         Dialog->show();
     }
 
@@ -123,6 +128,7 @@ public:
     std::unique_ptr<frmOptions> Dialog;
     int Applied = 0;
     int Held = 0;
+    std::vector<int> HeldAtApply; ///< for each time that the options were applied
 
 private:
     [[nodiscard]] QString StoreFile() const { return m_folder.filePath(QStringLiteral("s.ini")); }

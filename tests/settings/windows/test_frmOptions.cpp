@@ -115,11 +115,16 @@ void frmOptionsTest::ApplyReadsTheStoreFirst() {
 }
 
 void frmOptionsTest::OkHoldsPaintingWhileItApplies() {
-    OptionsWindow window;
-    window.Click("cmdOK");
-    QCOMPARE(window.Held, 0);
-    QVERIFY(window.Applied >= 1);
-    QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+    for (const bool keeps : {false, true}) {
+        OptionsWindow window;
+        if (keeps) {
+            window.Click("chkDefault");
+        }
+        window.Click("cmdOK");
+        QCOMPARE(window.HeldAtApply, std::vector<int>(keeps ? 2 : 1, 1));
+        QCOMPARE(window.Held, 0);
+        QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+    }
 }
 
 void frmOptionsTest::FlexibleBackstitchIsStoredAsNotAnchored() {
