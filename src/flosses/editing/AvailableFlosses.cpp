@@ -31,6 +31,13 @@ void AvailableFlosses::RefreshCatalogues() {
     m_names = ListCatalogues(m_context);
 }
 
+bool AvailableFlosses::IsListed(const std::string& fileName) const {
+    return std::any_of(m_names.begin(), m_names.end(),
+                       [wanted = LowerCase(fileName)](const CatalogueName& name) {
+                           return name.FileName == wanted;
+                       });
+}
+
 bool AvailableFlosses::Show(const std::string& fileName) {
     m_shown = LowerCase(fileName);
     const bool whole = m_rows.Initialize(fileName);
@@ -60,9 +67,21 @@ void AvailableFlosses::Select(int row) {
 }
 
 bool AvailableFlosses::Find(const std::string& number) {
-    const std::string wanted = UpperCase(Trimmed(number));
+    return SelectFirst([this, wanted = UpperCase(Trimmed(number))](int row) {
+        return UpperCase(m_rows.GetFlossManuID(row)) == wanted;
+    });
+}
+
+bool AvailableFlosses::Find(const std::string& number, Colour rgb) {
+    return SelectFirst([this, rgb, wanted = UpperCase(Trimmed(number))](int row) {
+        return UpperCase(m_rows.GetFlossManuID(row)) == wanted && m_rows.GetFlossRGB(row) == rgb;
+    });
+}
+
+template<typename Test>
+bool AvailableFlosses::SelectFirst(Test fits) {
     for (int row = 1; row <= m_rows.GetFlossCount(); ++row) {
-        if (UpperCase(m_rows.GetFlossManuID(row)) == wanted) {
+        if (fits(row)) {
             m_selected = row;
             return true;
         }

@@ -21,6 +21,7 @@ public:
     [[nodiscard]] const std::vector<CatalogueName>& Catalogues() const { return m_names; }
     /// Looks at the disk again.
     void RefreshCatalogues();
+    [[nodiscard]] bool IsListed(const std::string& fileName) const;
     /// Shows a catalogue by its file name and selects its first row; false if it cannot be read,
     /// which leaves an empty list.
     bool Show(const std::string& fileName);
@@ -36,11 +37,16 @@ public:
     /// Selects the first row of that number, whatever the case of its letters. False if there is
     /// none; the selection then stays.
     bool Find(const std::string& number);
+    /// The same for a row of that number, which may be empty, and colour.
+    bool Find(const std::string& number, Colour rgb);
 
     /// What a window shows of a row: "310 - black".
     [[nodiscard]] FlossLook LookOf(int row) const;
 
 private:
+    template<typename Test>
+    bool SelectFirst(Test fits);
+
     const ProgramContext& m_context;
     std::vector<CatalogueName> m_names;
     AvailColors m_rows;

@@ -136,9 +136,13 @@ void PaletteEditor::SaveToMyColors(const CustomFloss& floss) {
             MessageIcon::Exclamation, "Floss Palette");
         return;
     }
+    const bool wasListed = m_available.IsListed(MyColors::FileName);
     m_available.RefreshCatalogues();
-    m_available.Show(LowerCase(MyColors::FileName));
-    m_available.Find(floss.FlossID);
+    // Somebody who works in another catalogue goes on there.
+    if (!wasListed || m_available.Shown() == LowerCase(MyColors::FileName)) {
+        m_available.Show(MyColors::FileName);
+        m_available.Find(floss.FlossID, floss.RGB);
+    }
 }
 
 bool PaletteEditor::Create() {

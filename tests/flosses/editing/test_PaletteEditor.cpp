@@ -137,6 +137,37 @@ TEST_F(PaletteEditorTest, CreatesAFlossAndShowsMyColors) {
     EXPECT_EQ(editor.Available().Rows().GetFlossDesc(editor.Available().Selected()), "My Teal");
 }
 
+TEST_F(PaletteEditorTest, AListThatHasMyColorsStaysWhereItIs) {
+    dialogs.custom = CustomFloss{MakeColour(10, 20, 30), "M1", "My Teal", true};
+    {
+        PaletteEditor first = Editor(1);
+        ASSERT_TRUE(first.Create());
+    }
+    dialogs.custom = CustomFloss{MakeColour(40, 50, 60), "M2", "My Smoke", true};
+    PaletteEditor editor = Editor(1);
+    ASSERT_TRUE(editor.Available().Find("321"));
+    const int selected = editor.Available().Selected();
+    ASSERT_TRUE(editor.Create());
+    EXPECT_EQ(editor.Available().Shown(), "dmc.col");
+    EXPECT_EQ(editor.Available().Selected(), selected);
+    EXPECT_EQ(editor.Available().Catalogues().size(), 2U);
+    editor.Available().Show("my colors.col");
+    EXPECT_EQ(editor.Available().Rows().GetFlossCount(), 2);
+}
+
+TEST_F(PaletteEditorTest, ASavedFlossAppearsInMyColorsAndIsSelectedAlsoWithoutANumber) {
+    PaletteEditor editor = Editor(1);
+    for (const auto& [colour, name] :
+         {std::pair(MakeColour(10, 20, 30), "My Teal"), std::pair(MakeColour(1, 2, 3), "My Soot"),
+          std::pair(MakeColour(90, 9, 9), "My Rust")}) {
+        dialogs.custom = CustomFloss{colour, "", name, true};
+        ASSERT_TRUE(editor.Create());
+        EXPECT_EQ(editor.Available().Shown(), "my colors.col");
+        EXPECT_EQ(editor.Available().Rows().GetFlossDesc(editor.Available().Selected()), name);
+    }
+    EXPECT_EQ(editor.Available().Rows().GetFlossCount(), 3);
+}
+
 TEST_F(PaletteEditorTest, ACreatedFlossNeedNotBeSaved) {
     dialogs.custom = CustomFloss{MakeColour(10, 20, 30), "M1", "My Teal", false};
     PaletteEditor editor = Editor(1);
