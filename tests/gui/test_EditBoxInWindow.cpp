@@ -17,6 +17,7 @@ private Q_SLOTS:
     void MenusAndButtonsFollowTheBox();
     void SelectionShowsItsSize();
     void DragMovesTheSection();
+    void BlendsGoWithTheSection();
     void DragShowsTheBlockUnderWay();
     void DragCarriesTheBoxOverTheEdgeOfTheView();
     void ZoomChangesWhileABlockFloats();
@@ -114,6 +115,29 @@ void EditBoxInWindowTest::DragMovesTheSection() {
     QCOMPARE(program.Command("mnuEditUndo").text(), QStringLiteral("Undo Move Section"));
     program.Key(Qt::Key_Z, Qt::ControlModifier);
     COMPARE_TWIN(program, before);
+}
+
+void EditBoxInWindowTest::BlendsGoWithTheSection() {
+    OpenedProgram program;
+    Prepare(program);
+    Palette& flosses = program.Design().GetPalette();
+    flosses.BlendFloss(1, MakeColour(250, 200, 40), "725", "DMC", "topaz", 0);
+    flosses.BlendFloss(2, MakeColour(40, 200, 250), "996", "DMC", "blue", 0);
+    const int count = flosses.GetEntriesCount();
+    program.Choose("mnuViewRefresh");
+    program.DragOver({{3, 3}, {7, 6}});
+    program.DragOver({{5, 5}, {9, 5}, {15, 10}});
+    QCOMPARE(program.Design().GetStitchPaletteIndex(14, 9), 1);
+    QCOMPARE(program.Design().GetStitchPaletteIndex(16, 10), 2);
+    program.DragOver({{13, 8}, {17, 11}});
+    program.Choose("mnuFlipHorizontal");
+    program.Key(Qt::Key_Left);
+    program.Key(Qt::Key_Return);
+    QCOMPARE(program.Design().GetStitchPaletteIndex(15, 9), 1);
+    QCOMPARE(program.Design().GetStitchPaletteIndex(13, 10), 2);
+    QCOMPARE(program.Design().GetPalette().GetEntriesCount(), count);
+    QVERIFY(program.Design().GetPalette().IsBlended(2));
+    QTRY_COMPARE(program.WrongPixels(), 0);
 }
 
 void EditBoxInWindowTest::DragShowsTheBlockUnderWay() {
