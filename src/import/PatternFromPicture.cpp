@@ -186,6 +186,10 @@ std::optional<Plan> MakePlan(const DistinctColours& colours, const ImportCandida
     ProgramContext& context = pattern.Context();
     Plan plan{useEditBox ? pattern.GetPalette() : Palette(context), {}, {}};
     BuildImportPalette(context, candidates, source, useEditBox, plan.Flosses);
+    if (!useEditBox) {
+        // In the order in which the user looks at flosses.
+        plan.Flosses.Sort(pattern.GetPalette().GetSortOrder());
+    }
     plan.Numbers = FlossesOf(colours, plan.Flosses);
     if (!CountSquares(colours, plan.Numbers, door, plan.Counts)) {
         return std::nullopt;

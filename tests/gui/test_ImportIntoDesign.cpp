@@ -28,6 +28,7 @@ private Q_SLOTS:
     void AnotherDesignEndsTheImportThatWasLeft_data();
     void AnotherDesignEndsTheImportThatWasLeft();
     void AResumedImportTakesTheCurrentPaletteAsItIsNow();
+    void ThePaletteStaysSortedAndUndoLeavesItSo();
 
 private:
     QTemporaryDir m_folder;
@@ -195,6 +196,35 @@ void ImportIntoDesignTest::AResumedImportTakesTheCurrentPaletteAsItIsNow() {
     QCOMPARE(design.GetPatternWidth(), 10);
     QCOMPARE(design.GetPalette().GetFlossSymbol(1), int('Q'));
     QCOMPARE(design.GetPalette().GetManufID(2), std::string("4711"));
+}
+
+void ImportIntoDesignTest::ThePaletteStaysSortedAndUndoLeavesItSo() {
+    OpenedProgram program;
+    Palette& palette = program.Design().GetPalette();
+    palette =
+        PaletteOf(program, {MakeColour(200, 0, 0), MakeColour(0, 0, 200), MakeColour(0, 250, 0)});
+    palette.Sort(SortColor);
+    const auto order = [&palette] {
+        std::vector<int> places;
+        for (int place = 1; place <= palette.GetEntriesCount(); ++place) {
+            places.push_back(palette.GetSortIndex(place));
+        }
+        return places;
+    };
+    const std::vector<int> before = order();
+    QVERIFY(before != (std::vector<int>{1, 2, 3}));
+    Import(program, [&program](frmImportWizard& wizard) {
+        TakeFile(program, wizard, "cat.png");
+        SetWidth(wizard, QStringLiteral("24"));
+        GoToMapping(wizard);
+        ChooseFamily(wizard, QStringLiteral("9"));
+        Next(wizard);
+        QVERIFY(!wizard.isVisible());
+    });
+    QCOMPARE(palette.GetSortOrder(), int(SortColor));
+    program.Choose("mnuEditUndo");
+    QCOMPARE(palette.GetSortOrder(), int(SortColor));
+    QCOMPARE(order(), before);
 }
 
 } // namespace zol::test

@@ -102,6 +102,23 @@ TEST_F(Import, APatternOfFullStitchesWithTheSurvivorsAsPalette) {
     EXPECT_EQ(session.Figures().Flosses, (std::vector<ImportFigures::FlossUse>{{1, 1}, {2, 2}}));
 }
 
+TEST_F(Import, TheNewPaletteIsSortedAsTheOldOneWas) {
+    pattern.GetPalette().Sort(SortColor);
+    session.SetImage(RowOf({Red, Blue, MakeColour(0, 250, 0)}));
+    session.ChooseCatalogue(CatalogueOf({Red, Blue, MakeColour(0, 250, 0)}));
+    ASSERT_EQ(Create().Result, Done);
+    const Palette& palette = pattern.GetPalette();
+    EXPECT_EQ(palette.GetSortOrder(), SortColor);
+    Palette sorted = palette;
+    sorted.Sort(SortColor);
+    for (int place = 1; place <= 3; ++place) {
+        EXPECT_EQ(palette.GetSortIndex(place), sorted.GetSortIndex(place)) << place;
+    }
+    EXPECT_NE(palette.GetSortIndex(1) * 100 + palette.GetSortIndex(2) * 10 +
+                  palette.GetSortIndex(3),
+              123);
+}
+
 TEST_F(Import, APictureAllErasedGivesNoStitchAndAnEmptyPalette) {
     session.SetImage(Picture(12, 12));
     session.ChooseCatalogue(CatalogueOf({Red, White}));
