@@ -3,21 +3,9 @@
 
 #include "files/FileNameKind.h"
 
-#include <algorithm>
-#include <array>
-#include <string_view>
-
 #include "model/CodePage.h"
 
 namespace zol {
-
-namespace {
-
-constexpr std::array<std::string_view, 9> PictureEndings{
-    ".bmp", ".gif", ".heic", ".jpeg", ".jpg", ".png", ".tif", ".tiff", ".webp",
-};
-
-} // namespace
 
 FileNameKind KindOfFileName(const std::string& fileName) {
     const std::string name = LowerCase(fileName);
@@ -33,10 +21,7 @@ FileNameKind KindOfFileName(const std::string& fileName) {
     if (name.ends_with(".plb")) {
         return FileNameKind::Library;
     }
-    const bool isPicture =
-        std::any_of(PictureEndings.begin(), PictureEndings.end(),
-                    [&name](std::string_view ending) { return name.ends_with(ending); });
-    return isPicture ? FileNameKind::Picture : FileNameKind::Other;
+    return FileNameKind::Other;
 }
 
 bool CanStandOnGrid(FileNameKind kind) {

@@ -9,7 +9,7 @@
 namespace zol {
 
 /// What a file is, told by its name alone.
-enum class FileNameKind : std::uint8_t { Pattern, Backup, StitchedFont, Library, Picture, Other };
+enum class FileNameKind : std::uint8_t { Pattern, Backup, StitchedFont, Library, Other };
 
 /// By the name's ending in any case; a stitched font's ".stf" counts anywhere in the name.
 [[nodiscard]] FileNameKind KindOfFileName(const std::string& fileName);

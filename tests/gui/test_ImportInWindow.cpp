@@ -3,6 +3,7 @@
 
 #include <QComboBox>
 #include <QDragEnterEvent>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
@@ -31,6 +32,8 @@ private Q_SLOTS:
     void ACancelDuringFinishLeavesDesignUndoAndWizard();
     void AnImportIntoTheEditBoxLeavesTheRest();
     void ADroppedPictureOpensTheWizardOnIt();
+    void EveryNameOfAPictureCanBeDropped_data();
+    void EveryNameOfAPictureCanBeDropped();
     void FewFlossesThatShareTheirSymbolsAreTold();
 
 private:
@@ -293,6 +296,28 @@ void ImportInWindowTest::ADroppedPictureOpensTheWizardOnIt() {
     }});
     Q_EMIT program.Window().FileDropped(QString::fromStdString(Sample("cat.png").string()));
     QTRY_VERIFY(driver.AllDone());
+}
+
+void ImportInWindowTest::EveryNameOfAPictureCanBeDropped_data() {
+    QTest::addColumn<QString>("ending");
+    for (const char* ending : {"jpg", "JPE", "jfif", "heif", "tiff", "dib"}) {
+        QTest::newRow(ending) << QString::fromLatin1(ending);
+    }
+}
+
+void ImportInWindowTest::EveryNameOfAPictureCanBeDropped() {
+    QFETCH(const QString, ending);
+    OpenedProgram program;
+    // What is in the file does not count for where it may be dropped.
+    const QString file = m_folder.filePath(QStringLiteral("dropped.") + ending);
+    QVERIFY(QFile::copy(QString::fromStdString(Sample("cat.png").string()), file));
+    DialogDriver driver({[](QDialog& dialog) {
+        QTRY_VERIFY(PartOf<PictureView>(dialog, "LPicPreview").Shown() != nullptr);
+        dialog.reject();
+    }});
+    Q_EMIT program.Window().FileDropped(file);
+    QTRY_VERIFY(driver.AllDone());
+    QVERIFY(program.User.told.empty());
 }
 
 void ImportInWindowTest::FewFlossesThatShareTheirSymbolsAreTold() {

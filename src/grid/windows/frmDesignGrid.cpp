@@ -11,7 +11,6 @@
 
 #include "files/CommandLineFile.h"
 #include "files/FileCommands.h"
-#include "files/FileNameKind.h"
 #include "grid/GridOptions.h"
 #include "grid/tools/DrawModes.h"
 #include "grid/tools/EditBox.h"
@@ -37,6 +36,7 @@
 #include "grid/windows/ViewCommands.h"
 #include "grid/windows/WindowPlace.h"
 #include "grid/windows/frmPopups.h"
+#include "import/PictureFiles.h"
 #include "model/SafeFile.h"
 #include "windowkit/BusyScope.h"
 
@@ -133,7 +133,7 @@ void frmDesignGrid::dropEvent(QDropEvent* event) {
 
 void frmDesignGrid::OpenDropped(const QString& name) {
     const std::string file = name.toStdString();
-    if (KindOfFileName(file) == FileNameKind::Picture) {
+    if (PictureFiles::HasPictureName(PathOf(file))) {
         m_import->ImportFile(PathOf(file));
     } else {
         m_files->OpenDropped(file);
