@@ -16,6 +16,7 @@
 #include "import/PictureOps.h"
 #include "import/VipsStages.h"
 #include "model/ByteStream.h"
+#include "model/Doors.h"
 #include "model/RunTimeError.h"
 #include "model/SafeFile.h"
 
@@ -279,15 +280,17 @@ ImagingResult ResampleBitmap(const Picture& image, int width, int height, Resamp
     });
 }
 
-int SaveImage(const Picture& image, const std::filesystem::path& path) {
+int SaveImage(const Picture& image, const std::filesystem::path& path, ProgressDoor* progress) {
     VipsBlob* blob = nullptr;
-    const ImagingResult result = Guarded([&image, &blob] {
+    const ImagingResult result = Guarded([&image, &blob, progress] {
         VipsStages::EnsureStarted();
+        const VImage pixels =
+            VipsStages::FromPicture(image)
+                .extract_band(0, VImage::option()->set("n", 3))
+                .copy(VImage::option()->set("interpretation", VIPS_INTERPRETATION_sRGB));
+        const VipsStages::ProgressWatch watch(pixels, progress);
         constexpr int quality = 95;
-        blob = VipsStages::FromPicture(image)
-                   .extract_band(0, VImage::option()->set("n", 3))
-                   .copy(VImage::option()->set("interpretation", VIPS_INTERPRETATION_sRGB))
-                   .jpegsave_buffer(VImage::option()->set("Q", quality));
+        blob = pixels.jpegsave_buffer(VImage::option()->set("Q", quality));
         return Picture();
     });
     if (!result.IsGood()) {
@@ -295,7 +298,8 @@ int SaveImage(const Picture& image, const std::filesystem::path& path) {
     }
     std::size_t size = 0;
     const auto* bytes = static_cast<const std::uint8_t*>(vips_blob_get(blob, &size));
-    const int status = SafeFile::Replace(path, {bytes, size});
+    const bool stopped = progress != nullptr && !progress->MayGoOn();
+    const int status = stopped ? int{ErrDeviceIO} : SafeFile::Replace(path, {bytes, size});
     vips_area_unref(VIPS_AREA(blob));
     return status;
 }

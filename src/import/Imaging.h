@@ -81,7 +81,9 @@ private:
 [[nodiscard]] ImagingResult ResampleBitmap(const Picture& image, int width, int height,
                                            ResampleFlag flag, ProgressDoor* progress = nullptr);
 
-/// Saves as JPEG at 24 bits, whole or not at all. 0 or a run-time error number.
-[[nodiscard]] int SaveImage(const Picture& image, const std::filesystem::path& path);
+/// Saves as JPEG at 24 bits, whole or not at all. 0 or a run-time error number, also when the door
+/// stopped it. What stops it after the last question finds the file saved.
+[[nodiscard]] int SaveImage(const Picture& image, const std::filesystem::path& path,
+                            ProgressDoor* progress = nullptr);
 
 } // namespace zol

@@ -10,6 +10,7 @@
 #include "import/SamplePictures.h"
 #include "support/RecordingDoors.h"
 #include "support/TempFolder.h"
+#include "support/TestFiles.h"
 #include "support/TestPaths.h"
 
 using namespace zol;
@@ -367,6 +368,23 @@ TEST(Imaging, ASavedPictureComesBackAsJpeg) {
     ASSERT_TRUE(result.IsGood()) << result.Text;
     ExpectNear(result.Image.ImagePixel(8, 8), MakeColour(80, 160, 40), 10);
     EXPECT_NE(SaveImage(picture, folder / "missing/x.jpg"), 0);
+}
+
+TEST(Imaging, ASaveThatIsStoppedAtAnyPointLeavesTheOldFile) {
+    const test::TempFolder folder;
+    const auto file = folder / "LastImport.jpg";
+    test::WriteFile(file, "old");
+    const Picture picture(64, 2000);
+    test::RecordingProgress counting;
+    counting.cancelAfter = 1'000'000;
+    ASSERT_EQ(SaveImage(picture, folder / "other.jpg", &counting), 0);
+    EXPECT_GT(counting.asked, 3); // while it is encoded, and before it is written
+    for (const int asked : {0, 2, counting.asked - 1}) {
+        test::RecordingProgress progress;
+        progress.cancelAfter = asked;
+        EXPECT_NE(SaveImage(picture, file, &progress), 0) << asked;
+        EXPECT_EQ(test::ReadFile(file), "old") << asked;
+    }
 }
 
 } // namespace

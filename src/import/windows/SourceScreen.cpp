@@ -59,6 +59,8 @@ SourceScreen::SourceScreen(ImportDesk& desk, QWidget* parent)
     connect(&m_loadJob, &LatestJob::Failed, this, [this](const QString& text) {
         TellFailure({{}, ErrOutOfMemory, text.toStdString()});
     });
+    m_saveJob.setObjectName(QStringLiteral("saveLastImport"));
+    connect(&m_saveJob, &LatestJob::Failed, this, [this] { m_saving = nullptr; });
     SetUpScanning();
     ConnectOptions();
     EnableFields();
@@ -116,11 +118,15 @@ void SourceScreen::DisplayScreen(bool keepPicture) {
     if (!keepPicture && m_desk.Work.TheImage != nullptr) {
         Show(m_desk.Work.TheImage);
     }
-    m_ui->optLastImage->setEnabled(m_saved != nullptr ||
-                                   PictureFile(m_lastImportFile).GetError().IsGood());
+    OfferLastImage();
     if (m_ui->txtFileName->isEnabled()) {
         m_ui->txtFileName->setFocus();
     }
+}
+
+void SourceScreen::OfferLastImage() {
+    m_ui->optLastImage->setEnabled(m_saved != nullptr ||
+                                   PictureFile(m_lastImportFile).GetError().IsGood());
 }
 
 bool SourceScreen::ValidateScreen() {
@@ -275,14 +281,25 @@ void SourceScreen::Show(SharedPicture picture) {
 
 void SourceScreen::SaveLastImport() {
     // Saved once: a JPEG that is saved over and over loses a little each time.
-    if (m_saved == m_picture) {
+    const SharedPicture& latest = m_saving != nullptr ? m_saving : m_saved;
+    if (latest == m_picture) {
         return;
     }
-    m_saved = m_picture;
-    // A failure costs no more than the offer to take this picture again.
-    m_saveJob.Start([picture = m_picture, file = m_lastImportFile](
-                        ProgressDoor& /*progress*/) { return SaveImage(*picture, file); },
-                    [](int /*status*/) {});
+    m_saving = m_picture;
+    m_saveJob.Start(
+        [this, picture = m_picture, file = m_lastImportFile](ProgressDoor& progress) {
+            // One at a time: an older save on its way out must not put its picture over this one.
+            const std::lock_guard turn(m_saveTurn);
+            return SaveImage(*picture, file, &progress);
+        },
+        [this](int status) {
+            // A failure costs no more than the offer to take this picture again.
+            const SharedPicture saved = std::exchange(m_saving, nullptr);
+            if (status == ErrNone) {
+                m_saved = saved;
+            }
+            OfferLastImage();
+        });
 }
 
 } // namespace zol

@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <mutex>
 
 #include "import/Imaging.h"
 #include "import/windows/ImportDesk.h"
@@ -57,6 +58,7 @@ private:
     void TellFailure(const ImagingResult& result);
     void Show(SharedPicture picture);
     void SaveLastImport();
+    void OfferLastImage();
 
     ImportDesk& m_desk;
     std::unique_ptr<Ui::SourceScreen> m_ui;
@@ -64,11 +66,13 @@ private:
     ScannerList* m_scanners = nullptr; ///< null where nothing can be scanned
     SharedPicture m_picture;           ///< what LPicPreview shows
     std::filesystem::path m_lastImportFile;
-    SharedPicture m_saved; ///< what that file holds
+    SharedPicture m_saved;  ///< what that file holds, if this screen saved or loaded it
+    SharedPicture m_saving; ///< what it is to hold once the save that runs is done
     std::filesystem::path m_loading;
     bool m_takesFile = false; ///< it is to become the source
     LatestJob m_loadJob;
-    LatestJob m_saveJob;
+    std::mutex m_saveTurn; ///< held by the save that writes
+    LatestJob m_saveJob{this};
 };
 
 } // namespace zol

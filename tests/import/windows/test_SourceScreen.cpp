@@ -41,6 +41,8 @@ private Q_SLOTS:
     void AnEmptyClipboardIsTold();
     void EachOptionEmptiesPreviewAndName();
     void TheLastImageIsOfferedOnceThereIsOne();
+    void TheLastImageIsNotOfferedWhereItCouldNotBeSaved();
+    void TheLatestOfTwoSavesStays();
     void FieldsOfOtherSourcesAreOff();
 
 private:
@@ -51,6 +53,10 @@ private:
     }
     [[nodiscard]] fs::path LastImport() const {
         return fs::path(m_folder->path().toStdString()) / PictureFiles::LastImportName;
+    }
+
+    [[nodiscard]] static LatestJob& SaveOf(SourceScene& scene) {
+        return PartOf<LatestJob>(scene.Screen, "saveLastImport");
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -209,13 +215,57 @@ void SourceScreenTest::TheLastImageIsOfferedOnceThereIsOne() {
     QTRY_VERIFY(shown.Picture() != nullptr);
     QCOMPARE(shown.Picture()->ImageWidth(), 11);
     // It is there already, and is not saved once more.
-    const auto saved = fs::last_write_time(LastImport());
+    const QSignalSpy saves(&SaveOf(shown), &LatestJob::Began);
     QVERIFY(shown.Screen.ValidateScreen());
-    QCOMPARE(fs::last_write_time(LastImport()), saved);
+    QCOMPARE(saves.count(), 0);
+    shown.Screen.TakeFile(Write("b.png", SavedAs(Plain(12, 3, Brick), ".png")));
+    QTRY_COMPARE(shown.Picture()->ImageWidth(), 12);
+    QVERIFY(shown.Screen.ValidateScreen());
+    QCOMPARE(saves.count(), 1);
+    QTRY_VERIFY(!SaveOf(shown).IsRunning());
     (void)Write("LastImport.jpg", {1, 2, 3});
     DeskKit damaged;
     SourceScene without(damaged);
     QVERIFY(!PartOf<QRadioButton>(without.Screen, "optLastImage").isEnabled());
+}
+
+void SourceScreenTest::TheLastImageIsNotOfferedWhereItCouldNotBeSaved() {
+    DeskKit kit;
+    SourceScene shown(kit);
+    auto& offer = PartOf<QRadioButton>(shown.Screen, "optLastImage");
+    shown.Screen.TakeFile(Write("a.png", SavedAs(Plain(11, 3, Brick), ".png")));
+    QTRY_VERIFY(shown.Picture() != nullptr);
+    const QString folder = m_folder->path();
+    fs::remove_all(folder.toStdString());
+    QSignalSpy saved(&SaveOf(shown), &LatestJob::Ended);
+    QVERIFY(shown.Screen.ValidateScreen());
+    shown.Screen.DisplayScreen(true);
+    QVERIFY(!offer.isEnabled());
+    QTRY_COMPARE(saved.count(), 1);
+    shown.Screen.DisplayScreen(true);
+    QVERIFY(!offer.isEnabled());
+    // The next time it is tried again.
+    QVERIFY(fs::create_directory(folder.toStdString()));
+    QVERIFY(shown.Screen.ValidateScreen());
+    QTRY_COMPARE(saved.count(), 2);
+    QVERIFY(offer.isEnabled());
+    QCOMPARE(LoadImage(LastImport()).Image.ImageWidth(), 11);
+}
+
+void SourceScreenTest::TheLatestOfTwoSavesStays() {
+    DeskKit kit;
+    {
+        SourceScene shown(kit);
+        // The first takes far longer to encode than the second.
+        shown.Screen.TakeFile(Write("large.png", SavedAs(Plain(3000, 2000, Brick), ".png")));
+        QVERIFY(shown.Screen.ValidateScreen());
+        shown.Screen.TakeFile(Write("small.png", SavedAs(Plain(5, 5, Brick), ".png")));
+        QTRY_COMPARE(shown.Picture()->ImageWidth(), 5);
+        QVERIFY(shown.Screen.ValidateScreen());
+        QTRY_VERIFY(!SaveOf(shown).IsRunning());
+        // The screen goes once neither writes any more.
+    }
+    QCOMPARE(LoadImage(LastImport()).Image.ImageWidth(), 5);
 }
 
 void SourceScreenTest::FieldsOfOtherSourcesAreOff() {
