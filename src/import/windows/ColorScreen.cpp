@@ -81,6 +81,13 @@ bool ColorScreen::ValidateScreen() {
     return true;
 }
 
+void ColorScreen::Suspend() {
+    if (m_job.IsRunning()) {
+        m_job.Cancel();
+        KeepShown();
+    }
+}
+
 const Adjustments::Item& ColorScreen::Item() const {
     return Adjustments::Items()[static_cast<std::size_t>(m_ui->cmbAdjustmentType->currentIndex())];
 }

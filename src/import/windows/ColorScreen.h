@@ -31,6 +31,7 @@ public:
     [[nodiscard]] QString Instruction() const override;
     void DisplayScreen(bool keepPicture) override;
     [[nodiscard]] bool ValidateScreen() override;
+    void Suspend() override;
 
 private:
     void SetUpViews();

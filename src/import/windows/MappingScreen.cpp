@@ -127,8 +127,7 @@ void MappingScreen::TakeImage() {
 }
 
 bool MappingScreen::ValidateScreen() {
-    m_soon.stop();
-    m_job.Cancel();
+    Suspend();
     if (!CheckFields()) {
         return false;
     }
@@ -136,6 +135,17 @@ bool MappingScreen::ValidateScreen() {
     // A number that was typed after the preview counts; the import then makes its own.
     m_desk.Work.Session.DropPreviewUnlessOf(MaxColors());
     return true;
+}
+
+void MappingScreen::Suspend() {
+    m_soon.stop();
+    m_job.Cancel();
+}
+
+void MappingScreen::Resume() {
+    if (m_desk.Work.Session.Preview().IsEmpty()) {
+        PreviewSoon();
+    }
 }
 
 void MappingScreen::FillFamilies() {

@@ -37,6 +37,8 @@ public:
     [[nodiscard]] QString Instruction() const override;
     void DisplayScreen(bool keepPicture) override;
     [[nodiscard]] bool ValidateScreen() override;
+    void Suspend() override;
+    void Resume() override;
 
 private:
     void SetUpViews();

@@ -38,6 +38,7 @@ ScannerList::ScannerList(const Outside& outside, QComboBox& list, QPushButton& a
 }
 
 void ScannerList::Look() {
+    m_cutOff = false;
     m_sources.clear();
     m_list.clear();
     AddLine(QStringLiteral("Looking for scanners..."));
@@ -48,6 +49,17 @@ void ScannerList::Look() {
             return scanners.FindSources(watcher);
         },
         [this](const SourcesFound& found) { Show(found); });
+}
+
+void ScannerList::Leave() {
+    m_cutOff = m_cutOff || m_job.IsRunning();
+    m_job.Cancel();
+}
+
+void ScannerList::ComeBack() {
+    if (m_cutOff) {
+        Look();
+    }
 }
 
 void ScannerList::Show(const SourcesFound& found) {

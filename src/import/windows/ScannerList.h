@@ -42,7 +42,9 @@ public:
     /// Looks for scanners anew. Until they are found the list says so.
     void Look();
     /// The list is not wanted any more: what is still found is not shown.
-    void Leave() { m_job.Cancel(); }
+    void Leave();
+    /// The list is wanted after all: a search that Leave cut off begins anew.
+    void ComeBack();
     /// The scanner that is chosen; nothing while there is none.
     [[nodiscard]] std::optional<ScanSource> Chosen() const;
     /// Lets the user scan a picture from it; nothing if that was cancelled.
@@ -57,7 +59,8 @@ private:
     QComboBox& m_list;
     QPushButton& m_acquire;
     std::vector<ScanSource> m_sources; ///< the list's first lines
-    LatestJob m_job;
+    bool m_cutOff = false;             ///< the last search brought nothing
+    LatestJob m_job{this};
 };
 
 } // namespace zol

@@ -34,6 +34,8 @@ public:
     /// picture large again.
     void DisplayScreen(bool keepPicture) override;
     [[nodiscard]] bool ValidateScreen() override;
+    void Suspend() override { m_job.Cancel(); }
+    void Resume() override { ResizeImage(); }
 
 private:
     /// What a resized picture was made of.

@@ -59,6 +59,7 @@ SourceScreen::SourceScreen(ImportDesk& desk, QWidget* parent)
     connect(&m_loadJob, &LatestJob::Failed, this, [this](const QString& text) {
         TellFailure({{}, ErrOutOfMemory, text.toStdString()});
     });
+    m_loadJob.setObjectName(QStringLiteral("loadPicture"));
     m_saveJob.setObjectName(QStringLiteral("saveLastImport"));
     connect(&m_saveJob, &LatestJob::Failed, this, [this] { m_saving = nullptr; });
     SetUpScanning();
@@ -119,6 +120,7 @@ void SourceScreen::DisplayScreen(bool keepPicture) {
         Show(m_desk.Work.TheImage);
     }
     OfferLastImage();
+    Resume();
     if (m_ui->txtFileName->isEnabled()) {
         m_ui->txtFileName->setFocus();
     }
@@ -127,6 +129,19 @@ void SourceScreen::DisplayScreen(bool keepPicture) {
 void SourceScreen::OfferLastImage() {
     m_ui->optLastImage->setEnabled(m_saved != nullptr ||
                                    PictureFile(m_lastImportFile).GetError().IsGood());
+}
+
+void SourceScreen::Suspend() {
+    m_loadJob.Cancel();
+    if (m_scanners != nullptr) {
+        m_scanners->Leave();
+    }
+}
+
+void SourceScreen::Resume() {
+    if (m_scanners != nullptr && m_ui->optScan->isChecked()) {
+        m_scanners->ComeBack();
+    }
 }
 
 bool SourceScreen::ValidateScreen() {
@@ -178,10 +193,7 @@ void SourceScreen::EnableFields() {
 }
 
 void SourceScreen::Empty() {
-    m_loadJob.Cancel();
-    if (m_scanners != nullptr) {
-        m_scanners->Leave();
-    }
+    Suspend();
     Show(nullptr);
     m_ui->txtFileName->clear();
 }

@@ -34,6 +34,8 @@ public:
     void DisplayScreen(bool keepPicture) override;
     /// A file name that was typed is loaded only here.
     [[nodiscard]] bool ValidateScreen() override;
+    void Suspend() override;
+    void Resume() override;
 
     /// A file from outside, such as one that was dropped; it becomes the source once it could be
     /// read, until then the present one stays.
@@ -70,7 +72,7 @@ private:
     SharedPicture m_saving; ///< what it is to hold once the save that runs is done
     std::filesystem::path m_loading;
     bool m_takesFile = false; ///< it is to become the source
-    LatestJob m_loadJob;
+    LatestJob m_loadJob{this};
     std::mutex m_saveTurn; ///< held by the save that writes
     LatestJob m_saveJob{this};
 };

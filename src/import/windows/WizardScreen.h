@@ -24,6 +24,11 @@ public:
     /// Checks the screen's fields and hands its work on. False: the user has been told what is
     /// wrong, the field at fault has the focus, and nothing was handed on.
     [[nodiscard]] virtual bool ValidateScreen() = 0;
+    /// The wizard goes out of sight. Whatever still runs is called off, since what it would tell
+    /// would come up over other work.
+    virtual void Suspend() {}
+    /// It comes back with this screen: what was called off and is still wanted begins anew.
+    virtual void Resume() {}
 };
 
 } // namespace zol

@@ -162,7 +162,15 @@ bool frmImportWizard::HasWork() const {
     return m_work.TheImage != nullptr || m_source->HasPicture();
 }
 
+void frmImportWizard::done(int result) {
+    for (WizardScreen* screen : m_screens) {
+        screen->Suspend();
+    }
+    QDialog::done(result);
+}
+
 void frmImportWizard::Resume() {
+    m_screens[static_cast<std::size_t>(m_flow.CurrentScreen())]->Resume();
     // Flosses that changed meanwhile are taken anew: an import of the old ones would put them back.
     if (m_flow.IsOnLastScreen() && !m_work.Session.IsUpToDateWith(m_desk.Design.GetPalette())) {
         DisplayScreen(m_flow.CurrentScreen(), false);

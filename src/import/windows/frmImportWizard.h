@@ -63,6 +63,10 @@ Q_SIGNALS:
     /// A file was dropped onto the first screen.
     void FileDropped(const QString& file);
 
+public Q_SLOTS:
+    /// The wizard hides with all its work, but for what still runs.
+    void done(int result) override;
+
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;

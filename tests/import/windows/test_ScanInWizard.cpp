@@ -12,7 +12,9 @@
 #include "import/PictureOps.h"
 #include "import/scan/SaneScanner.h"
 #include "import/scan/SaneTestDevice.h"
+#include "import/windows/ScannerList.h"
 #include "import/windows/SourceScene.h"
+#include "support/Arrivals.h"
 #include "support/DialogDriver.h"
 #include "support/ScriptedScanner.h"
 
@@ -27,6 +29,7 @@ private Q_SLOTS:
     void AScanBecomesThePictureToImport();
     void ACancelledScanKeepsThePictureOfBefore();
     void AnotherSourceDropsWhatIsStillFound();
+    void ASearchThatFailsBehindTheHiddenWizardSaysNothing();
     void TheTestDeviceGoesAllTheWay();
 
 private:
@@ -34,6 +37,10 @@ private:
     static void ScanThere(QDialog& window) {
         QTRY_VERIFY(PartOf<QPushButton>(window, "cmdScan").isEnabled());
         ClickIn(window, "cmdScan");
+    }
+
+    [[nodiscard]] static LatestJob& SearchOf(SourceScene& scene) {
+        return *scene.Screen.findChild<ScannerList*>()->findChild<LatestJob*>();
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -96,15 +103,36 @@ void ScanInWizardTest::AnotherSourceDropsWhatIsStillFound() {
     kit.Desk.Scanners = m_scanner.get();
     m_scanner->Hold();
     SourceScene shown(kit);
+    const Arrivals arrivals(SearchOf(shown));
     ClickIn(shown.Screen, "optScan");
     QTRY_COMPARE(m_scanner->Looks(), 1);
     ClickIn(shown.Screen, "optFile");
     QTRY_VERIFY(m_scanner->IsCancelled());
     m_scanner->LetGo();
+    QTRY_COMPARE(arrivals.Count(), 1);
     QVERIFY(!shown.CanAcquire());
     QVERIFY(!PartOf<QComboBox>(shown.Screen, "cmbScanSource").isEnabled());
     ClickIn(shown.Screen, "optScan");
     QTRY_VERIFY(shown.CanAcquire());
+}
+
+void ScanInWizardTest::ASearchThatFailsBehindTheHiddenWizardSaysNothing() {
+    DeskKit kit;
+    kit.Desk.Scanners = m_scanner.get();
+    m_scanner->found.Problem = {ScanProblem::Kind::Failed, "The scanner is busy.", {}};
+    m_scanner->Hold();
+    SourceScene shown(kit);
+    const Arrivals arrivals(SearchOf(shown));
+    ClickIn(shown.Screen, "optScan");
+    QTRY_VERIFY(m_scanner->IsWaiting());
+    shown.Screen.Suspend();
+    m_scanner->LetGo();
+    QTRY_COMPARE(arrivals.Count(), 1);
+    QVERIFY(kit.User.told.empty());
+    // Where it is looked at again, it says so.
+    shown.Screen.Resume();
+    QTRY_COMPARE(kit.User.ToldTexts(), std::vector<std::string>{"The scanner is busy."});
+    QCOMPARE(m_scanner->Looks(), 2);
 }
 
 void ScanInWizardTest::TheTestDeviceGoesAllTheWay() {

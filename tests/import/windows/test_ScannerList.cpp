@@ -10,6 +10,7 @@
 
 #include "import/windows/ScannerList.h"
 #include "model/ProgramContext.h"
+#include "support/Arrivals.h"
 #include "support/DialogDriver.h"
 #include "support/DialogHands.h"
 #include "support/RecordingDoors.h"
@@ -17,6 +18,7 @@
 #include "support/ScriptedUser.h"
 
 using namespace zol;
+using zol::test::Arrivals;
 using zol::test::ClickIn;
 using zol::test::DialogDriver;
 using zol::test::MapSettings;
@@ -36,6 +38,7 @@ private Q_SLOTS:
     void saysWhySystemsCannotScan();
     void looksAgainByItsLastLine();
     void whatComesTooLateIsDropped();
+    void aSearchThatWasCutOffBeginsAnewOnComingBack();
     void acquiresFromTheChosenOne();
     void aCancelledScanBringsNothing();
 
@@ -136,14 +139,34 @@ void test_ScannerList::looksAgainByItsLastLine() {
 
 void test_ScannerList::whatComesTooLateIsDropped() {
     m_scanner->found.Problem = {ScanProblem::Kind::Failed, "The scanner is busy.", {}};
+    const Arrivals arrivals(*m_scanners->findChild<LatestJob*>());
     m_scanner->Hold();
     m_scanners->Look();
     QTRY_COMPARE(m_scanner->Looks(), 1);
     m_scanners->Leave();
     QTRY_VERIFY(m_scanner->IsCancelled());
     m_scanner->LetGo();
-    QTest::qWait(0);
+    QTRY_COMPARE(arrivals.Count(), 1);
     QVERIFY(m_user->told.empty());
+    QVERIFY(!IsFilled());
+}
+
+void test_ScannerList::aSearchThatWasCutOffBeginsAnewOnComingBack() {
+    m_scanner->Hold();
+    m_scanners->Look();
+    QTRY_COMPARE(m_scanner->Looks(), 1);
+    m_scanners->Leave();
+    m_scanners->Leave();
+    QTRY_VERIFY(m_scanner->IsCancelled());
+    m_scanner->LetGo();
+    m_scanners->ComeBack();
+    QTRY_VERIFY(IsFilled());
+    QCOMPARE(m_scanner->Looks(), 2);
+    // One that came to its end does not.
+    m_scanners->Leave();
+    m_scanners->ComeBack();
+    QVERIFY(IsFilled());
+    QVERIFY(m_acquire->isEnabled());
 }
 
 void test_ScannerList::acquiresFromTheChosenOne() {

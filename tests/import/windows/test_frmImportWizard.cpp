@@ -7,11 +7,17 @@
 #include <QLineEdit>
 #include <QRadioButton>
 
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <fstream>
 #include <set>
 
 #include "import/windows/PictureView.h"
 #include "import/windows/PictureViewKit.h"
 #include "import/windows/WizardKit.h"
+#include "support/Arrivals.h"
+#include "windowkit/LatestJob.h"
 
 namespace zol::test {
 
@@ -36,6 +42,8 @@ private Q_SLOTS:
     void cancelLeavesTheDesign_data();
     void cancelLeavesTheDesign();
     void aHiddenWizardResumesWithAllItsState();
+    void aFailureBehindTheHiddenWizardSaysNothing();
+    void aResizeThatWasCalledOffBeginsAnewOnResuming();
     void anEditBoxWhosePaletteChangedIsLockedAnew();
     void everyScreenFitsWhateverItsNames();
     void tabGoesThroughTheScreenAndThenTheButtons();
@@ -340,6 +348,36 @@ void test_frmImportWizard::aHiddenWizardResumesWithAllItsState() {
     QCOMPARE(kit.Part<PictureView>("lpicCrop").Shown()->ImageHeight(), 20);
     kit.Click("cmdBack");
     QCOMPARE(kit.Part<QLineEdit>("txtFileName").text(), file);
+    QVERIFY(kit.User.told.empty());
+}
+
+void test_frmImportWizard::aFailureBehindTheHiddenWizardSaysNothing() {
+    WizardKit kit;
+    const std::filesystem::path pipe = kit.PictureFile().parent_path() / "pipe.png";
+    QCOMPARE(mkfifo(pipe.c_str(), 0600), 0);
+    const Arrivals arrivals(PartOf<LatestJob>(*kit.Wizard, "loadPicture"));
+    kit.Wizard->TakeFile(pipe);
+    // The load stands in the pipe until somebody writes.
+    QTRY_COMPARE(arrivals.Count(), 1);
+    kit.Click("cmdCancel");
+    QVERIFY(!kit.Wizard->isVisible());
+    std::ofstream(pipe) << "no picture";
+    QTRY_COMPARE(arrivals.Count(), 2);
+    QVERIFY(kit.User.told.empty());
+}
+
+void test_frmImportWizard::aResizeThatWasCalledOffBeginsAnewOnResuming() {
+    WizardKit kit;
+    kit.GoTo(3);
+    kit.Click("optStitches");
+    // Large enough to be called off under way; if it is done before, nothing is called off.
+    TypeIn(*kit.Wizard, "txtWidth", QStringLiteral("3000"));
+    kit.Click("cmdCancel");
+    QVERIFY(!kit.Wizard->isVisible());
+    kit.Wizard->Resume();
+    kit.Wizard->show();
+    auto& view = kit.Part<PictureView>("lpicResized");
+    QTRY_VERIFY(view.Shown() != nullptr && view.Shown()->ImageWidth() == 3000);
     QVERIFY(kit.User.told.empty());
 }
 
