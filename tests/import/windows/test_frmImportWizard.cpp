@@ -42,6 +42,7 @@ private Q_SLOTS:
     void cancelLeavesTheDesign_data();
     void cancelLeavesTheDesign();
     void aHiddenWizardResumesWithAllItsState();
+    void resetBringsBackWhatItSays();
     void aFailureBehindTheHiddenWizardSaysNothing();
     void aResizeThatWasCalledOffBeginsAnewOnResuming();
     void anEditBoxWhosePaletteChangedIsLockedAnew();
@@ -349,6 +350,23 @@ void test_frmImportWizard::aHiddenWizardResumesWithAllItsState() {
     kit.Click("cmdBack");
     QCOMPARE(kit.Part<QLineEdit>("txtFileName").text(), file);
     QVERIFY(kit.User.told.empty());
+}
+
+void test_frmImportWizard::resetBringsBackWhatItSays() {
+    WizardKit kit;
+    for (const char* reset : {"cmdResetCrop", "cmdResetErase", "cmdResetColor"}) {
+        QCOMPARE(kit.Part(reset).toolTip(),
+                 QStringLiteral("Brings back the picture as it was on the screen shown before this "
+                                "one"));
+    }
+    kit.GoTo(3);
+    kit.Click("optStitches");
+    TypeIn(*kit.Wizard, "txtWidth", QStringLiteral("20"));
+    kit.Click("cmdBack");
+    auto& erase = kit.Part<PictureView>("lpicErase");
+    QCOMPARE(erase.Shown()->ImageWidth(), 40);
+    kit.Click("cmdResetErase");
+    QCOMPARE(erase.Shown()->ImageWidth(), 20);
 }
 
 void test_frmImportWizard::aFailureBehindTheHiddenWizardSaysNothing() {
