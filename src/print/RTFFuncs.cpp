@@ -24,25 +24,27 @@ bool IsRichText(const std::string& text) {
     return text.starts_with(RtfStart);
 }
 
-void LoadRichText(QTextDocument& document, const std::string& rtf) {
+bool LoadRichText(QTextDocument& document, const std::string& rtf) {
     const bool hadUndo = document.isUndoRedoEnabled();
     document.setUndoRedoEnabled(false);
-    RtfReader(rtf, document).Read();
+    RtfReader reader(rtf, document);
+    reader.Read();
     document.setUndoRedoEnabled(hadUndo);
     document.setModified(false);
+    return reader.HasLeftOut();
 }
 
 std::string SaveRichText(const QTextDocument& document) {
     return RtfWriter(document).Write();
 }
 
-void LoadInstructions(QTextDocument& document, const std::string& instructions) {
+bool LoadInstructions(QTextDocument& document, const std::string& instructions) {
     if (IsRichText(instructions)) {
-        LoadRichText(document, instructions);
-        return;
+        return LoadRichText(document, instructions);
     }
     document.setPlainText(QString::fromStdString(instructions));
     document.setModified(false);
+    return false;
 }
 
 std::string SaveInstructions(const QTextDocument& document, const std::string& before) {

@@ -3,6 +3,7 @@
 
 #include "model/windows/InstructionsEditor.h"
 
+#include <QLabel>
 #include <QTextEdit>
 #include <QVBoxLayout>
 
@@ -23,14 +24,17 @@ InstructionsEditor::InstructionsEditor(const QFont& textFont, MessageDoor& messa
                                        const ProgramContext& context, QWidget* parent)
     : QWidget(parent),
       m_text(new QTextEdit(this)),
+      m_leftOut(new QLabel(this)),
       m_bar(nullptr) {
     SetUpPaper(textFont);
+    SetUpLeftOut();
     m_bar = new FormatToolBar(*m_text, messages, context, this);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(6);
     layout->addWidget(m_bar);
     layout->addWidget(m_text, 1);
+    layout->addWidget(m_leftOut);
     setFocusProxy(m_text);
     m_bar->setMinimumWidth(m_bar->sizeHint().width()); // all keys in reach
 }
@@ -44,9 +48,17 @@ void InstructionsEditor::SetUpPaper(const QFont& textFont) {
     m_text->document()->setDocumentMargin(12);
 }
 
+void InstructionsEditor::SetUpLeftOut() {
+    m_leftOut->setObjectName(QStringLiteral("lblLeftOut"));
+    m_leftOut->setText(QStringLiteral(
+        "Parts of this text cannot be shown here and are not kept when it is edited."));
+    m_leftOut->setWordWrap(true);
+    m_leftOut->hide();
+}
+
 void InstructionsEditor::SetInstructions(const std::string& instructions) {
     m_before = instructions;
-    RTFFuncs::LoadInstructions(*m_text->document(), instructions);
+    m_leftOut->setVisible(RTFFuncs::LoadInstructions(*m_text->document(), instructions));
     m_text->moveCursor(QTextCursor::Start);
 }
 

@@ -9,6 +9,7 @@
 
 #include "model/ProgramContext.h"
 
+class QLabel;
 class QTextEdit;
 
 namespace zol {
@@ -16,7 +17,8 @@ namespace zol {
 class FormatToolBar;
 
 /// Edits a pattern's instructions: `rtxtInstructions` below its bar of keys. The text stands on
-/// paper, light in every theme, as its colours are meant for that.
+/// paper, light in every theme, as its colours are meant for that. `lblLeftOut` below it tells when
+/// the text has parts that editing it loses.
 class InstructionsEditor : public QWidget {
     Q_OBJECT
 
@@ -35,8 +37,10 @@ public:
 
 private:
     void SetUpPaper(const QFont& textFont);
+    void SetUpLeftOut();
 
     QTextEdit* m_text; ///< `rtxtInstructions`
+    QLabel* m_leftOut; ///< `lblLeftOut`
     FormatToolBar* m_bar;
     std::string m_before;
 };

@@ -9,12 +9,14 @@
 #include <QTextCursor>
 #include <QTextListFormat>
 
-#include <array>
+#include <map>
+#include <optional>
+#include <utility>
 
 #include "print/rtf/RtfFormat.h"
+#include "print/rtf/RtfNumbering.h"
 
 class QTextDocument;
-class QTextList;
 
 namespace zol {
 
@@ -22,11 +24,15 @@ namespace zol {
 struct RtfListPlace {
     QTextListFormat::Style Style = RtfParagraph::NoList;
     int Level = 1; ///< from 1
+    int List = 0;  ///< tells numbered lists apart; 0: by what they touch and by their numbers
+    int Start = 1; ///< the number of the list's first item
+    std::optional<int> Number; ///< the item's own, as a ready-made text tells it
 };
 
-/// Fills an empty document from front to back. Items of one style that follow each other become one
-/// list. The document's paragraphs and lists are limited, as a damaged text could ask for millions
-/// of them: past the limit a paragraph is a line break, and an item no item.
+/// Fills an empty document from front to back. A list of numbers goes on behind other paragraphs;
+/// one that a document cannot number, as it does not begin at 1, has its numbers as text. The
+/// document's paragraphs and lists are limited, as a damaged text could ask for millions of them:
+/// past the limit a paragraph is a line break, and an item has its bullet or number as text.
 class RtfDocumentBuilder {
 public:
     static constexpr int MaxParagraphs = 50000;
@@ -47,10 +53,14 @@ public:
 
 private:
     void BeginParagraph();
-    void AddToList(const RtfListPlace& place);
+    RtfListRow* AddToList(const RtfListPlace& place);
+    [[nodiscard]] RtfListRow& RowOf(const RtfListPlace& place, int level);
+    void BeginList(RtfListRow& row, QTextListFormat::Style style, int level, int number);
+    void WriteItemText(const RtfListRow& row, int level);
 
     QTextCursor m_cursor;
-    std::array<QTextList*, MaxListLevel + 1> m_lists{}; ///< the open list of each level
+    RtfListRows m_lists;
+    std::map<std::pair<int, int>, RtfListRow> m_namedLists; ///< by RtfListPlace::List and level
     bool m_isEnded = false;
     bool m_hasText = false;
     bool m_isFull = false; ///< paragraphs are line breaks now

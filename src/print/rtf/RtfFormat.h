@@ -17,6 +17,8 @@ namespace zol {
 constexpr double TwipsPerPixel = 15;
 /// What a level of a list is moved in, as word processors do it.
 constexpr int TwipsPerListLevel = 720;
+/// What a bullet or number stands out from its item.
+constexpr int TwipsPerListHanging = 360;
 constexpr int MaxListLevel = 9;
 
 /// How characters look, in RTF's own terms: fonts and colours are rows of the document's tables.
@@ -63,7 +65,8 @@ struct RtfParagraph {
     QTextOption::TabType NextTab = QTextOption::LeftTab;
     int ListNumber = 0;                          ///< row of the list overrides, 0: none
     int ListLevel = 0;                           ///< from 0
-    QTextListFormat::Style OldStyle = NoList;    ///< told by \pn
+    QTextListFormat::Style OldStyle = NoList;    ///< told by \pn, as is
+    int OldStart = 1;                            ///< the number that the list begins with
     QTextListFormat::Style StyleOfText = NoList; ///< guessed from a ready-made list text
 
     auto operator<=>(const RtfParagraph&) const = default;

@@ -5,6 +5,9 @@
 
 #include <QByteArrayView>
 
+#include <algorithm>
+#include <limits>
+
 #include "model/CodePage.h"
 
 namespace zol {
@@ -13,7 +16,9 @@ namespace {
 
 using Kinds = RtfToken::Kinds;
 
-constexpr int LargestNumber = 0x7FFFFFF; // any more is damage, and must not overflow
+/// Lists are told apart by ids that fill a number; whatever is larger is damage.
+constexpr std::int64_t LargestNumber = std::numeric_limits<std::int32_t>::max();
+constexpr std::int64_t SmallestNumber = std::numeric_limits<std::int32_t>::min();
 
 bool IsLetter(char c) {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
@@ -118,19 +123,22 @@ std::optional<int> RtfLexer::Number() {
     if (AtEnd() || !IsDigit(m_rtf[m_at])) {
         return std::nullopt;
     }
-    int number = 0;
+    std::int64_t number = 0;
     for (; !AtEnd() && IsDigit(m_rtf[m_at]); ++m_at) {
-        number = number > LargestNumber / 16 ? LargestNumber : number * 10 + (m_rtf[m_at] - '0');
+        const int digit = m_rtf[m_at] - '0';
+        number = isNegative ? std::max(number * 10 - digit, SmallestNumber)
+                            : std::min(number * 10 + digit, LargestNumber);
     }
-    return isNegative ? -number : number;
+    return static_cast<int>(number);
 }
 
 std::optional<RtfToken> RtfLexer::HexByte() {
     int value = 0;
     bool isWhole = true;
     for (int i = 0; i < 2; ++i) {
-        if (AtEnd() || IsAt('{') || IsAt('}') || IsAt('\\')) {
-            return std::nullopt; // a cut escape takes no group's end with it
+        const bool isPlain = !AtEnd() && static_cast<unsigned char>(m_rtf[m_at]) < 0x80;
+        if (!isPlain || IsAt('{') || IsAt('}') || IsAt('\\')) {
+            return std::nullopt; // a cut escape takes no group's end and no other character with it
         }
         const int digit = HexValue(m_rtf[m_at++]);
         isWhole = isWhole && digit >= 0;

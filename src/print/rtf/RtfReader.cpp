@@ -5,13 +5,30 @@
 
 #include <algorithm>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
+#include "print/rtf/RtfNumbering.h"
 #include "print/rtf/RtfText.h"
 
 namespace zol {
 
 using Kinds = RtfToken::Kinds;
+
+namespace {
+
+/// True if the page shows something at this word that a document is not given. Other groups that
+/// are left out, such as style sheets, tell only what is told once more where it is used.
+bool LosesSomething(std::string_view word) {
+    static const std::unordered_set<std::string_view> lost{
+        "pict",    "shppict",    "nonshppict", "object",   "objdata",    "shp",     "shpinst",
+        "do",      "background", "header",     "headerl",  "headerr",    "headerf", "footer",
+        "footerl", "footerr",    "footerf",    "footnote", "annotation", "fldinst", "trowd",
+        "cell",    "row",        "nestcell",   "nestrow",  "xe",         "tc",      "tcn"};
+    return lost.contains(word);
+}
+
+} // namespace
 
 RtfReader::RtfReader(std::string_view rtf, QTextDocument& document)
     : m_lexer(rtf),
@@ -72,6 +89,10 @@ void RtfReader::EndGroup() {
     m_toSkip = 0;
     m_isStarred = false;
     if (m_groupsTooDeep > 0) {
+        for (; !m_deepPlaces.empty() && m_deepPlaces.back().Depth == m_groupsTooDeep;
+             m_deepPlaces.pop_back()) {
+            ReturnTo(m_deepPlaces.back().Before);
+        }
         --m_groupsTooDeep;
         return;
     }
@@ -81,15 +102,37 @@ void RtfReader::EndGroup() {
     const Places left = m_state.Place;
     m_state = std::move(m_groups.back());
     m_groups.pop_back();
-    // What such a group tells is for the paragraph that it stands in.
-    if (left == m_state.Place) {
+    const Places before = std::exchange(m_state.Place, left);
+    ReturnTo(before);
+}
+
+/// What a group tells of a list is for the paragraph that it stands in.
+void RtfReader::ReturnTo(Places place) {
+    const Places left = std::exchange(m_state.Place, place);
+    if (left == place) {
         return;
     }
     if (left == Places::ListText) {
+        const bool hasDigit = m_itemText.find_first_of("0123456789") != std::string::npos;
         m_state.Paragraph.StyleOfText =
-            m_listTextHasDigit ? QTextListFormat::ListDecimal : QTextListFormat::ListDisc;
+            hasDigit ? QTextListFormat::ListDecimal : QTextListFormat::ListDisc;
     } else if (left == Places::OldList) {
         m_state.Paragraph.OldStyle = m_oldStyle;
+        m_state.Paragraph.OldStart = m_oldStart;
+    }
+}
+
+/// For the rest of the group, also of one too deep to be followed.
+void RtfReader::Enter(Places place) {
+    if (m_groupsTooDeep > 0) {
+        m_deepPlaces.push_back({m_groupsTooDeep, m_state.Place});
+    }
+    m_state.Place = place;
+    if (place == Places::ListText) {
+        m_itemText.clear();
+    } else if (place == Places::OldList) {
+        m_oldStyle = RtfParagraph::NoList;
+        m_oldStart = 1;
     }
 }
 
@@ -171,12 +214,11 @@ void RtfReader::Word(const RtfToken& word) {
     if (m_state.Place == Places::Nowhere) {
         return;
     }
+    m_hasLeftOut = m_hasLeftOut || LosesSomething(word.Word);
     if (const std::optional<Places> place = PlaceOf(word.Word)) {
-        m_state.Place = *place;
-        m_listTextHasDigit = false;
-        m_oldStyle = RtfParagraph::NoList;
+        Enter(*place);
     } else if (isStarred) {
-        m_state.Place = Places::Nowhere;
+        Enter(Places::Nowhere);
     } else if (!ObeyTables(word) && !ObeyDocument(word) && !ObeyBreak(word)) {
         // What neither knows is left out, and its text stays.
         (void)(m_state.Character.Obey(word) || m_state.Paragraph.Obey(word));
@@ -204,6 +246,8 @@ bool RtfReader::ObeyTables(const RtfToken& word) {
     case Places::OldList:
         if (const auto style = OldListStyle(word); style != RtfParagraph::NoList) {
             m_oldStyle = style;
+        } else if (word.Word == "pnstart") {
+            m_oldStart = std::clamp(word.NumberOr(1), 0, RtfNumbering::MaxNumber);
         }
         return true;
     case Places::Body:

@@ -31,6 +31,9 @@ public:
     RtfReader(std::string_view rtf, QTextDocument& document);
 
     void Read();
+    /// True if something of the text that was read is not in the document: pictures, page headers,
+    /// comments, hidden text, targets of links, or the frame of a table, text box or footnote.
+    [[nodiscard]] bool HasLeftOut() const { return m_hasLeftOut; }
 
 private:
     /// Where the text of a group goes.
@@ -56,6 +59,8 @@ private:
     void Take(const RtfToken& token);
     void StartGroup();
     void EndGroup();
+    void ReturnTo(Places place);
+    void Enter(Places place);
     void Symbol(char32_t symbol);
 
     void Word(const RtfToken& word);
@@ -87,13 +92,20 @@ private:
     State m_state;
     std::vector<State> m_groups;
     std::size_t m_groupsTooDeep = 0;
+    struct DeepPlace {
+        std::size_t Depth = 0; ///< of m_groupsTooDeep
+        Places Before = Places::Body;
+    };
+    std::vector<DeepPlace> m_deepPlaces; ///< changes of the place in groups too deep
     bool m_isStarred = false; ///< the next word may be skipped with its group if it is not known
     int m_toSkip = 0;
     int m_codePage = RtfCodePages::Western;
     int m_defaultFont = 0;
     int m_cells = 0; ///< ends of cells in the row that no text followed yet
-    bool m_listTextHasDigit = false;
+    bool m_hasLeftOut = false;
+    std::string m_itemText; ///< ready-made number or bullet of the present paragraph
     QTextListFormat::Style m_oldStyle = RtfParagraph::NoList;
+    int m_oldStart = 1;
 
     std::string m_bytes; ///< text of one code page, not yet decoded
     QString m_run;       ///< text of one look, not yet in the document

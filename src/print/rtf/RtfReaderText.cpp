@@ -3,12 +3,19 @@
 
 #include <QTextOption>
 
+#include "print/rtf/RtfNumbering.h"
 #include "print/rtf/RtfReader.h"
 #include "print/rtf/RtfText.h"
 
 // What the reader makes of text and formats on their way into the document.
 
 namespace zol {
+
+namespace {
+
+constexpr std::size_t MaxItemText = 40; // no number is longer
+
+} // namespace
 
 int RtfReader::CodePageOfText() const {
     if (m_state.Place == Places::Fonts) {
@@ -35,7 +42,9 @@ void RtfReader::PutByte(char32_t byte) {
         }
         return;
     case Places::ListText:
-        m_listTextHasDigit = m_listTextHasDigit || (byte >= '0' && byte <= '9');
+        if (m_itemText.size() < MaxItemText) {
+            m_itemText += static_cast<char>(byte);
+        }
         return;
     case Places::Lists:
     case Places::Overrides:
@@ -56,7 +65,11 @@ void RtfReader::PutText(const QString& text) {
     if (m_state.Place == Places::Fonts) {
         m_fonts.AddText(text);
     }
-    if (m_state.Place != Places::Body || m_state.Character.Hidden) {
+    if (m_state.Place != Places::Body) {
+        return;
+    }
+    if (m_state.Character.Hidden) {
+        m_hasLeftOut = true;
         return;
     }
     if (m_state.Character != m_runCharacter) {
@@ -77,6 +90,7 @@ void RtfReader::FlushRun() {
 
 void RtfReader::EndParagraph(const RtfParagraph& paragraph) {
     m_builder.EndParagraph(Format(paragraph), ListPlace(paragraph), Format(m_state.Character));
+    m_itemText.clear();
     m_cells = 0;
 }
 
@@ -137,7 +151,9 @@ const QTextCharFormat& RtfReader::Format(const RtfCharacter& character) {
 
 const QTextBlockFormat& RtfReader::Format(const RtfParagraph& paragraph) {
     static const QTextBlockFormat plain;
-    const auto known = m_paragraphFormats.find(paragraph);
+    RtfParagraph look = paragraph;
+    look.OldStart = 1; // numbers are no looks, of which only so many are kept
+    const auto known = m_paragraphFormats.find(look);
     if (known != m_paragraphFormats.end()) {
         return known->second;
     }
@@ -161,18 +177,32 @@ const QTextBlockFormat& RtfReader::Format(const RtfParagraph& paragraph) {
     if (!tabs.isEmpty()) {
         format.setTabPositions(tabs);
     }
-    return m_paragraphFormats.emplace(paragraph, format).first->second;
+    return m_paragraphFormats.emplace(look, format).first->second;
 }
 
 RtfListPlace RtfReader::ListPlace(const RtfParagraph& paragraph) const {
+    RtfListPlace place;
+    place.Style = paragraph.StyleOfText;
+    place.Level = paragraph.ListLevel + 1;
     if (paragraph.ListNumber > 0) {
-        const auto style = m_lists.Style(paragraph.ListNumber, paragraph.ListLevel);
-        return {style.value_or(paragraph.StyleOfText), paragraph.ListLevel + 1};
+        if (const auto list = m_lists.Find(paragraph.ListNumber, paragraph.ListLevel)) {
+            place.Style = list->Style;
+            place.Start = list->Start;
+            place.List = paragraph.ListNumber;
+            return place;
+        }
+    } else {
+        const int level = (paragraph.Left + TwipsPerListLevel / 2) / TwipsPerListLevel;
+        place.Level = std::clamp(level, 1, MaxListLevel);
+        if (paragraph.OldStyle != RtfParagraph::NoList) {
+            place.Style = paragraph.OldStyle;
+            place.Start = paragraph.OldStart;
+        }
     }
-    const int level = (paragraph.Left + TwipsPerListLevel / 2) / TwipsPerListLevel;
-    const bool hasOldStyle = paragraph.OldStyle != RtfParagraph::NoList;
-    return {hasOldStyle ? paragraph.OldStyle : paragraph.StyleOfText,
-            std::clamp(level, 1, MaxListLevel)};
+    if (RtfNumbering::IsNumbered(place.Style)) {
+        place.Number = RtfNumbering::OfText(place.Style, m_itemText);
+    }
+    return place;
 }
 
 } // namespace zol

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 
+#include "print/rtf/RtfNumbering.h"
 #include "print/rtf/RtfText.h"
 
 namespace zol {
@@ -30,6 +31,11 @@ QTextListFormat::Style StyleOfNumberFormat(int format) {
     }
     const auto row = static_cast<std::size_t>(std::max(format, 0));
     return row < Numbered.size() ? Numbered[row] : QTextListFormat::ListDecimal;
+}
+
+/// The number of \levelstartat.
+int StartOf(const RtfToken& word) {
+    return std::clamp(word.NumberOr(1), 0, RtfNumbering::MaxNumber);
 }
 
 } // namespace
@@ -104,30 +110,42 @@ void RtfListTable::ObeyList(const RtfToken& word) {
     if (word.Word == "list") {
         m_levels.clear();
     } else if (word.Word == "listlevel" && m_levels.size() < MaxListLevel) {
-        m_levels.push_back(QTextListFormat::ListDecimal);
+        m_levels.emplace_back();
     } else if ((word.Word == "levelnfc" || word.Word == "levelnfcn") && !m_levels.empty()) {
-        m_levels.back() = StyleOfNumberFormat(word.NumberOr(0));
+        m_levels.back().Style = StyleOfNumberFormat(word.NumberOr(0));
+    } else if (word.Word == "levelstartat" && !m_levels.empty()) {
+        m_levels.back().Start = StartOf(word);
     } else if (word.Word == "listid") {
         m_lists[word.NumberOr(0)] = m_levels; // stands after the levels
     }
 }
 
 void RtfListTable::ObeyOverride(const RtfToken& word) {
-    if (word.Word == "listid") {
-        m_overrideOf = word.NumberOr(0);
+    if (word.Word == "listoverride") {
+        m_override = Override();
+    } else if (word.Word == "listid") {
+        m_override.ListID = word.NumberOr(0);
+    } else if (word.Word == "lfolevel" && m_override.Starts.size() < MaxListLevel) {
+        m_override.Starts.emplace_back();
+    } else if (word.Word == "levelstartat" && !m_override.Starts.empty()) {
+        m_override.Starts.back() = StartOf(word);
     } else if (word.Word == "ls") {
-        m_overrides[word.NumberOr(0)] = m_overrideOf;
+        m_overrides[word.NumberOr(0)] = m_override;
     }
 }
 
-std::optional<QTextListFormat::Style> RtfListTable::Style(int listNumber, int level) const {
+std::optional<RtfListTable::Level> RtfListTable::Find(int listNumber, int level) const {
     const auto over = m_overrides.find(listNumber);
-    const auto list = over == m_overrides.end() ? m_lists.end() : m_lists.find(over->second);
+    const auto list = over == m_overrides.end() ? m_lists.end() : m_lists.find(over->second.ListID);
     const auto row = static_cast<std::size_t>(std::max(level, 0));
     if (list == m_lists.end() || row >= list->second.size()) {
         return std::nullopt;
     }
-    return list->second[row];
+    Level found = list->second[row];
+    if (const auto& starts = over->second.Starts; row < starts.size()) {
+        found.Start = starts[row].value_or(found.Start);
+    }
+    return found;
 }
 
 } // namespace zol

@@ -58,15 +58,23 @@ public:
     void ObeyList(const RtfToken& word);
     void ObeyOverride(const RtfToken& word);
 
+    struct Level {
+        QTextListFormat::Style Style = QTextListFormat::ListDecimal;
+        int Start = 1; ///< the number of the first item
+    };
     /// Nothing if the tables do not know the list.
-    [[nodiscard]] std::optional<QTextListFormat::Style> Style(int listNumber, int level) const;
+    [[nodiscard]] std::optional<Level> Find(int listNumber, int level) const;
 
 private:
-    using Levels = std::vector<QTextListFormat::Style>;
+    using Levels = std::vector<Level>;
+    struct Override {
+        int ListID = 0;
+        std::vector<std::optional<int>> Starts; ///< of the levels that begin elsewhere
+    };
     Levels m_levels; ///< of the list being read
     std::map<int, Levels> m_lists;
-    int m_overrideOf = 0;
-    std::map<int, int> m_overrides;
+    Override m_override; ///< being read
+    std::map<int, Override> m_overrides;
 };
 
 } // namespace zol

@@ -11,13 +11,12 @@
 #include <algorithm>
 #include <string_view>
 
+#include "print/rtf/RtfNumbering.h"
 #include "print/rtf/RtfText.h"
 
 namespace zol {
 
 namespace {
-
-constexpr int Hanging = 360; // twips that a bullet or number stands out from its item
 
 std::string Word(std::string_view name) {
     std::string word = "\\";
@@ -71,11 +70,6 @@ std::string_view TabWord(QTextOption::TabType type) {
     return "";
 }
 
-/// True if the items of the list have numbers or letters; else they have bullets.
-bool IsNumbered(QTextListFormat::Style style) {
-    return style <= QTextListFormat::ListDecimal;
-}
-
 std::string_view NumberWord(QTextListFormat::Style style) {
     switch (style) {
     case QTextListFormat::ListLowerAlpha:
@@ -92,17 +86,16 @@ std::string_view NumberWord(QTextListFormat::Style style) {
 }
 
 /// The words that make a paragraph an item: the older form, which every reader knows.
-std::string ItemWords(QTextListFormat::Style style, int level) {
+std::string OldListWords(QTextListFormat::Style style, int start) {
     std::string words = "{\\*\\pn";
-    if (IsNumbered(style)) {
+    if (RtfNumbering::IsNumbered(style)) {
         words += "\\pnlvlbody";
         words += NumberWord(style);
-        words += "\\pnstart1\\pnindent360{\\pntxta .}}";
+        words += Word("pnstart", start) + Word("pnindent", TwipsPerListHanging);
+        words += "{\\pntxta .}}";
     } else {
-        words += "\\pnlvlblt\\pnindent360{\\pntxtb\\'95}}";
+        words += "\\pnlvlblt" + Word("pnindent", TwipsPerListHanging) + "{\\pntxtb\\'95}}";
     }
-    words += Word("fi", -Hanging);
-    words += Word("li", level * TwipsPerListLevel);
     return words;
 }
 
@@ -117,14 +110,15 @@ std::string ParagraphWords(const QTextBlock& block) {
     AppendTwips(words, "ri", format.rightMargin());
     AppendTwips(words, "sb", format.topMargin());
     AppendTwips(words, "sa", format.bottomMargin());
-    if (const QTextList* list = block.textList()) {
-        const int level = list->format().indent() + format.indent();
-        words += ItemWords(list->format().style(), std::clamp(level, 1, MaxListLevel));
-    } else {
-        const double indent = format.indent() * block.document()->indentWidth();
-        AppendTwips(words, "fi", format.textIndent());
-        AppendTwips(words, "li", format.leftMargin() + indent);
-    }
+    return words;
+}
+
+std::string IndentWords(const QTextBlock& block) {
+    const QTextBlockFormat format = block.blockFormat();
+    std::string words;
+    const double indent = format.indent() * block.document()->indentWidth();
+    AppendTwips(words, "fi", format.textIndent());
+    AppendTwips(words, "li", format.leftMargin() + indent);
     return words;
 }
 
@@ -141,10 +135,11 @@ std::string RtfWriter::Write() {
 
 void RtfWriter::WriteBlock(const QTextBlock& block) {
     WriteParagraph(block);
-    if (block.begin().atEnd()) {
-        WriteCharacter(block.charFormat()); // what is typed there later
-    }
-    for (auto at = block.begin(); !at.atEnd(); ++at) {
+    auto at = block.begin();
+    // An empty paragraph keeps the looks of what is typed there later.
+    WriteCharacter(at.atEnd() ? block.charFormat() : at.fragment().charFormat());
+    RtfText::AppendEscaped(m_body, QString::fromStdString(m_itemText));
+    for (; !at.atEnd(); ++at) {
         WriteCharacter(at.fragment().charFormat());
         RtfText::AppendEscaped(m_body, at.fragment().text());
     }
@@ -152,28 +147,67 @@ void RtfWriter::WriteBlock(const QTextBlock& block) {
 }
 
 void RtfWriter::WriteParagraph(const QTextBlock& block) {
-    const std::string words = ParagraphWords(block);
+    const QTextList* list = block.textList();
+    std::string words = ParagraphWords(block);
+    m_itemText.clear();
+    if (list == nullptr) {
+        m_lists.CloseBelow(0);
+        words += IndentWords(block);
+    } else {
+        words += ItemWords(block);
+    }
     if (words != m_paragraph) {
         m_body += words;
         m_body += ' ';
         m_paragraph = words;
     }
-    const QTextList* list = block.textList();
-    m_item = list == m_list ? m_item + 1 : 1;
-    m_list = list;
-    if (list != nullptr) {
-        WriteItemText(*list, list->format().style());
+    if (list != nullptr && m_itemText.empty()) {
+        WriteItemText(*list, m_items[list]);
     }
 }
 
+/// Lists that lie across each other cannot be told apart: a number that does not follow from what
+/// was written is text then.
+std::string RtfWriter::ItemWords(const QTextBlock& block) {
+    const QTextList* list = block.textList();
+    const bool isNumbered = RtfNumbering::IsNumbered(list->format().style());
+    const auto style = isNumbered ? list->format().style() : QTextListFormat::ListDisc;
+    const int level =
+        std::clamp(list->format().indent() + block.blockFormat().indent(), 1, MaxListLevel);
+    const int number = ++m_items[list];
+    m_lists.CloseBelow(level);
+    RtfListRow& row = m_lists.At(level);
+    const bool goesOn = row.GoesOnWith(style, number);
+    std::string words;
+    if (isNumbered && !goesOn && number != 1) {
+        m_itemText = RtfNumbering::ItemText(style, number);
+        m_lists.CloseBelow(0);
+    } else {
+        if (isNumbered && !goesOn) {
+            m_paragraph.clear(); // tells a list that touches one of its kind
+        }
+        if (isNumbered && !(goesOn && row.IsOpen)) {
+            row.Start = number;
+        }
+        row.Style = style;
+        row.Next = number + 1;
+        row.IsOpen = true;
+        words += OldListWords(style, row.Start);
+    }
+    return words + Word("fi", -TwipsPerListHanging) + Word("li", level * TwipsPerListLevel);
+}
+
 /// The bullet or number for readers that know no lists.
-void RtfWriter::WriteItemText(const QTextList& list, QTextListFormat::Style style) {
+void RtfWriter::WriteItemText(const QTextList& list, int number) {
+    const QTextListFormat::Style style = list.format().style();
     m_body += "{\\pntext ";
-    if (!IsNumbered(style)) {
+    if (!RtfNumbering::IsNumbered(style)) {
         m_body += "\\'95";
     } else {
-        m_body += std::to_string(m_item);
-        RtfText::AppendEscaped(m_body, list.format().numberSuffix());
+        m_body += RtfNumbering::Text(style, number);
+        const bool hasSuffix = list.format().hasProperty(QTextFormat::ListNumberSuffix);
+        RtfText::AppendEscaped(m_body,
+                               hasSuffix ? list.format().numberSuffix() : QStringLiteral("."));
     }
     m_body += "\\tab}";
 }

@@ -6,10 +6,12 @@
 #include <QColor>
 #include <QString>
 
+#include <map>
 #include <string>
 #include <vector>
 
 #include "print/rtf/RtfFormat.h"
+#include "print/rtf/RtfNumbering.h"
 
 class QTextBlock;
 class QTextBlockFormat;
@@ -32,7 +34,8 @@ public:
 private:
     void WriteBlock(const QTextBlock& block);
     void WriteParagraph(const QTextBlock& block);
-    void WriteItemText(const QTextList& list, QTextListFormat::Style style);
+    std::string ItemWords(const QTextBlock& block);
+    void WriteItemText(const QTextList& list, int number);
     void WriteCharacter(const QTextCharFormat& format);
     [[nodiscard]] RtfCharacter CharacterOf(const QTextCharFormat& format);
     [[nodiscard]] int FontRow(const QString& family);
@@ -45,8 +48,9 @@ private:
     std::vector<QColor> m_colors; ///< from row 1
     std::string m_paragraph;      ///< the words of the paragraph before
     RtfCharacter m_character;     ///< of the text before
-    const QTextList* m_list = nullptr;
-    int m_item = 0; ///< of m_list, from 1
+    RtfListRows m_lists;
+    std::map<const QTextList*, int> m_items; ///< how many of a list's were written
+    std::string m_itemText;                  ///< a number that is text of the paragraph
 };
 
 } // namespace zol

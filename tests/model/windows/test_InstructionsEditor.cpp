@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QTest>
@@ -50,6 +51,7 @@ private Q_SLOTS:
     void EnterInAnEmptyItemEndsTheList();
     void TabsAndOtherScriptsAreText();
     void PaperIsLightInADarkTheme();
+    void PartsThatEditingLosesAreTold();
 
 private:
     [[nodiscard]] QToolButton& Key(const char* name) {
@@ -383,6 +385,21 @@ void InstructionsTest::PaperIsLightInADarkTheme() {
     QVERIFY(shown.color(QPalette::Base).lightness() > 200);
     QVERIFY(Theme::Contrast(shown.color(QPalette::Base), shown.color(QPalette::Text)) > 4.5);
     QApplication::setPalette(before);
+}
+
+void InstructionsTest::PartsThatEditingLosesAreTold() {
+    const QLabel& told = *m_editor->findChild<QLabel*>(QStringLiteral("lblLeftOut"));
+    QVERIFY(!told.isVisible());
+    const std::string letter = "{\\rtf1\\ansi{\\header From home}Two {\\v three }strands.\\par}";
+    m_editor->SetInstructions(letter);
+    QVERIFY(told.isVisible());
+    QVERIFY(told.wordWrap());
+    QCOMPARE(m_editor->Instructions(), letter);
+    m_editor->SetInstructions("{\\rtf1\\ansi {\\b Two} strands.\\par}");
+    QVERIFY(!told.isVisible());
+    m_editor->SetInstructions(letter);
+    m_editor->SetInstructions("Two strands.");
+    QVERIFY(!told.isVisible());
 }
 
 } // namespace zol::test

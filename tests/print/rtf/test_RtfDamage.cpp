@@ -65,18 +65,51 @@ TEST(RtfDamageTest, RandomBytes) {
 }
 
 TEST(RtfDamageTest, RandomWords) {
-    const std::vector<std::string> words{"{",           "}",           "\\par ",
-                                         "\\b",         "\\u-10179?",  "\\'93",
-                                         "\\f1",        "\\cell",      "\\row",
-                                         "\\*",         "\\fonttbl",   "\\colortbl",
-                                         ";",           "\\uc9",       "\\pn",
-                                         "\\pntext",    "\\ls1",       "\\ilvl9",
-                                         "\\li9999",    "\\tx-5",      "\\bin3 ",
-                                         "\\pard",      "\\listid1",   "text",
-                                         "\\plain",     "\\fs3",       "\\v",
-                                         "\\line",      "\\pndec",     "\\list",
-                                         "\\listlevel", "\\listtable", "\\listoverridetable",
-                                         "\\red9"};
+    const std::vector<std::string> words{"{",
+                                         "}",
+                                         "\\par ",
+                                         "\\b",
+                                         "\\u-10179?",
+                                         "\\'93",
+                                         "\\f1",
+                                         "\\cell",
+                                         "\\row",
+                                         "\\*",
+                                         "\\fonttbl",
+                                         "\\colortbl",
+                                         ";",
+                                         "\\uc9",
+                                         "\\pn",
+                                         "\\pntext",
+                                         "\\ls1",
+                                         "\\ilvl9",
+                                         "\\li9999",
+                                         "\\tx-5",
+                                         "\\bin3 ",
+                                         "\\pard",
+                                         "\\listid1",
+                                         "text",
+                                         "\\plain",
+                                         "\\fs3",
+                                         "\\v",
+                                         "\\line",
+                                         "\\pndec",
+                                         "\\list",
+                                         "\\listlevel",
+                                         "\\listtable",
+                                         "\\listoverridetable",
+                                         "\\red9",
+                                         "\\pnstart3",
+                                         "\\levelstartat4",
+                                         "{\\pntext 2.}",
+                                         "{\\pntext c.}",
+                                         "\\levelnfc4",
+                                         "\\lfolevel",
+                                         "\\listoverride",
+                                         "{\\*\\pn\\pndec}",
+                                         "\\ls2",
+                                         "{\\pntext 1.}",
+                                         "\\li1440"};
     std::mt19937 random(11);
     for (int round = 0; round < 500; ++round) {
         std::string rtf = "{\\rtf1{\\fonttbl{\\f1\\fcharset204 A;}}";
@@ -97,9 +130,33 @@ TEST(RtfDamageTest, GroupsWithoutEnd) {
     EXPECT_EQ(TextOf(*ReadRtf("{\\rtf1" + Repeated("{\\tx9\\li9", 100000) + "b")), "b");
 }
 
+TEST(RtfDamageTest, AGroupTooDeepLeavesTheTextBehindIt) {
+    const std::string deep = "{\\rtf1 a" + Repeated("{", 600);
+    EXPECT_EQ(TextOf(*ReadRtf(deep + "{\\pict 8950}b{\\*\\x y}c")), "abc");
+    EXPECT_EQ(TextOf(*ReadRtf(deep + "{\\pict 8950{9}51}b}}c")), "abc");
+    EXPECT_EQ(TextOf(*ReadRtf(deep + "{\\pntext\\fonttbl x}b" + Repeated("}", 600) + "c")), "abc");
+    EXPECT_EQ(TextOf(*ReadRtf(deep + "{\\pict 8950" + Repeated("}", 601) + "c")), "ac");
+    EXPECT_EQ(TextOf(*ReadRtf("{\\rtf1 a" + Repeated("{\\fonttbl", 100000))), "a");
+}
+
+TEST(RtfDamageTest, ACutEscapeTakesNoOtherCharacter) {
+    for (const auto& [rtf, text] : {std::pair{"{\\rtf1 {a\\'\u00e9}b}", "a\u00e9b"},
+                                    {"{\\rtf1 {\\v a\\'\u65e5}b}", "b"},
+                                    {"{\\rtf1 {a\\'4\u65e5}b}", "a\u65e5b"},
+                                    {"{\\rtf1 {a\\'\U0001F9F5}b}", "a\U0001F9F5b"},
+                                    {"{\\rtf1 a\\'\u65e5", "a\u65e5"},
+                                    {"{\\rtf1 a\\'4\u65e5", "a\u65e5"},
+                                    {"{\\rtf1 a\\'g\U0001F9F5", "a\U0001F9F5"},
+                                    {"{\\rtf1 a\\'\xe9 b}", "a\u00e9 b"}}) {
+        EXPECT_EQ(TextOf(*ReadRtf(rtf)), text) << rtf;
+    }
+    Exercise("{\\rtf1 {a\\'\u65e5\\'4\u00e9}{\\pict\\'\U0001F9F5}b");
+}
+
 TEST(RtfDamageTest, ABinaryLengthPastTheEnd) {
     EXPECT_EQ(TextOf(*ReadRtf("{\\rtf1 a\\bin2147483647 bcd}")), "a");
     EXPECT_EQ(TextOf(*ReadRtf("{\\rtf1 a\\bin99999999999999999999 bcd}")), "a");
+    EXPECT_EQ(TextOf(*ReadRtf("{\\rtf1 a\\bin-99999999999999999999 bcd}")), "abcd");
 }
 
 TEST(RtfDamageTest, ParagraphsAreLimitedAndTheirTextStays) {
@@ -128,6 +185,9 @@ TEST(RtfDamageTest, ListsAreLimitedAndTheirTextStays) {
     const auto document = ReadRtf("{\\rtf1" + Repeated(item, Many) + "}");
     EXPECT_EQ(document->blockCount(), 2 * Many);
     EXPECT_EQ(document->toPlainText().count(QLatin1Char('a')), Many);
+    EXPECT_EQ(document->toPlainText().count(QChar(u'\u2022')), Many - RtfDocumentBuilder::MaxLists);
+    const std::string once = RTFFuncs::SaveRichText(*document);
+    EXPECT_TRUE(RTFFuncs::SaveRichText(*ReadRtf(once)) == once);
 }
 
 } // namespace zol::test

@@ -116,6 +116,25 @@ TEST_F(RtfWordProcessorTest, WritesWhatItReads) {
     }
 }
 
+TEST_F(RtfWordProcessorTest, CountsListsAlike) {
+    const std::string letter =
+        "{\\rtf1\\ansi{\\*\\listtable{\\list{\\listlevel\\levelnfc0\\levelstartat1{\\leveltext"
+        "\\'02\\'00.;}{\\levelnumbers\\'01;}}\\listid1847205512}}{\\*\\listoverridetable"
+        "{\\listoverride\\listid1847205512\\ls1}}\\pard\\ls1 cut\\par sew\\par\\pard rest\\par"
+        "\\pard\\ls1 wash\\par}";
+    const std::string shown = "1.cut\n2.sew\nrest\n3.wash\n";
+    WriteFile(m_folder / "letter.rtf", letter);
+    WriteFile(m_folder / "ours.rtf", RTFFuncs::SaveRichText(*ReadRtf(letter)));
+    for (const char* name : {"letter", "ours"}) {
+        std::string text = Converted(std::string(name) + ".rtf", "txt:Text (encoded):UTF8",
+                                     std::string(name) + ".txt");
+        std::erase(text, '\t');
+        std::erase(text, ' ');
+        std::erase(text, '\r');
+        EXPECT_NE(text.find(shown), std::string::npos) << name << ": " << text;
+    }
+}
+
 TEST_F(RtfWordProcessorTest, KeepsEveryLookOfTheEditor) {
     QTextDocument document;
     QTextCursor cursor(&document);
