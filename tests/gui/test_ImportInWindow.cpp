@@ -165,13 +165,21 @@ void ImportInWindowTest::AnImportThatWasLeftIsResumedOrNot() {
     });
     QCOMPARE(BytesOf(program.Parts().Open.Get()), before);
     QVERIFY(!program.Design().IsChanged());
+    // A question that is left unanswered changes nothing: no wizard comes up, and none is lost.
+    program.User.answers = {MessageAnswer::Cancel};
+    {
+        const DialogDriver nobody({});
+        program.Choose("mnuImport");
+        program.Settle();
+        QVERIFY(nobody.AllDone());
+    }
     program.User.answers = {MessageAnswer::Yes};
     Import(program, [](frmImportWizard& wizard) {
         QCOMPARE(wizard.CurrentScreen(), 3);
         QCOMPARE(PartOf<QLineEdit>(wizard, "txtWidth").text(), QStringLiteral("31"));
     });
     QCOMPARE(program.User.AskedTexts(),
-             std::vector<std::string>{"Would you like to resume the last Import?"});
+             std::vector<std::string>(2, "Would you like to resume the last Import?"));
     program.User.answers = {MessageAnswer::No};
     Import(program, [](frmImportWizard& wizard) {
         QCOMPARE(wizard.CurrentScreen(), 0);

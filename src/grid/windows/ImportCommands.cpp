@@ -31,11 +31,17 @@ void ImportCommands::ForgetImport() {
 }
 
 void ImportCommands::Import() {
+    bool resume = false;
+    if (m_wizard != nullptr && m_wizard->HasWork()) {
+        const MessageAnswer answer = m_workshop.Messages.Ask(
+            "Would you like to resume the last Import?", MessageIcon::Question,
+            MessageButtons::YesNo, ImportMessages::Title);
+        if (answer == MessageAnswer::Cancel) {
+            return; // neither: the import that was left stays to be resumed
+        }
+        resume = answer == MessageAnswer::Yes;
+    }
     const std::optional<SquareRect> editBox = LandEditBox();
-    const bool resume =
-        m_wizard != nullptr && m_wizard->HasWork() &&
-        m_workshop.Messages.Ask("Would you like to resume the last Import?", MessageIcon::Question,
-                                MessageButtons::YesNo, ImportMessages::Title) == MessageAnswer::Yes;
     if (resume) {
         m_wizard->Resume();
     } else {
