@@ -18,6 +18,13 @@ namespace {
 constexpr std::size_t largestCsv = 16'000'000;
 
 std::string ReadCsv(const std::string& fileName) {
+    if (fileName == "-") {
+        const auto bytes = ReadStandardInput();
+        if (bytes.size() > largestCsv) {
+            throw CommandFailed("standard input is too large for a catalogue");
+        }
+        return {bytes.begin(), bytes.end()};
+    }
     std::ifstream file(PathOf(fileName), std::ios::binary);
     std::string text(largestCsv + 1, '\0');
     file.read(text.data(), static_cast<std::streamsize>(text.size()));
@@ -38,6 +45,9 @@ std::int64_t DateOf(const std::string& fileName) {
             return *seconds;
         }
         throw WrongUsage("SOURCE_DATE_EPOCH is no number of seconds");
+    }
+    if (fileName == "-") {
+        throw WrongUsage("standard input has no date: set SOURCE_DATE_EPOCH");
     }
     using std::chrono::file_clock;
     const auto written = std::filesystem::last_write_time(PathOf(fileName));
@@ -62,11 +72,12 @@ void RunCatalogue(Environment& environment, const CommandWords& words) {
     const std::string shortName = line.Required("--short-name");
     (void)line.Required("--base-id");
     const auto baseID = line.Integer("--base-id", 0, INT32_MAX);
+    const std::string table = ReadCsv(input);
     const auto bytes =
-        BuildCatalogue(ReadCsv(input), name, shortName,
-                       static_cast<std::int32_t>(baseID.value_or(0)), CatalogueDate(DateOf(input)));
+        BuildCatalogue(table, name, shortName, static_cast<std::int32_t>(baseID.value_or(0)),
+                       CatalogueDate(DateOf(input)));
     WriteOutput(output, bytes);
-    environment.Say(output + ": " + std::to_string(bytes.size()) + " bytes");
+    environment.Say(output, std::to_string(bytes.size()) + " bytes");
 }
 
 } // namespace zol

@@ -149,7 +149,7 @@ void RunChart(Environment& environment, const CommandWords& words) {
         return;
     }
     const int pages = WriteChart(environment, pattern, chart, PathOf(output));
-    environment.Say(output + ": " + std::to_string(pages) + (pages == 1 ? " page" : " pages"));
+    environment.Say(output, std::to_string(pages) + (pages == 1 ? " page" : " pages"));
 }
 
 } // namespace zol

@@ -37,9 +37,9 @@ void ShrinkToFit(EditScript& s, Arguments& a) {
 }
 
 void Resize(EditScript& s, Arguments& a) {
-    const SquareRect size = ReadRect(a);
+    const SizeWords size = ReadSize(a);
     a.ExpectEnd();
-    s.GetPattern().Resize(size.Left, size.Top, size.Right, size.Bottom);
+    s.GetPattern().Resize(size.Width, size.Height, size.ClothCountX, size.ClothCountY);
     s.GetPattern().SetChanged(true);
 }
 

@@ -28,11 +28,20 @@ std::string ReadScript(const std::string& fileName) {
 }
 
 /// What a script starts on when it is given no pattern.
-void StartAfresh(Environment& environment, Pattern& pattern) {
+void StartAfresh(Pattern& pattern) {
     constexpr int size = 100;
     constexpr int clothCount = 14;
-    environment.Context().StartupPalette.reset();
     pattern.Initialize(size, size, clothCount, clothCount);
+}
+
+/// Each standard stream can carry one thing.
+void CheckStreams(const CommandLine& line, const std::string& script, const std::string& output) {
+    if (script == "-" && !line.Files().empty() && line.Files()[0] == "-") {
+        throw WrongUsage("pattern and script cannot both come from standard input");
+    }
+    if (output == "-" && line.Has("--dump")) {
+        throw WrongUsage("pattern and --dump cannot both go to standard output");
+    }
 }
 
 } // namespace
@@ -42,11 +51,16 @@ void RunEdit(Environment& environment, const CommandWords& words) {
     line.ExpectFiles(0, 1);
     const std::string scriptName = line.Required("--script");
     const std::string output = line.Required("-o");
+    CheckStreams(line, scriptName, output);
     const std::string script = ReadScript(scriptName);
 
+    if (line.Files().empty()) {
+        // A pattern takes the makers of the flosses that it is made with, so before it is.
+        environment.Context().StartupPalette.reset();
+    }
     Pattern pattern(environment.Context());
     if (line.Files().empty()) {
-        StartAfresh(environment, pattern);
+        StartAfresh(pattern);
     } else {
         environment.LoadPattern(pattern, line.Files()[0]);
     }

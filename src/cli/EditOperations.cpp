@@ -4,6 +4,7 @@
 #include "cli/EditOperations.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace zol {
 
@@ -13,6 +14,14 @@ SquareRect ReadRect(EditScript::Arguments& a) {
     const int right = a.Number();
     const int bottom = a.Number();
     return {left, top, right, bottom};
+}
+
+SizeWords ReadSize(EditScript::Arguments& a) {
+    const int width = a.Number();
+    const int height = a.Number();
+    const int clothCountX = a.Number(INT16_MIN, INT16_MAX);
+    const int clothCountY = a.Number(INT16_MIN, INT16_MAX);
+    return {width, height, clothCountX, clothCountY};
 }
 
 const EditOperation* FindEditOperation(std::string_view name) {

@@ -27,7 +27,16 @@ struct EditOperation {
 [[nodiscard]] std::span<const EditOperation> EditAreaOperations();
 [[nodiscard]] std::span<const EditOperation> EditPaletteOperations();
 
-/// Four numbers as a rectangle, or as two pairs.
+/// Four numbers as a rectangle.
 [[nodiscard]] SquareRect ReadRect(EditScript::Arguments& arguments);
+
+/// A pattern's width and height, and stitches an inch both ways.
+struct SizeWords {
+    int Width;
+    int Height;
+    int ClothCountX;
+    int ClothCountY;
+};
+[[nodiscard]] SizeWords ReadSize(EditScript::Arguments& arguments);
 
 } // namespace zol

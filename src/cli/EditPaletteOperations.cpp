@@ -19,9 +19,9 @@ void AddPaletteEntry(EditScript& s, Arguments& a) {
     const std::string description = a.Text();
     const std::string manufacturer = a.Text();
     const std::string symbol = a.Text();
-    const int strands = a.Number();
-    const int backStrands = a.Number();
-    const int tag = a.Number();
+    const int strands = a.Number(INT16_MIN, INT16_MAX);
+    const int backStrands = a.Number(INT16_MIN, INT16_MAX);
+    const int tag = a.Number(INT16_MIN, INT16_MAX);
     const int masterID = a.Number();
     const int lineStyle = a.Byte();
     const std::string longManufacturer = a.Text();
@@ -35,6 +35,15 @@ void AddPaletteEntry(EditScript& s, Arguments& a) {
     }
 }
 
+/// Strands, or the number that leaves them as they are.
+int ReadStrands(Arguments& a) {
+    const int strands = a.Number();
+    if (strands != Palette::KeepStrands && (strands < INT16_MIN || strands > INT16_MAX)) {
+        throw CommandFailed("there cannot be " + std::to_string(strands) + " strands");
+    }
+    return strands;
+}
+
 void ChangePaletteEntry(EditScript& s, Arguments& a) {
     const int index = a.Number();
     const int rgb = a.Number();
@@ -42,8 +51,8 @@ void ChangePaletteEntry(EditScript& s, Arguments& a) {
     const std::string description = a.Text();
     const std::string manufacturer = a.Text();
     const int masterID = a.Number();
-    const int strands = a.Number();
-    const int backStrands = a.Number();
+    const int strands = ReadStrands(a);
+    const int backStrands = ReadStrands(a);
     a.ExpectEnd();
     s.GetPattern().GetPalette().ChangePaletteEntry(index, static_cast<Colour>(rgb), id, description,
                                                    manufacturer, masterID, strands, backStrands);

@@ -36,9 +36,9 @@ void SetProperty(EditScript& s, Arguments& a) {
 }
 
 void Initialize(EditScript& s, Arguments& a) {
-    const SquareRect size = ReadRect(a);
+    const SizeWords size = ReadSize(a);
     a.ExpectEnd();
-    s.GetPattern().Initialize(size.Left, size.Top, size.Right, size.Bottom);
+    s.GetPattern().Initialize(size.Width, size.Height, size.ClothCountX, size.ClothCountY);
 }
 
 /// The words of SetStitch and its like.
@@ -109,12 +109,20 @@ void RemoveBackStitchLine(EditScript& s, Arguments& a) {
     s.GetPattern().RemoveBackStitchLine(index);
 }
 
+/// Changes the floss or style of one line.
 template<void (Pattern::*Change)(int, int)>
-void ChangeTwo(EditScript& s, Arguments& a) {
-    const int first = a.Number();
-    const int second = a.Number();
+void ChangeLine(EditScript& s, Arguments& a) {
+    const int index = a.Number();
+    const int value = a.Byte();
     a.ExpectEnd();
-    (s.GetPattern().*Change)(first, second);
+    (s.GetPattern().*Change)(index, value);
+}
+
+void Changebackstitchline(EditScript& s, Arguments& a) {
+    const int floss = a.Byte();
+    const int picture = a.Byte();
+    a.ExpectEnd();
+    s.GetPattern().Changebackstitchline(floss, picture);
 }
 
 void FixBackStitchLines(EditScript& s, Arguments& a) {
@@ -156,9 +164,9 @@ constexpr std::array patternOperations{
     EditOperation{"SetBackstitchLine", SetBackstitchLine},
     EditOperation{"AddBackStitchLine", AddBackStitchLine},
     EditOperation{"RemoveBackStitchLine", RemoveBackStitchLine},
-    EditOperation{"ChangeBSColor", ChangeTwo<&Pattern::ChangeBSColor>},
-    EditOperation{"ChangeBSStyle", ChangeTwo<&Pattern::ChangeBSStyle>},
-    EditOperation{"Changebackstitchline", ChangeTwo<&Pattern::Changebackstitchline>},
+    EditOperation{"ChangeBSColor", ChangeLine<&Pattern::ChangeBSColor>},
+    EditOperation{"ChangeBSStyle", ChangeLine<&Pattern::ChangeBSStyle>},
+    EditOperation{"Changebackstitchline", Changebackstitchline},
     EditOperation{"FixBackStitchLines", FixBackStitchLines},
     EditOperation{"MirrorAxis", MirrorAxisOf},
     EditOperation{"MirrorCentre", MirrorCentre},

@@ -84,12 +84,17 @@ std::int16_t EditScript::Arguments::Short() {
     return static_cast<std::int16_t>(number);
 }
 
-int EditScript::Arguments::Byte() {
+int EditScript::Arguments::Number(int least, int most) {
     const int number = Number();
-    if (number < 0 || number > 255) {
-        throw CommandFailed(std::to_string(number) + " is not between 0 and 255");
+    if (number < least || number > most) {
+        throw CommandFailed(std::to_string(number) + " is not between " + std::to_string(least) +
+                            " and " + std::to_string(most));
     }
     return number;
+}
+
+int EditScript::Arguments::Byte() {
+    return Number(0, std::numeric_limits<std::uint8_t>::max());
 }
 
 std::string EditScript::Arguments::Text() {

@@ -34,10 +34,12 @@ public:
     public:
         explicit Arguments(std::vector<Word> words) : m_words(std::move(words)) {}
         [[nodiscard]] int Number();
+        /// A number between the two, which are allowed.
+        [[nodiscard]] int Number(int least, int most);
         [[nodiscard]] std::string Text();
         /// A coordinate or position of a line's record.
         [[nodiscard]] std::int16_t Short();
-        /// A floss number or kind that a byte holds.
+        /// A floss number, a kind or a line style: what a byte holds.
         [[nodiscard]] int Byte();
         /// Throws CommandFailed if a word is left.
         void ExpectEnd() const;

@@ -83,13 +83,16 @@ Environment::Environment(const GlobalOptions& global)
     m_context.RecolorPatterns = false;
 }
 
-void Environment::Say(const std::string& text) const {
-    if (!m_quiet) {
-        std::cout << text << '\n';
+void Environment::Say(const std::string& output, const std::string& text) const {
+    if (!m_quiet && output != "-") {
+        std::cout << output << ": " << text << '\n';
     }
 }
 
+// What was told before, at the start for one, is no word about the file that comes now.
+
 void Environment::LoadPattern(Pattern& pattern, const std::string& fileName) {
+    m_messages.Clear();
     int result = 0;
     if (fileName == "-") {
         const auto bytes = ReadStandardInput();
@@ -105,6 +108,7 @@ void Environment::LoadPattern(Pattern& pattern, const std::string& fileName) {
 }
 
 Palette Environment::LoadPalette(const std::string& fileName) {
+    m_messages.Clear();
     std::error_code error;
     if (!std::filesystem::is_regular_file(PathOf(fileName), error)) {
         throw CommandFailed(fileName + " cannot be read", RunTimeErrorText(ErrFileNotFound));
@@ -133,6 +137,7 @@ AvailColors Environment::LoadCatalogue(const std::string& fileName) {
 }
 
 void Environment::SavePattern(Pattern& pattern, const std::string& fileName) {
+    m_messages.Clear();
     int result = 0;
     if (fileName == "-") {
         ByteWriter stream;

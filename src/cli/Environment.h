@@ -27,6 +27,7 @@ public:
     MessageAnswer Ask(const std::string& text, MessageIcon icon, MessageButtons buttons,
                       const std::string& title) override;
     [[nodiscard]] const std::string& Text() const { return m_text; }
+    void Clear() { m_text.clear(); }
 
 private:
     std::string m_text;
@@ -68,9 +69,9 @@ public:
 
     [[nodiscard]] ProgramContext& Context() { return m_context; }
     [[nodiscard]] const Options& GetOptions() const { return m_options; }
-    [[nodiscard]] const LastMessage& Messages() const { return m_messages; }
-    /// A line about what was done, for people; nothing with --quiet.
-    void Say(const std::string& text) const;
+    /// A line about the output that was written, for people; nothing with --quiet, nor where the
+    /// output itself went to standard output.
+    void Say(const std::string& output, const std::string& text) const;
 
     /// Throws CommandFailed with the words that a window would show last. "-" reads standard
     /// input.

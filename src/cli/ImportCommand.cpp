@@ -168,9 +168,8 @@ void ChooseFlosses(Environment& environment, const CommandLine& line, ImportSess
     session.ChooseCatalogue(catalogue);
 }
 
-std::string Summary(const std::string& output, const Pattern& pattern,
-                    const ImportFigures& figures) {
-    std::string text = output + ": " + std::to_string(pattern.GetPatternWidth()) + " x " +
+std::string Summary(const Pattern& pattern, const ImportFigures& figures) {
+    std::string text = std::to_string(pattern.GetPatternWidth()) + " x " +
                        std::to_string(pattern.GetPatternHeight()) + " squares, " +
                        std::to_string(figures.Flosses.size()) + " flosses, " +
                        std::to_string(figures.Stitches) + " stitches";
@@ -179,6 +178,13 @@ std::string Summary(const std::string& output, const Pattern& pattern,
                 " flosses share their symbol with another one";
     }
     return text;
+}
+
+/// Any number at all, as the wizard's message tells which ones a pattern can have.
+int MaxColorsOf(const CommandLine& line) {
+    const std::int64_t number =
+        line.Integer("--max-colors", INT64_MIN, INT64_MAX).value_or(defaultMaxColors);
+    return static_cast<int>(std::clamp<std::int64_t>(number, INT32_MIN, INT32_MAX));
 }
 
 CommandLine ParseWords(const CommandWords& words) {
@@ -243,8 +249,7 @@ void RunImport(Environment& environment, const CommandWords& words) {
     }
     const auto steps = AdjustmentsOf(line);
     const ImportSize rules = SizeRulesOf(line);
-    const int maxColors = static_cast<int>(
-        line.Integer("--max-colors", INT16_MIN, INT16_MAX).value_or(defaultMaxColors));
+    const int maxColors = MaxColorsOf(line);
 
     ImportSession session(environment.Context());
     ChooseFlosses(environment, line, session);
@@ -260,9 +265,7 @@ void RunImport(Environment& environment, const CommandWords& words) {
     }
     pattern.GetPalette().Sort(environment.GetOptions().PaletteSortOrder);
     environment.SavePattern(pattern, output);
-    if (output != "-") {
-        environment.Say(Summary(output, pattern, session.Figures()));
-    }
+    environment.Say(output, Summary(pattern, session.Figures()));
 }
 
 } // namespace zol

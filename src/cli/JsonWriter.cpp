@@ -61,7 +61,12 @@ void JsonWriter::Number(std::int64_t value) {
 
 void JsonWriter::Decimal(double value) {
     Separate();
-    const double rounded = std::nearbyint(value * 1e6) / 1e6;
+    if (!std::isfinite(value)) {
+        m_out << "null"; // no number, for which there is no other word
+        return;
+    }
+    const double millionths = value * 1e6;
+    const double rounded = std::isfinite(millionths) ? std::nearbyint(millionths) / 1e6 : value;
     std::array<char, 400> buffer{};
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), rounded,
                                    std::chars_format::fixed);

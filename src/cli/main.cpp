@@ -19,6 +19,7 @@ using namespace zol;
 
 constexpr int exitFailed = 1;
 constexpr int exitUsage = 2;
+constexpr std::string_view versionOption = "--version";
 constexpr std::string_view globalUsage =
     "korvanta-cli [--app-path DIR] [--settings FILE] [--quiet] COMMAND ...";
 
@@ -29,6 +30,10 @@ void PrintHelp(std::ostream& out) {
             << '\n';
     }
     out << "\n\"korvanta-cli COMMAND --help\" tells a command's options.\n";
+}
+
+bool AsksForHelp(const std::string& word) {
+    return word == "--help" || word == "-h";
 }
 
 /// Takes the options before the command off the front of the words.
@@ -42,6 +47,9 @@ GlobalOptions TakeGlobalOptions(std::vector<std::string>& words) {
         return PathOf(words[++used]);
     };
     for (; used < words.size() && words[used].starts_with("-"); ++used) {
+        if (AsksForHelp(words[used]) || words[used] == versionOption) {
+            break; // asked of the program, whatever stands before
+        }
         const std::string option = words[used];
         if (option == "--app-path") {
             global.AppPath = valueOf(option);
@@ -76,15 +84,15 @@ std::unique_ptr<QCoreApplication> MakeApplication(const Command& command, int& a
 
 int RunCommand(int argc, char** argv) {
     std::vector<std::string> words(argv + 1, argv + argc);
-    if (!words.empty() && (words[0] == "--help" || words[0] == "-h")) {
+    const GlobalOptions global = TakeGlobalOptions(words);
+    if (!words.empty() && AsksForHelp(words[0])) {
         PrintHelp(std::cout);
         return 0;
     }
-    if (std::find(words.begin(), words.end(), "--version") != words.end()) {
+    if (std::find(words.begin(), words.end(), versionOption) != words.end()) {
         std::cout << "korvanta-cli " KORVANTA_VERSION "\n";
         return 0;
     }
-    const GlobalOptions global = TakeGlobalOptions(words);
     if (words.empty()) {
         throw WrongUsage("a command is missing");
     }

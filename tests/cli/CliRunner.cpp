@@ -58,27 +58,42 @@ std::vector<std::string> CliRunner::Names() const {
     return names;
 }
 
-CliResult CliRunner::RunBare(const std::vector<std::string>& words,
-                             const std::string& input) const {
+CliResult CliRunner::Start(const std::vector<std::string>& words, const std::string& input,
+                           const std::filesystem::path& output) const {
     WriteFile(m_folder / ".runner-in", input);
     const pid_t child = ::fork();
     if (child == 0) {
         Redirect(m_folder / ".runner-in", O_RDONLY, STDIN_FILENO);
-        Redirect(m_folder / ".runner-out", O_WRONLY | O_CREAT | O_TRUNC, STDOUT_FILENO);
+        Redirect(output, O_WRONLY | O_CREAT | O_TRUNC, STDOUT_FILENO);
         Redirect(m_folder / ".runner-err", O_WRONLY | O_CREAT | O_TRUNC, STDERR_FILENO);
         Execute(words);
     }
     int status = 0;
     ::waitpid(child, &status, 0);
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status), Read(".runner-out"),
-            Read(".runner-err")};
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status), {}, Read(".runner-err")};
 }
 
-CliResult CliRunner::Run(const std::vector<std::string>& words, const std::string& input) const {
+std::vector<std::string> CliRunner::WithOptions(const std::vector<std::string>& words) const {
     std::vector<std::string> all{"--app-path", File(".runner-app"), "--settings",
                                  File(".runner-settings.ini")};
     all.insert(all.end(), words.begin(), words.end());
-    return RunBare(all, input);
+    return all;
+}
+
+CliResult CliRunner::RunBare(const std::vector<std::string>& words,
+                             const std::string& input) const {
+    CliResult result = Start(words, input, m_folder / ".runner-out");
+    result.out = Read(".runner-out");
+    return result;
+}
+
+CliResult CliRunner::Run(const std::vector<std::string>& words, const std::string& input) const {
+    return RunBare(WithOptions(words), input);
+}
+
+CliResult CliRunner::RunInto(const std::filesystem::path& output,
+                             const std::vector<std::string>& words) const {
+    return Start(WithOptions(words), {}, output);
 }
 
 std::string CliRunner::Pattern(const std::string& name, const std::string& script) const {

@@ -42,10 +42,21 @@ public:
     CliResult Run(const std::vector<std::string>& words, const std::string& input = {}) const;
     /// Runs exactly these words.
     CliResult RunBare(const std::vector<std::string>& words, const std::string& input = {}) const;
+    /// Runs a command, with this runner's settings and program folder, whose output goes to a file.
+    CliResult RunInto(const std::filesystem::path& output,
+                      const std::vector<std::string>& words) const;
+    /// What belongs to the program folder, a file's name in it.
+    [[nodiscard]] std::filesystem::path InProgramFolder(const std::string& name) const {
+        return m_folder / ".runner-app" / name;
+    }
     /// Makes a pattern from a script; its path.
     [[nodiscard]] std::string Pattern(const std::string& name, const std::string& script) const;
 
 private:
+    [[nodiscard]] std::vector<std::string> WithOptions(const std::vector<std::string>& words) const;
+    CliResult Start(const std::vector<std::string>& words, const std::string& input,
+                    const std::filesystem::path& output) const;
+
     TempFolder m_folder;
 };
 

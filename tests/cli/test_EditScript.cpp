@@ -55,6 +55,26 @@ TEST_F(ScriptTest, FirstWrongLineIsToldWithItsNumber) {
               "line 1: 99999 is no place in a pattern");
 }
 
+TEST_F(ScriptTest, NumbersThatDoNotFitAreRefused) {
+    Run("AddBackStitchLine 3 3 1 3 3 1 2 0");
+    for (const char* line :
+         {"ChangeBSColor 1 300", "ChangeBSColor 1 -1", "ChangeBSStyle 1 256",
+          "Changebackstitchline 258 2", "Changebackstitchline 2 257", "Initialize 5 5 32768 14",
+          "Initialize 5 5 14 65550", "Resize 5 5 -32769 14", "Resize 5 5 14 70000",
+          "ChangePaletteEntry 1 0 \"i\" \"d\" \"M\" 0 70000 1",
+          "ChangePaletteEntry 1 0 \"i\" \"d\" \"M\" 0 1 32768",
+          "AddPaletteEntry 0 \"1\" \"d\" \"M\" \"A\" 70000 1 0 0 0 \"Maker\"",
+          "AddPaletteEntry 0 \"1\" \"d\" \"M\" \"A\" 1 1 70000 0 0 \"Maker\""}) {
+        EXPECT_EQ(Failure(line).substr(0, 8), "line 1: ") << line;
+    }
+    EXPECT_EQ(pattern.GetBackStitchLine(1).PaletteIndex, 2);
+    EXPECT_EQ(pattern.GetBackStitchLine(1).LineStyle, LineStraight);
+    EXPECT_EQ(pattern.GetPatternWidth(), 20);
+    EXPECT_EQ(pattern.GetPatternClothCountY(), 14);
+    EXPECT_EQ(pattern.GetPalette().GetFlossStitchStrands(1), 2);
+    EXPECT_EQ(Failure("ChangeBSColor 1 300"), "line 1: 300 is not between 0 and 255");
+}
+
 TEST_F(ScriptTest, WrongLineChangesNothingItself) {
     EXPECT_NE(Failure("SetStitch 1 1 1 1 0 99"), "");
     EXPECT_EQ(pattern.GetStitchCount(1, 1), 0);

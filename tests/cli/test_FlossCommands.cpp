@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <limits>
 
 #include "cli/CliRunner.h"
 
@@ -65,9 +66,36 @@ TEST_F(FlossCommands, TwoBuildsAreEqual) {
 TEST_F(FlossCommands, DamagedTableIsToldWithItsLineAndWritesNothing) {
     const CliResult result = Build(std::string(csvHeader) + "310,Black,1,2,300,1\n");
     EXPECT_EQ(result.exitCode, 1);
-    EXPECT_THAT(result.err, HasSubstr("2"));
+    EXPECT_THAT(result.err, StartsWith("korvanta-cli: Line 2: Blue \"300\" is no number"));
     EXPECT_FALSE(cli.Exists("out.col"));
     EXPECT_EQ(Build("").exitCode, 1);
+}
+
+TEST_F(FlossCommands, CatalogueGoesThroughStandardStreams) {
+    const std::string csv = std::string(csvHeader) + "310,Black,1,2,3,258\n";
+    const std::vector<std::string> words{"catalogue", "build",     "-",    "-o",
+                                         "-",         "--name",    "Test", "--short-name",
+                                         "Test",      "--base-id", "7"};
+    const CliResult undated = cli.Run(words, csv);
+    EXPECT_EQ(undated.exitCode, 2);
+    EXPECT_THAT(undated.err, HasSubstr("SOURCE_DATE_EPOCH"));
+    ::setenv("SOURCE_DATE_EPOCH", "86400", 1);
+    const CliResult piped = cli.Run(words, csv);
+    const CliResult built = Build(csv);
+    ::unsetenv("SOURCE_DATE_EPOCH");
+    EXPECT_EQ(piped.exitCode, 0) << piped.err;
+    ASSERT_EQ(built.exitCode, 0) << built.err;
+    EXPECT_EQ(built.out, cli.File("out.col") + ": 111 bytes\n");
+    EXPECT_TRUE(piped.out == cli.Read("out.col")) << piped.out.size();
+}
+
+TEST_F(FlossCommands, DateThatIsNoNumberIsNull) {
+    ASSERT_EQ(Build(std::string(csvHeader) + "310,Black,1,2,3,258\n").exitCode, 0);
+    std::string bytes = cli.Read("out.col");
+    const double date = std::numeric_limits<double>::quiet_NaN();
+    std::copy_n(reinterpret_cast<const char*>(&date), sizeof date, bytes.data() + 44);
+    EXPECT_THAT(cli.Run({"dump", cli.Write("odd.col", bytes)}).out,
+                StartsWith("{\"BaseID\":7,\"Date\":null,"));
 }
 
 TEST_F(FlossCommands, InfoAndDumpTellOfCataloguesAndPalettes) {

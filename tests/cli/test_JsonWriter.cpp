@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <limits>
 #include <sstream>
 
 #include "cli/JsonWriter.h"
@@ -36,6 +38,20 @@ TEST(JsonWriter, DecimalsHaveAPointAndAtMostSixPlaces) {
     }
     json.EndArray();
     EXPECT_EQ(out.str(), "[0.0,2.0,0.1,0.333333,1234567.891235]");
+}
+
+TEST(JsonWriter, WhatIsNoNumberIsNull) {
+    std::ostringstream out;
+    JsonWriter json(out);
+    json.BeginArray();
+    for (const double value : {std::nan(""), std::numeric_limits<double>::infinity(),
+                               -std::numeric_limits<double>::infinity(), 1e300}) {
+        json.Decimal(value);
+    }
+    json.EndArray();
+    const std::string text = out.str();
+    EXPECT_EQ(text.substr(0, 16), "[null,null,null,");
+    EXPECT_EQ(text.size(), 16U + 301U + 3U) << text;
 }
 
 } // namespace

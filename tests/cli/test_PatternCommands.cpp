@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 
 #include "cli/CliRunner.h"
+#include "model/Pattern.h"
+#include "support/TestFiles.h"
 
 namespace zol {
 namespace {
@@ -13,6 +15,7 @@ using test::CliRunner;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Not;
 using ::testing::StartsWith;
 
 class PatternCommands : public ::testing::Test {
@@ -26,6 +29,15 @@ TEST_F(PatternCommands, HelpAndVersionSucceed) {
     EXPECT_THAT(help.out, HasSubstr("Commands:"));
     EXPECT_EQ(cli.RunBare({"--version"}).out, "korvanta-cli 6.4.16\n");
     EXPECT_THAT(cli.RunBare({"info", "--help"}).out, HasSubstr("info FILE [--json]"));
+    for (const std::vector<std::string>& options : {std::vector<std::string>{"--quiet"},
+                                                    {"--app-path", "D"},
+                                                    {"--settings", "S", "--quiet"}}) {
+        std::vector<std::string> words = options;
+        words.emplace_back("--help");
+        EXPECT_EQ(cli.RunBare(words).out, help.out);
+        words.back() = "--version";
+        EXPECT_EQ(cli.RunBare(words).out, "korvanta-cli 6.4.16\n");
+    }
 }
 
 TEST_F(PatternCommands, WrongUsageExitsWithTwo) {
@@ -35,6 +47,9 @@ TEST_F(PatternCommands, WrongUsageExitsWithTwo) {
                                                   {"info", "a", "b"},
                                                   {"info", "--yaml", "a"},
                                                   {"edit", "-o", "x.pat"},
+                                                  {"edit", "-", "--script", "-", "-o", "x.pat"},
+                                                  {"edit", "--script", "-", "-o", "-", "--dump"},
+                                                  {"--quiet", "--yaml", "--help"},
                                                   {"--app-path"}}) {
         const CliResult result = cli.RunBare(words);
         EXPECT_EQ(result.exitCode, 2);
@@ -105,6 +120,24 @@ TEST_F(PatternCommands, ConvertKnowsTheFormatByTheName) {
     EXPECT_FALSE(cli.Exists("p.jpg"));
 }
 
+TEST_F(PatternCommands, NewPatternHasTheBuiltInPaletteAlone) {
+    (void)cli.Pattern("plain.pat", "SetTitle \"\"\n");
+    const std::string makers = cli.Pattern(
+        "own.pat", "AddPaletteEntry 0 \"1\" \"d\" \"Own\" \"\" 2 1 0 0 0 \"My own threads\"\n");
+    ProgramContext context;
+    Pattern own(context);
+    ASSERT_EQ(own.Load(makers), 0);
+    ASSERT_EQ(own.GetPalette().SaveToDisk(cli.InProgramFolder("Default.fls")), 0);
+    (void)cli.Pattern("again.pat", "SetTitle \"\"\n");
+    EXPECT_EQ(cli.Read("again.pat"), cli.Read("plain.pat"));
+}
+
+TEST_F(PatternCommands, WhatWasToldAtTheStartIsNoReasonForALaterFailure) {
+    test::WriteFile(cli.InProgramFolder("Default.fls"), "no palette at all, and told so");
+    const std::string cut = cli.Write("cut.pat", "Dear diary");
+    EXPECT_THAT(cli.Run({"info", cut}).err, Not(HasSubstr("Invalid File Format")));
+}
+
 TEST_F(PatternCommands, FullDiskLeavesNoFileAndSaysSo) {
     const std::string script = cli.Write("s", "SetStitch 1 1 1 1 0\n");
     const CliResult result = cli.Run({"edit", "--script", script, "-o", "/dev/full"});
@@ -146,7 +179,20 @@ TEST_F(PatternCommands, KindsThatCannotBeReadYetSaySo) {
 
 TEST_F(PatternCommands, OutputThatCannotBeWrittenFails) {
     const std::string file = cli.Pattern("p.pat", "SetStitch 1 1 1 1 0\n");
-    EXPECT_EQ(cli.Run({"info", file, "--json"}).out.back(), '\n');
+    for (const std::vector<std::string>& words : {std::vector<std::string>{"info", file},
+                                                  {"info", file, "--json"},
+                                                  {"dump", file},
+                                                  {"usage", file},
+                                                  {"convert", file, "-"},
+                                                  {"legend", file, "-o", "-"}}) {
+        const CliResult result = cli.RunInto("/dev/full", words);
+        EXPECT_EQ(result.exitCode, 1) << words[0];
+        EXPECT_EQ(result.err, "korvanta-cli: standard output cannot be written\n") << words[0];
+    }
+}
+
+TEST_F(PatternCommands, InfoTellsOfPatterns) {
+    const std::string file = cli.Pattern("p.pat", "SetStitch 1 1 1 1 0\n");
     EXPECT_THAT(cli.Run({"info", file, "--json"}).out,
                 HasSubstr("\"kind\":\"pattern\",\"knots\":0,\"lines\":0,"
                           "\"release\":\"6.4.16\",\"stitches\":1"));

@@ -101,7 +101,13 @@ TEST_F(PictureCommands, MaxColorsOutsideIsTheWizardsMessage) {
               "korvanta-cli: Pattern must contain at least one color\n");
     EXPECT_EQ(Import({"--max-colors", "201"}).err,
               "korvanta-cli: Pattern can contain no more than 200 colors\n");
-    EXPECT_EQ(Import({"--max-colors", "201"}).exitCode, 1);
+    for (const char* number : {"201", "40000", "9000000000", "-40000"}) {
+        const CliResult result = Import({"--max-colors", number});
+        EXPECT_EQ(result.exitCode, 1) << number;
+        EXPECT_EQ(result.err, number[0] == '-'
+                                  ? "korvanta-cli: Pattern must contain at least one color\n"
+                                  : "korvanta-cli: Pattern can contain no more than 200 colors\n");
+    }
     EXPECT_EQ(Import({"--width", "0"}).err,
               "korvanta-cli: Pattern width must be greater than zero\n");
     EXPECT_FALSE(cli.Exists("out.pat"));
