@@ -20,6 +20,8 @@
 #include <QTextList>
 #include <QToolButton>
 
+#include <algorithm>
+#include <initializer_list>
 #include <optional>
 
 #include "settings/basCommonFunctions.h"
@@ -75,13 +77,17 @@ void ShowInBox(QComboBox& box, const QString& text) {
     box.setEditText(text);
 }
 
-bool IsEnter(const QEvent& event) {
+bool IsKey(const QEvent& event, std::initializer_list<int> keys) {
     if (event.type() != QEvent::KeyPress) {
         return false;
     }
     const auto& press = static_cast<const QKeyEvent&>(event);
     const bool plain = (press.modifiers() & ~Qt::KeypadModifier) == 0;
-    return plain && (press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter);
+    return plain && std::find(keys.begin(), keys.end(), press.key()) != keys.end();
+}
+
+bool IsEnter(const QEvent& event) {
+    return IsKey(event, {Qt::Key_Return, Qt::Key_Enter});
 }
 
 /// Whether the keyboard goes to another part of the window.
@@ -123,6 +129,8 @@ FormatToolBar::FormatToolBar(QTextEdit& editor, MessageDoor& messages,
     connect(&m_editor, &QTextEdit::cursorPositionChanged, this, show);
     connect(&m_editor, &QTextEdit::textChanged, this, show);
     ShowLooks();
+    // The text was made first; it comes behind its keys.
+    setTabOrder(widgetForAction(m_bullets), &m_editor);
 }
 
 // --- Keys and boxes -----------------------------------------------------------------------
@@ -141,7 +149,9 @@ QAction* FormatToolBar::AddKey(const char* key, const char* icon, const QString&
         action->setToolTip(tip);
     }
     m_editor.addAction(action);
-    widgetForAction(action)->setObjectName(QLatin1String(key));
+    auto* button = qobject_cast<QToolButton*>(widgetForAction(action));
+    button->setObjectName(QLatin1String(key));
+    button->setFocusPolicy(Qt::TabFocus);
     return action;
 }
 
@@ -240,7 +250,8 @@ void FormatToolBar::AddColors(const ProgramContext& context) {
 }
 
 void FormatToolBar::AddBullets() {
-    m_bullets = AddKey("BULLETS", "text-bullets", QStringLiteral("Bullets"), {});
+    m_bullets = AddKey("BULLETS", "text-bullets", QStringLiteral("Bullets"),
+                       QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_L));
     connect(m_bullets, &QAction::triggered, this, &FormatToolBar::SetBullets);
 }
 
@@ -369,6 +380,12 @@ bool FormatToolBar::eventFilter(QObject* watched, QEvent* event) {
         if (TakeOrTell(*box)) {
             m_editor.setFocus();
         }
+        return true;
+    }
+    if (IsKey(*event, {Qt::Key_Escape})) {
+        // Here it takes back what was typed, and leaves the window open.
+        ShowLooks();
+        m_editor.setFocus();
         return true;
     }
     if (IsLeaving(*event)) {

@@ -12,6 +12,7 @@
 #include "settings/basCommonFunctions.h"
 #include "windowkit/DialogSize.h"
 #include "windowkit/NumericFilter.h"
+#include "windowkit/TabOrder.h"
 
 namespace zol {
 
@@ -81,6 +82,7 @@ void frmPatternInfo::SetUpFields() {
     m_editor = new InstructionsEditor(m_desk.InstructionsFont, m_desk.Messages, m_desk.Context,
                                       m_ui->picInfo1);
     m_ui->instructionsLayout->addWidget(m_editor);
+    MoveBehindInTabOrder(*m_ui->buttonBox);
 }
 
 void frmPatternInfo::FillFields() {
@@ -240,6 +242,16 @@ void frmPatternInfo::accept() {
     if (MayResize(wanted)) {
         m_chosen = wanted;
         QDialog::accept();
+    }
+}
+
+void frmPatternInfo::reject() {
+    const bool isWritten = m_editor->Instructions() != m_present.Instructions;
+    if (!isWritten || m_desk.Messages.Ask("The instructions were changed.\n"
+                                          "Do you wish to leave without keeping them?",
+                                          MessageIcon::Exclamation, MessageButtons::YesNo,
+                                          MessageTitle) == MessageAnswer::Yes) {
+        QDialog::reject();
     }
 }
 

@@ -45,6 +45,8 @@ public:
     [[nodiscard]] const PatternInfo& Chosen() const { return m_chosen; }
 
     void accept() override;
+    /// Asks first if instructions were written that would be lost.
+    void reject() override;
 
 private:
     void SetUpFields();

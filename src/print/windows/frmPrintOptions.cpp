@@ -66,12 +66,12 @@ frmPrintOptions::frmPrintOptions(PrintDesk& desk, PrintPlan::Form form, QWidget*
       m_plan(desk.OptionsNow(), Device(), desk.Open.Design(), form) {
     m_ui->setupUi(this);
     SetUpControls();
+    Spell(*this, m_desk.Context); // before a printer's name stands there
     LoadCombos();
     ShowPrinter();
     ShowSize();
     ShowPages();
     ConnectControls();
-    Spell(*this, m_desk.Context);
     MakeEquallyWide({m_ui->optPages1, m_ui->lblGSPI, m_ui->lblStitchesAs, m_ui->lblBackStitchesAs});
     m_ui->cmdPrint->setFocus();
     if (m_plan.IsKeyOnly()) {

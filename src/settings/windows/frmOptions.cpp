@@ -18,6 +18,7 @@
 #include "settings/windows/ui_frmOptions.h"
 #include "windowkit/DialogSize.h"
 #include "windowkit/Spelling.h"
+#include "windowkit/TabOrder.h"
 #include "windowkit/WaitCursor.h"
 
 namespace zol {
@@ -51,6 +52,8 @@ frmOptions::frmOptions(OptionsDesk desk, QWidget* parent)
     QPushButton* apply = m_ui->buttonBox->button(QDialogButtonBox::Apply);
     apply->setObjectName(QStringLiteral("cmdApply"));
     AddPages();
+    MoveBehindInTabOrder(*m_ui->chkDefault);
+    MoveBehindInTabOrder(*m_ui->buttonBox);
     Spell(*this, m_desk.Context);
     FillOptionLists();
     LoadOptionControls();

@@ -45,6 +45,7 @@ private Q_SLOTS:
     void SizeThatIsNoNumberIsTold_data();
     void SizeThatIsNoNumberIsTold();
     void SizeLeftInItsBoxIsTaken();
+    void EscapeTakesBackWhatWasTypedInABox();
     void FontIsTypedAndChosen();
     void ColorsAreChosenAndTakenAway();
     void BulletsComeAndGo();
@@ -293,6 +294,19 @@ void InstructionsTest::SizeLeftInItsBoxIsTaken() {
     TypeInBox("cmbTBFontSize", QStringLiteral("31"));
     QVERIFY(m_editor->TakeTypedSize());
     QCOMPARE(LooksBefore(3).fontPointSize(), 31.0);
+}
+
+void InstructionsTest::EscapeTakesBackWhatWasTypedInABox() {
+    m_editor->SetInstructions("one two");
+    Select(0, 3);
+    for (const char* name : {"cmbTBFontSize", "cmbTBFontName"}) {
+        const QString shown = Box(name).currentText();
+        TypeInBox(name, QStringLiteral("30"));
+        QTest::keyClick(&Box(name), Qt::Key_Escape);
+        QCOMPARE(Box(name).currentText(), shown);
+        QVERIFY(m_text->hasFocus());
+    }
+    QCOMPARE(m_editor->Instructions(), std::string("one two"));
 }
 
 void InstructionsTest::FontIsTypedAndChosen() {

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QRadioButton>
+#include <QTabBar>
 #include <QTabWidget>
 
 #include "model/windows/PatternInfoKit.h"
@@ -46,6 +47,8 @@ private Q_SLOTS:
     void FieldsBecomeThePattern();
     void OkWithoutAnEditChangesNothing();
     void EscapeChangesNothing();
+    void WrittenInstructionsAreNotLeftWithoutAQuestion();
+    void TabsGoThroughTheKeysOfTheTextToTheText();
     void BadFieldIsToldAndNothingChanges_data();
     void BadFieldIsToldAndNothingChanges();
     void TooLargeAGridIsTold();
@@ -154,6 +157,39 @@ void PatternInfoTest::EscapeChangesNothing() {
     QTest::keyClick(&dialog.Field("txtTitle"), Qt::Key_Escape);
     QVERIFY(!dialog.isVisible());
     QVERIFY(dialog.Chosen() == Rose());
+}
+
+void PatternInfoTest::WrittenInstructionsAreNotLeftWithoutAQuestion() {
+    ShownPatternInfo dialog(*m_desk, Rose());
+    QVERIFY(dialog.IsActive());
+    QTest::keyClick(&dialog, Qt::Key_I, Qt::AltModifier);
+    auto& text = dialog.Find<QTextEdit>("rtxtInstructions");
+    dialog.Click("rtxtInstructions");
+    QTest::keyClicks(&text, QStringLiteral("Wash. "));
+    m_desk->User.answers = {MessageAnswer::No, MessageAnswer::Cancel, MessageAnswer::Yes};
+    QTest::keyClick(&text, Qt::Key_Escape);
+    QVERIFY(dialog.isVisible());
+    dialog.close();
+    QVERIFY(dialog.isVisible());
+    QVERIFY(text.toPlainText().contains(QStringLiteral("Wash. ")));
+    dialog.Click("cmdCancel");
+    QVERIFY(!dialog.isVisible());
+    QVERIFY(dialog.Chosen() == Rose());
+}
+
+void PatternInfoTest::TabsGoThroughTheKeysOfTheTextToTheText() {
+    ShownPatternInfo dialog(*m_desk, Rose());
+    QVERIFY(dialog.IsActive());
+    QTest::keyClick(&dialog, Qt::Key_I, Qt::AltModifier);
+    dialog.Find<QTabWidget>("tbsPatternInfo").tabBar()->setFocus();
+    QStringList names;
+    do {
+        QTest::keyClick(&dialog, Qt::Key_Tab);
+        names << QApplication::focusWidget()->objectName();
+    } while (names.back() != QStringLiteral("rtxtInstructions") && names.size() < 20);
+    QCOMPARE(names.join(QLatin1Char(' ')),
+             QStringLiteral("cmbTBFontName cmbTBFontSize BOLD ITALIC UNDERLINE COLOR LEFTJUSTIFY "
+                            "CENTERJUSTIFY RIGHTJUSTIFY BULLETS rtxtInstructions"));
 }
 
 void PatternInfoTest::BadFieldIsToldAndNothingChanges_data() {

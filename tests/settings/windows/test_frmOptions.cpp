@@ -4,6 +4,7 @@
 #include <QFontDatabase>
 #include <QFontDialog>
 #include <QLabel>
+#include <QSet>
 #include <QTabBar>
 
 #include "flosses/windows/frmClothColors.h"
@@ -27,6 +28,7 @@ private Q_SLOTS:
     void FlexibleBackstitchIsStoredAsNotAnchored();
     void UnitsTurnTheMarginsAndBack();
     void MarginFieldsTakeOneFigureAndTwoBehind();
+    void TabsGoThroughAPageToTheButtons();
     void MarginFieldsAreSelectedAndPutInForm();
     void ListsKeepAValueThatTheyDoNotOffer();
     void TheListFollowsTheColoursThatWereCustomized();
@@ -166,6 +168,30 @@ void frmOptionsTest::MarginFieldsTakeOneFigureAndTwoBehind() {
     window.Type("txtLeftMargin", "0");
     window.Click("cmdApply");
     QCOMPARE(window.Settings.LeftMargin, 0.0);
+}
+
+void frmOptionsTest::TabsGoThroughAPageToTheButtons() {
+    OptionsWindow window;
+    QVERIFY(QTest::qWaitForWindowActive(window.Dialog.get()));
+    auto& tabs = window.Find<QTabWidget>("tbsOptions");
+    for (int page = 0; page < OptionsWindow::Pages; ++page) {
+        tabs.setCurrentIndex(page);
+        tabs.tabBar()->setFocus();
+        QStringList names;
+        do {
+            QTest::keyClick(window.Dialog.get(), Qt::Key_Tab);
+            names << QApplication::focusWidget()->objectName();
+        } while (tabs.isAncestorOf(QApplication::focusWidget()) && names.size() < 60);
+        QVERIFY2(names.size() > 3, qPrintable(names.join(QLatin1Char(' '))));
+        QCOMPARE(names.back(), QStringLiteral("chkDefault"));
+        QSet<QString> buttons;
+        for (int i = 0; i < 3; ++i) {
+            QTest::keyClick(window.Dialog.get(), Qt::Key_Tab);
+            buttons << QApplication::focusWidget()->objectName();
+        }
+        QCOMPARE(buttons, QSet<QString>({QStringLiteral("cmdOK"), QStringLiteral("cmdCancel"),
+                                         QStringLiteral("cmdApply")}));
+    }
 }
 
 void frmOptionsTest::MarginFieldsAreSelectedAndPutInForm() {
