@@ -217,7 +217,7 @@ TEST(EraseWork, AResetThatThereIsNoMemoryForChangesNothing) {
     work.Take(photo);
     work.BeginStroke({100, 100}, 32);
     const SharedPicture handedOn = work.HandOn();
-    const Picture erased = *handedOn;
+    const Picture erased = CopyOf(*handedOn);
     for (const int granted : {0, 1}) {
         const test::ScarceMemory scarce(TileBytes, granted);
         EXPECT_THROW(work.Reset(photo), std::bad_alloc);
