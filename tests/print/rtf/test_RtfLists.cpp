@@ -61,8 +61,14 @@ std::string Tables(const std::vector<std::string>& ids, const std::string& level
     std::string overrides;
     int number = 0;
     for (const std::string& id : ids) {
-        lists += "{\\list{\\listlevel" + level + "}{\\listlevel\\levelnfc4}\\listid" + id + "}";
-        overrides += "{\\listoverride\\listid" + id + "\\ls" + std::to_string(++number) + "}";
+        lists += "{\\list{\\listlevel";
+        lists += level;
+        lists += "}{\\listlevel\\levelnfc4}\\listid";
+        lists += id;
+        lists += "}";
+        overrides += "{\\listoverride\\listid";
+        overrides += id;
+        overrides += "\\ls" + std::to_string(++number) + "}";
     }
     return "{\\*\\listtable" + lists + "}{\\*\\listoverridetable" + overrides + "}";
 }
