@@ -158,9 +158,7 @@ bool FileCommands::New() {
     m_desk.View.ResetTools();
     const int result = InitializeAs(m_desk.CurrentPattern, *wanted);
     if (result != ErrNone) {
-        m_desk.Messages.TellMore(RunTimeErrorText(result),
-                                 "A pattern of this size cannot be made. What was on the grid is "
-                                 "still there.",
+        m_desk.Messages.TellMore(RunTimeErrorText(result), FileCommandTexts::SizeRefused,
                                  MessageIcon::Exclamation, {});
         return false;
     }

@@ -22,6 +22,10 @@ namespace zol::FileCommandTexts {
     return "error saving pattern: " + std::to_string(result);
 }
 
+/// What stands below the message where a pattern of some size cannot be made.
+inline constexpr const char* SizeRefused =
+    "A pattern of this size cannot be made. What was on the grid is still there.";
+
 /// One line about a pattern: "Rose, 100 x 80, 12 flosses"; without a title it is left out.
 [[nodiscard]] inline std::string Summary(const Pattern& pattern) {
     const int flosses = pattern.GetPalette().GetEntriesCount();

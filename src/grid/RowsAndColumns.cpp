@@ -3,8 +3,11 @@
 
 #include "grid/RowsAndColumns.h"
 
+#include "grid/FileCommandTexts.h"
 #include "grid/basEditBox.h"
+#include "model/PatternSize.h"
 #include "model/Rounding.h"
+#include "model/RunTimeError.h"
 
 namespace zol::RowsAndColumns {
 
@@ -46,6 +49,18 @@ std::optional<Fault> ValidateRows(int height, bool deleting, double start, doubl
     return std::nullopt;
 }
 
+/// The other side has its say too: files may be longer there than the dialogs allow.
+std::optional<Fault> ValidateSize(const Pattern& pattern, Band band, double howMany) {
+    const bool rows = band == Band::Rows;
+    const int added = RoundToInt(howMany);
+    const int number = PatternSize::Fault(pattern.GetPatternWidth() + (rows ? 0 : added),
+                                          pattern.GetPatternHeight() + (rows ? added : 0));
+    if (number == ErrNone) {
+        return std::nullopt;
+    }
+    return Fault{RunTimeErrorText(number), Field::HowMany, FileCommandTexts::SizeRefused};
+}
+
 void ResizeBy(Pattern& pattern, Band band, int change) {
     const bool rows = band == Band::Rows;
     pattern.Resize(pattern.GetPatternWidth() + (rows ? 0 : change),
@@ -80,9 +95,10 @@ std::optional<Fault> ValidateAddRows(const Pattern& pattern, Band band, bool del
         return Fault{"You must specify the starting " + words.substr(0, words.size() - 1),
                      Field::Start};
     }
-    return band == Band::Columns
-               ? ValidateColumns(pattern.GetPatternWidth(), deleting, start, howMany)
-               : ValidateRows(pattern.GetPatternHeight(), deleting, start, howMany);
+    const std::optional<Fault> fault =
+        band == Band::Columns ? ValidateColumns(pattern.GetPatternWidth(), deleting, start, howMany)
+                              : ValidateRows(pattern.GetPatternHeight(), deleting, start, howMany);
+    return fault || deleting ? fault : ValidateSize(pattern, band, howMany);
 }
 
 void Add(Pattern& pattern, Band band, int start, int howMany) {

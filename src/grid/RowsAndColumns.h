@@ -20,6 +20,7 @@ enum class Field { HowMany, Start };
 struct Fault {
     std::string Text;
     Field Where;
+    std::string More = {}; ///< what stands below the message
 };
 
 /// Nothing if `howMany` rows or columns can be added after, or deleted from, number `start`, both

@@ -4,10 +4,10 @@
 #include "model/Pattern.h"
 
 #include <algorithm>
-#include <limits>
 #include <utility>
 
 #include "flosses/AvailColors.h"
+#include "model/PatternSize.h"
 #include "model/RunTimeError.h"
 
 namespace zol {
@@ -18,12 +18,8 @@ Pattern::Pattern(Pattern&&) noexcept = default;
 Pattern& Pattern::operator=(Pattern&&) noexcept = default;
 
 void Pattern::CheckSize(int width, int height) {
-    constexpr int largest = std::numeric_limits<std::int16_t>::max();
-    if (width < 0 || height < 0 || width > largest || height > largest) {
-        throw RunTimeError(ErrSubscript);
-    }
-    if (std::int64_t{width} * height > MaxSquares) {
-        throw RunTimeError(ErrOutOfMemory);
+    if (const int fault = PatternSize::Fault(width, height); fault != ErrNone) {
+        throw RunTimeError(fault);
     }
 }
 
@@ -93,11 +89,14 @@ void Pattern::SetChanged(bool changed) {
 
 void Pattern::Resize(int width, int height, int clothCountX, int clothCountY) {
     CheckSize(width, height);
-    const std::vector<StitchCell> old = std::move(m_grid);
     const int keptWidth = std::min<int>(width, m_width);
     const auto keptHeight = static_cast<std::size_t>(std::min<int>(height, m_height));
     const auto oldHeight = static_cast<std::size_t>(m_height);
-    SizeGrid(width, height);
+    // Without memory for the new squares the old ones stay where they are.
+    std::vector<StitchCell> old(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+    m_grid.swap(old);
+    m_width = static_cast<std::int16_t>(width);
+    m_height = static_cast<std::int16_t>(height);
     for (int x = 1; x <= keptWidth; ++x) {
         const std::size_t column = static_cast<std::size_t>(x - 1);
         std::copy_n(old.begin() + static_cast<std::ptrdiff_t>(column * oldHeight), keptHeight,

@@ -3,8 +3,10 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <optional>
 
 #include "model/Pattern.h"
+#include "model/PatternSize.h"
 
 namespace zol {
 
@@ -269,14 +271,17 @@ void Pattern::ShrinkToFit() {
     if (box.IsEmpty()) {
         return;
     }
+    const std::optional<PatternSize::Size> wanted = PatternSize::Shrunk(*this, box);
+    if (wanted) {
+        CheckSize(wanted->Width, wanted->Height);
+    }
     const int deltaX = box.Left > 2 ? 2 - box.Left : 0;
     const int deltaY = box.Top >= 3 ? 2 - box.Top : 0;
     if (deltaX != 0 || deltaY != 0) {
         MoveArea(box.Left, box.Top, box.Right, box.Bottom, deltaX, deltaY);
     }
-    // A design that reaches both far edges keeps the old size, moved or not.
-    if (!(box.Right >= m_width && box.Bottom >= m_height)) {
-        Resize(box.Right - box.Left + 3, box.Bottom - box.Top + 3, m_clothCountX, m_clothCountY);
+    if (wanted) {
+        Resize(wanted->Width, wanted->Height, m_clothCountX, m_clothCountY);
     }
 }
 

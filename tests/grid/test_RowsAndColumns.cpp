@@ -64,6 +64,18 @@ TEST_F(RowsTest, Exactly999IsAllowed) {
     EXPECT_EQ(Fault(Band::Rows, false, 1, 994), "");
 }
 
+TEST_F(RowsTest, OtherSideCountsToo) {
+    pattern.Initialize(16383, 970, 14, 14);
+    const auto refused = ValidateAddRows(pattern, Band::Rows, false, 970, 29);
+    ASSERT_TRUE(refused.has_value());
+    EXPECT_EQ(refused->Text, "Out of memory");
+    EXPECT_EQ(refused->More, "A pattern of this size cannot be made. What was on the grid is still "
+                             "there.");
+    EXPECT_EQ(refused->Where, Field::HowMany);
+    EXPECT_EQ(Fault(Band::Rows, false, 970, 6), "") << "16383 x 976 is within 16 million";
+    EXPECT_EQ(Fault(Band::Rows, true, 1, 970), "");
+}
+
 TEST_F(RowsTest, AddingAfterTheLastRowMovesNothing) {
     pattern.SetBackstitchLine({1, 5, 1, 2, 5, 9, 1, LineStraight});
     Add(pattern, Band::Rows, 5, 2);

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void ZoomToolRemembersTheScrollBars();
     void CenterIsOneStep();
     void CropIsOneStepAndUndoBringsTheSizeBack();
+    void CropToMoreThanCanBeIsRefused();
     void EmptyPatternStaysAsItIs();
     void ClearPaletteKeepsTheCurrentFloss();
     void ClearPaletteTakesTheCurrentFloss();
@@ -336,6 +337,27 @@ void CommandsTest::CropIsOneStepAndUndoBringsTheSizeBack() {
     program.Choose("mnuEditUndo");
     QCOMPARE(program.Design().GetPatternWidth(), 100);
     QCOMPARE(program.Grid().size(), whole);
+}
+
+void CommandsTest::CropToMoreThanCanBeIsRefused() {
+    StartedProgram program;
+    program.ClickSquare(2, 2);
+    const QString undo = program.Command("mnuEditUndo").text();
+    // One square of cloth more on every side would be above 16 million squares.
+    Pattern& design = program.Design();
+    design.Resize(4000, 4000, 14, 14);
+    design.SetStitch(1, 1, StitchWhole, 1, 0);
+    design.SetStitch(4000, 3999, StitchWhole, 1, 0);
+    design.SetChanged(false);
+    program.Choose("mnuToolsShrink");
+    QCOMPARE(program.User.ToldTexts(), (std::vector<std::string>{"Out of memory"}));
+    QCOMPARE(program.User.told.back().more,
+             std::string("A pattern of this size cannot be made. What was on the grid is still "
+                         "there."));
+    QCOMPARE(design.GetPatternWidth(), 4000);
+    QCOMPARE(design.GetStitchCount(1, 1), 1);
+    QVERIFY(!design.IsChanged());
+    QCOMPARE(program.Command("mnuEditUndo").text(), undo);
 }
 
 void CommandsTest::EmptyPatternStaysAsItIs() {

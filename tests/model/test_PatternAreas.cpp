@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "model/ModelTestKit.h"
+#include "model/PatternSize.h"
 #include "model/RunTimeError.h"
 
 namespace zol {
@@ -275,6 +276,25 @@ TEST_F(PatternAreas, ShrinkToFitMovesAndLeavesABorderOfOne) {
     EXPECT_EQ(pattern.GetPatternRect(), (SquareRect{2, 2, 6, 3}));
     EXPECT_EQ(pattern.GetBackStitchLine(1), Line(2, 2, 1, 6, 3, 9));
     EXPECT_EQ(pattern.FrenchKnots().Count(), 1U);
+}
+
+TEST_F(PatternAreas, ShrinkToFitThatWouldGrowTooLargeMovesNothing) {
+    Pattern pattern = Make(4000, 4000);
+    pattern.SetStitch(1, 3, StitchWhole, 1, 0);
+    pattern.SetStitch(4000, 3998, StitchWhole, 1, 0);
+    EXPECT_EQ(PatternSize::ShrinkFault(pattern), ErrNone) << "4002 x 3998";
+    pattern.SetStitch(4000, 3999, StitchWhole, 1, 0);
+    EXPECT_EQ(PatternSize::ShrinkFault(pattern), ErrOutOfMemory) << "4002 x 3999";
+    EXPECT_THROW(pattern.ShrinkToFit(), RunTimeError);
+    EXPECT_EQ(pattern.GetPatternRect(), (SquareRect{1, 3, 4000, 3999}));
+    EXPECT_EQ(pattern.GetPatternHeight(), 4000);
+}
+
+TEST_F(PatternAreas, ShrinkToFitRefusesASideThatFilesCannotHold) {
+    Pattern pattern = Make(32767, 2);
+    pattern.SetStitch(1, 1, StitchWhole, 1, 0);
+    pattern.SetStitch(32767, 1, StitchWhole, 1, 0);
+    EXPECT_EQ(PatternSize::ShrinkFault(pattern), ErrSubscript) << "32769 across";
 }
 
 TEST_F(PatternAreas, ShrinkToFitMovesADesignAtTheFarCornerButKeepsTheSize) {

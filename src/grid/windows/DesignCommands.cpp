@@ -7,10 +7,13 @@
 
 #include <utility>
 
+#include "grid/FileCommandTexts.h"
 #include "grid/tools/Undo.h"
 #include "grid/windows/MainCommands.h"
 #include "grid/windows/MainMenus.h"
 #include "model/Pattern.h"
+#include "model/PatternSize.h"
+#include "model/RunTimeError.h"
 
 namespace zol {
 
@@ -38,8 +41,7 @@ void DesignCommands::ConnectCommands() {
     connect("mnuCenterHorizontal",
             [this] { Run("Center", [](Pattern& design) { design.Center(1); }); });
     connect("mnuCenterBoth", [this] { Run("Center", [](Pattern& design) { design.Center(2); }); });
-    connect("mnuToolsShrink",
-            [this] { Run("Shrink Design Area", [](Pattern& design) { design.ShrinkToFit(); }); });
+    connect("mnuToolsShrink", [this] { Crop(); });
     connect("mnuClearPalette", [this] {
         Run("Clear Unused Palette", [](Pattern& design) { design.ClearUnusedPaletteColors(); });
     });
@@ -78,6 +80,19 @@ void DesignCommands::Run(const std::string& label, const std::function<void(Patt
         design.SetChanged(true);
     }
     m_followers.Changed();
+}
+
+void DesignCommands::Crop() {
+    // What floats lands first, and counts.
+    m_followers.EndTool();
+    const Pattern& design = m_open.Design();
+    const int fault = PatternSize::ShrinkFault(design);
+    if (fault == ErrNone) {
+        Run("Shrink Design Area", [](Pattern& cropped) { cropped.ShrinkToFit(); });
+    } else if (MessageDoor* messages = design.Context().Messages) {
+        messages->TellMore(RunTimeErrorText(fault), FileCommandTexts::SizeRefused,
+                           MessageIcon::Exclamation, {});
+    }
 }
 
 void DesignCommands::TakeBack() {

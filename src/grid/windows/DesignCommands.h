@@ -36,6 +36,7 @@ public:
 private:
     void ConnectCommands();
     void Run(const std::string& label, const std::function<void(Pattern&)>& work);
+    void Crop();
     void TakeBack();
 
     MainCommands& m_commands;

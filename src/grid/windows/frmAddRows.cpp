@@ -65,7 +65,7 @@ bool frmAddRows::ValidateAddRows() {
     if (!fault) {
         return true;
     }
-    m_desk.Messages.Tell(fault->Text, MessageIcon::Exclamation, {});
+    m_desk.Messages.TellMore(fault->Text, fault->More, MessageIcon::Exclamation, {});
     QLineEdit* field =
         fault->Where == RowsAndColumns::Field::HowMany ? m_ui->txtHowMany : m_ui->txtStartRow;
     field->setFocus();
