@@ -197,8 +197,8 @@ fs::path NewNameBeside(const fs::path& path) {
     const fs::path target = ResolveLink(path);
     std::random_device source;
     for (;;) {
-        const std::string name =
-            "." + target.filename().string() + "." + std::to_string(source() % 1000000U) + ".new";
+        // Not made of the file's own name, which may be as long as the system lets names be.
+        const std::string name = ".korvanta-" + std::to_string(source()) + ".new";
         fs::path candidate = target.parent_path() / name;
         std::error_code error;
         if (!fs::exists(candidate, error)) {

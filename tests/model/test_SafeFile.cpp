@@ -51,6 +51,21 @@ TEST(SafeFile, BackupTakesTheOldFileAndReplacesAnOlderBackup) {
     EXPECT_EQ(FilesIn(folder.Path()), 2U);
 }
 
+TEST(SafeFile, LongestNameIsSavedAndKeptAsBackup) {
+    const TempFolder folder;
+    std::string letters;
+    for (int i = 0; i < 125; ++i) {
+        letters += "\xC3\xA4"; // two bytes
+    }
+    const fs::path file = folder / (letters + ".pat");
+    const fs::path backup = folder / (letters + ".bpt");
+    EXPECT_EQ(SafeFile::Replace(file, Bytes("old")), ErrNone);
+    EXPECT_EQ(SafeFile::Replace(file, Bytes("new"), backup), ErrNone);
+    EXPECT_EQ(ReadFile(file), "new");
+    EXPECT_EQ(ReadFile(backup), "old");
+    EXPECT_EQ(FilesIn(folder.Path()), 2U);
+}
+
 TEST(SafeFile, BackupOfAFileThatIsNotThereIsNotMade) {
     const TempFolder folder;
     EXPECT_EQ(SafeFile::Replace(folder / "a.pat", Bytes("new"), folder / "a.bpt"), ErrNone);
