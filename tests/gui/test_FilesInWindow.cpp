@@ -9,6 +9,7 @@
 #include "grid/windows/PaletteStrip.h"
 #include "gui/RunningProgram.h"
 #include "support/DialogDriver.h"
+#include "windowkit/BusyScope.h"
 
 namespace zol::test {
 
@@ -42,12 +43,22 @@ private Q_SLOTS:
     void DroppedPatternIsCopiedNeverMoved();
     void SeveralFilesAreRefused();
     void NothingIsTakenWhileAWindowAsks();
+    void NothingIsOpenedOnceAWindowAsks();
+    void NothingIsOpenedAmidLongWork();
+    void DropOfNothingIsNoDrop();
     void FolderAndLibraryAreToldAndWorkStays_data();
     void FolderAndLibraryAreToldAndWorkStays();
 
 private:
     [[nodiscard]] std::string Robin() const {
         return (*m_home / "app" / "Patterns" / "robin.pat").string();
+    }
+    /// Until what has been put into the window's queue by now has been done.
+    void AwaitTheQueue() {
+        bool done = false;
+        QMetaObject::invokeMethod(
+            &m_program->Window(), [&done] { done = true; }, Qt::QueuedConnection);
+        QTRY_VERIFY(done);
     }
     /// True if a drop of these files would be taken. The drop itself happens then.
     bool Drop(QWidget& onto, const QStringList& files, Qt::DropAction wished = Qt::CopyAction);
@@ -260,6 +271,33 @@ void FilesInWindowTest::NothingIsTakenWhileAWindowAsks() {
     question.reject();
     QVERIFY(Drop(m_program->Grid(), {QString::fromStdString(Robin())}));
     QTRY_COMPARE(m_program->Design().Title, std::string("Winter Robin"));
+}
+
+void FilesInWindowTest::NothingIsOpenedOnceAWindowAsks() {
+    // The drop still waits when the window comes up, which works with the design as it stands.
+    QVERIFY(Drop(m_program->Grid(), {QString::fromStdString(Robin())}));
+    QDialog question(&m_program->Window());
+    question.setModal(true);
+    question.show();
+    AwaitTheQueue();
+    QCOMPARE(m_program->Design().Title, std::string());
+    question.reject();
+}
+
+void FilesInWindowTest::NothingIsOpenedAmidLongWork() {
+    QVERIFY(Drop(m_program->Grid(), {QString::fromStdString(Robin())}));
+    const BusyScope work;
+    AwaitTheQueue();
+    QCOMPARE(m_program->Design().Title, std::string());
+}
+
+void FilesInWindowTest::DropOfNothingIsNoDrop() {
+    QMimeData nothing;
+    QDropEvent drop(QPoint(5, 5), Qt::CopyAction, &nothing, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&m_program->Window(), &drop);
+    AwaitTheQueue();
+    QCOMPARE(m_program->Design().Title, std::string());
+    QVERIFY(m_program->User.told.empty());
 }
 
 void FilesInWindowTest::FolderAndLibraryAreToldAndWorkStays_data() {

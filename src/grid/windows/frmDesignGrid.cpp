@@ -120,18 +120,30 @@ void frmDesignGrid::CloseOtherWindows() {
 
 void frmDesignGrid::dragEnterEvent(QDragEnterEvent* event) {
     const QList<QUrl> urls = event->mimeData()->urls();
-    const bool mayOpen = QApplication::activeModalWidget() == nullptr;
-    if (mayOpen && urls.size() == 1 && urls.first().isLocalFile()) {
+    if (!IsElsewhere() && urls.size() == 1 && urls.first().isLocalFile()) {
         AcceptCopy(*event);
     }
 }
 
 void frmDesignGrid::dropEvent(QDropEvent* event) {
     AcceptCopy(*event);
-    Q_EMIT FileDropped(event->mimeData()->urls().first().toLocalFile());
+    // The other program may have taken back by now what it offered when the pointer came in.
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (urls.size() == 1 && urls.first().isLocalFile()) {
+        Q_EMIT FileDropped(urls.first().toLocalFile());
+    }
+}
+
+bool frmDesignGrid::IsElsewhere() {
+    return QApplication::activeModalWidget() != nullptr || BusyScope::IsAnyAlive();
 }
 
 void frmDesignGrid::OpenDropped(const QString& name) {
+    // The drop waited in the queue, and a window may have come up in between that works with the
+    // design as it stands.
+    if (IsElsewhere()) {
+        return;
+    }
     const std::string file = name.toStdString();
     if (PictureFiles::HasPictureName(PathOf(file))) {
         m_import->ImportFile(PathOf(file));

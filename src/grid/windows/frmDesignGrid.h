@@ -90,7 +90,10 @@ private:
     void SetUpZoomCommands();
     void SetUpOptions();
     void SetUpImport();
+    /// A window that has to be answered first is up, or long work goes on.
+    [[nodiscard]] static bool IsElsewhere();
     void OpenDropped(const QString& name);
+    void SaveByTimer();
     void SetUpPrinting();
     void ConnectGrid();
     void ConnectPalette();

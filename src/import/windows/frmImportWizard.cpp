@@ -195,7 +195,11 @@ void frmImportWizard::dragEnterEvent(QDragEnterEvent* event) {
 void frmImportWizard::dropEvent(QDropEvent* event) {
     event->setDropAction(Qt::CopyAction);
     event->accept();
-    Q_EMIT FileDropped(event->mimeData()->urls().first().toLocalFile());
+    // The other program may have taken back by now what it offered when the pointer came in.
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (!urls.isEmpty()) {
+        Q_EMIT FileDropped(urls.first().toLocalFile());
+    }
 }
 
 } // namespace zol
