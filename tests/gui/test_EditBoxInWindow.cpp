@@ -34,6 +34,7 @@ private Q_SLOTS:
     void SelectAllByKey();
     void EscapeDropsWhatFloats();
     void SquareUndoRefreshesASelection();
+    void UndoAmidADragMovesNothing();
 
 private:
     /// A design of 30 by 24 squares with a stitch of each of two flosses, in draw mode 3.
@@ -439,6 +440,30 @@ void EditBoxInWindowTest::SquareUndoRefreshesASelection() {
     QVERIFY(Box(program).IsActive());
     program.DragOver({{4, 4}, {10, 10}});
     COMPARE_TWIN(program, empty);
+}
+
+void EditBoxInWindowTest::UndoAmidADragMovesNothing() {
+    OpenedProgram program;
+    Prepare(program);
+    const Twin before = Prepared(program);
+    program.Tool("DRAWMODE_STITCHES");
+    program.ClickIn(5, 5);
+    program.Tool("DRAWMODE_EDITBOX");
+    program.DragOver({{3, 3}, {7, 6}});
+    program.Pointer.MoveTo(program.Grid(), program.In(4, 4));
+    program.Pointer.Press();
+    program.Pointer.MoveTo(program.Grid(), program.In(14, 14));
+    program.Key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(Box(program).GetEditBoxRect(), (SquareRect{3, 3, 7, 6}));
+    program.Pointer.MoveTo(program.Grid(), program.In(16, 14));
+    program.Pointer.Release();
+    COMPARE_TWIN(program, before);
+    // What is dragged from now on is the section without the stitch that was undone.
+    program.DragOver({{4, 4}, {14, 14}});
+    Twin after(program.Design());
+    after.SetStitch(14, 14, StitchWhole, 1, 0);
+    after.SetStitch(16, 15, StitchTBH, 2, 0);
+    COMPARE_TWIN(program, after);
 }
 
 } // namespace zol::test

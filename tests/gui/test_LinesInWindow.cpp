@@ -22,6 +22,9 @@ private Q_SLOTS:
     void RubberBandFollowsThePointer();
     void ChainEndsWithTheRightButton();
     void HandleMovesAnEnd();
+    void HandleDroppedOnTheOtherEndChangesNothing();
+    void SavePutsATakenUpLineBack();
+    void UndoTakesNoLineFromThePointer();
     void EveryStyleByTheMenu();
     void MenuTakesTheLineAway();
     void MenuGivesTheCurrentColor();
@@ -67,6 +70,14 @@ private:
                 ClickEntry(program, *styles, styles->actions().at(item));
             }
         };
+    }
+    /// Selects the one line and presses the handle at its end, (9, 5).
+    static void TakeUpItsEnd(DrawnProgram& program) {
+        QVERIFY(RightClick(program, program.In(6, 4), Choose("mnuLineCancel")));
+        program.Pointer.MoveTo(program.Grid(), program.In(9, 5));
+        program.Pointer.Press();
+        QVERIFY(program.OnTop().RubberBand.has_value());
+        QCOMPARE(program.Design().GetBackStitchCount(), 0);
     }
     /// The design with one line from (3, 3) to (9, 5), and the lines' tool on.
     static void DrawOneLine(DrawnProgram& program, Twin& twin) {
@@ -170,6 +181,48 @@ void LinesInWindowTest::HandleMovesAnEnd() {
     program.Pointer.Release();
     twin.RemoveBackStitchLine(1);
     twin.Line({3, 3}, 5, {12, 9}, 5, 1, LineSquiggle);
+    COMPARE_TWIN(program, twin);
+}
+
+void LinesInWindowTest::HandleDroppedOnTheOtherEndChangesNothing() {
+    OpenedProgram program;
+    program.Take(20, 20, 300);
+    Twin twin(program.Design());
+    DrawOneLine(program, twin);
+    TakeUpItsEnd(program);
+    program.Pointer.MoveTo(program.Grid(), program.In(3, 3));
+    program.Pointer.Release();
+    QVERIFY(!program.OnTop().RubberBand.has_value());
+    COMPARE_TWIN(program, twin);
+}
+
+void LinesInWindowTest::SavePutsATakenUpLineBack() {
+    OpenedProgram program;
+    program.Take(20, 20, 300);
+    Twin twin(program.Design());
+    DrawOneLine(program, twin);
+    TakeUpItsEnd(program);
+    program.Pointer.MoveTo(program.Grid(), program.In(12, 9));
+    program.User.files = {program.Home / "saved.pat"};
+    program.Choose("mnuFileSave");
+    program.Pointer.Release();
+    Pattern saved(program.Parts().Context);
+    QCOMPARE(saved.Load(program.Home / "saved.pat"), 0);
+    QCOMPARE(saved.GetBackStitchCount(), 1);
+    QVERIFY(!program.Design().IsChanged());
+    COMPARE_TWIN(program, twin);
+}
+
+void LinesInWindowTest::UndoTakesNoLineFromThePointer() {
+    OpenedProgram program;
+    program.Take(20, 20, 300);
+    Twin twin(program.Design());
+    DrawOneLine(program, twin);
+    TakeUpItsEnd(program);
+    program.Pointer.MoveTo(program.Grid(), program.In(12, 9));
+    program.Key(Qt::Key_Z, Qt::ControlModifier);
+    program.Pointer.Release();
+    twin.RemoveBackStitchLine(1);
     COMPARE_TWIN(program, twin);
 }
 

@@ -164,6 +164,15 @@ void BackstitchTool::Release(const PointerEvent& event) {
     }
     if (!PointsEqual(*m_start, at)) {
         FinishLine(at);
+    } else {
+        // A new line waits for its other end; one that has both would hang on the pointer.
+        PutBackTakenUp();
+    }
+}
+
+void BackstitchTool::PutBackTakenUp() {
+    if (m_grabbed) {
+        CancelLine();
     }
 }
 

@@ -31,6 +31,9 @@ public:
     void RemoveLine(int index);
     /// Back to idle. A line that was taken up by an end goes back to where it stood.
     bool CancelLine();
+    /// A line that was taken up goes back to where it stood, which ends its drag. What else is
+    /// under way goes on.
+    void PutBackTakenUp();
 
     // The commands of the line's menu; with no line selected they do nothing.
     void DeleteSelected() { RemoveLine(0); }

@@ -248,6 +248,16 @@ bool DrawModes::Confirm() {
     return Current().Confirm();
 }
 
+void DrawModes::SettleFloating() {
+    m_lines->PutBackTakenUp();
+    m_box->DropEditBox(false);
+}
+
+void DrawModes::CancelDrag() {
+    m_lines->PutBackTakenUp();
+    m_box->CancelDrag();
+}
+
 void DrawModes::ShowStatus(int column, int row) {
     const Pattern& design = m_desk.Design();
     const int floss = design.GetStitchPaletteIndex(column, row);

@@ -80,6 +80,12 @@ public:
     /// Enter: what the tool holds is done with. False if it holds nothing.
     bool Confirm();
 
+    /// What hangs over the design lands in it: a floating block where it is, a line that was taken
+    /// up where it stood. Before the design is saved or given away.
+    void SettleFloating();
+    /// A block or line that is being dragged goes back to where the drag began, and stays there.
+    void CancelDrag();
+
     [[nodiscard]] Overlay GetOverlay() const;
     [[nodiscard]] GridCursor Cursor() const;
     /// The tool of mode 2, for the commands of its menu.

@@ -96,7 +96,11 @@ void DesignCommands::Crop() {
 }
 
 void DesignCommands::TakeBack() {
-    // A chain of lines goes on from where it was.
+    // What hangs on the pointer was picked up before the undo: put down later, it would bring back
+    // what has been undone. A chain of lines goes on from where it was.
+    if (m_steps.IsAvailable()) {
+        m_followers.CancelDrag();
+    }
     m_steps.PerformUndo();
     m_followers.Undone();
 }

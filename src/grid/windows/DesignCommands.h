@@ -20,9 +20,10 @@ class DesignCommands {
 public:
     /// What the window does about a command.
     struct Followers {
-        std::function<void()> EndTool; ///< before: a line or frame under way is let go
-        std::function<void()> Changed; ///< after a command has changed the design everywhere
-        std::function<void()> Undone;  ///< what an undo did not repaint itself: sizes, overlay
+        std::function<void()> EndTool;    ///< before: a line or frame under way is let go
+        std::function<void()> CancelDrag; ///< before an undo: what is dragged goes back
+        std::function<void()> Changed;    ///< after a command has changed the design everywhere
+        std::function<void()> Undone;     ///< what an undo did not repaint itself: sizes, overlay
     };
 
     DesignCommands(MainCommands& commands, MainMenus& menus, DesignHolder& open, Undo& steps,

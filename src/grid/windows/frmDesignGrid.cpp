@@ -12,6 +12,7 @@
 #include "files/CommandLineFile.h"
 #include "files/FileCommands.h"
 #include "grid/GridOptions.h"
+#include "grid/tools/BackstitchTool.h"
 #include "grid/tools/DrawModes.h"
 #include "grid/tools/EditBox.h"
 #include "grid/windows/DesignCommands.h"
@@ -157,7 +158,7 @@ void frmDesignGrid::SetBusy(bool busy) {
 }
 
 void frmDesignGrid::SettleFloating() {
-    m_modes->Box().DropEditBox(false);
+    m_modes->SettleFloating();
 }
 
 void frmDesignGrid::ResetTools() {
@@ -195,6 +196,25 @@ bool frmDesignGrid::IsInLongMode() const {
     // Half a stroke is no work to come back to, and a design without its floating block neither.
     return QGuiApplication::mouseButtons() != Qt::NoButton || BusyScope::IsAnyAlive() ||
            m_modes->Box().HasPattern();
+}
+
+void frmDesignGrid::SaveByTimer() {
+    if (QGuiApplication::mouseButtons() == Qt::NoButton && !IsElsewhere()) {
+        // A release that went to another program leaves a line hanging, which is in no save.
+        m_modes->Lines().PutBackTakenUp();
+    }
+    m_workshop.AutoSave.AutoSaveTick(false, true);
+}
+
+void frmDesignGrid::KeepForRecovery() {
+    if (!IsElsewhere()) {
+        SettleFloating();
+    }
+    if (m_workshop.Open.Design().IsChanged() || m_modes->Box().HasPattern()) {
+        m_workshop.AutoSave.AutoSaveTick(true, true);
+    } else {
+        m_workshop.AutoSave.ClearAutoSave();
+    }
 }
 
 void frmDesignGrid::FollowOptions() {

@@ -60,6 +60,10 @@ public:
     /// What the program was started with. True if a design was opened.
     bool OpenCommandLine(const std::string& text);
 
+    /// Writes what would be lost if the program ended now to the recovery file; without changes
+    /// there is nothing to recover. What floats lands first, unless something else works with it.
+    void KeepForRecovery();
+
     [[nodiscard]] GridArea& Area() { return *m_area; }
     [[nodiscard]] DrawModes& Modes() { return *m_modes; }
 

@@ -114,8 +114,7 @@ void frmDesignGrid::SetUpFiles() {
     m_autoSaveTimer = new QTimer(this);
     m_autoSaveTimer->setObjectName(QStringLiteral("timAutoSave"));
     m_autoSaveTimer->setInterval(std::chrono::minutes(1));
-    connect(m_autoSaveTimer, &QTimer::timeout, this,
-            [this] { m_workshop.AutoSave.AutoSaveTick(false, true); });
+    connect(m_autoSaveTimer, &QTimer::timeout, this, [this] { SaveByTimer(); });
     m_autoSaveTimer->start();
 }
 
@@ -126,7 +125,8 @@ void frmDesignGrid::SetUpCommands() {
                                                                     [this] { FollowDesign(); }});
     m_design = std::make_unique<DesignCommands>(
         *m_commands, *m_menus, m_workshop.Open, m_workshop.Steps,
-        DesignCommands::Followers{[this] { EndTool(); }, [this] { FollowDesign(); },
+        DesignCommands::Followers{[this] { EndTool(); }, [this] { m_modes->CancelDrag(); },
+                                  [this] { FollowDesign(); },
                                   [this] {
                                       m_area->ArrangeGrid();
                                       m_modes->Box().RefreshSelection();

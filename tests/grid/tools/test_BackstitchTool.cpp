@@ -383,6 +383,38 @@ TEST_F(LineToolTest, AHeldLineIsNotLostOutsideThePattern) {
     EXPECT_EQ(Count(), 1);
 }
 
+TEST_F(LineToolTest, AHeldLineReleasedOnItsOtherEndGoesBack) {
+    AddLine(3, 3, 1, 9, 3, 1, 2);
+    pattern.ChangeBSStyle(1, LineTracks);
+    const BackStitchLine before = Line(1);
+    view.PaintAfresh();
+    RightClick(5, 3, 2);
+    Drag(Spot(9, 3, 1), Spot(2, 3, 3)); // the same point as position 1 of the next column
+    ASSERT_EQ(Count(), 1);
+    EXPECT_EQ(Line(1), before);
+    EXPECT_EQ(tool.GetOverlay(), Overlay()) << "nothing hangs on the pointer";
+    ExpectScreenIsTrue();
+    Click(12, 12);
+    Click(15, 12);
+    EXPECT_EQ(Count(), 2) << "the next click is a new line's first end";
+}
+
+TEST_F(LineToolTest, OnlyALineThatIsHeldIsPutBack) {
+    AddLine(3, 3, 1, 9, 3, 1, 2);
+    const BackStitchLine before = Line(1);
+    RightClick(5, 3, 2);
+    tool.Press(Left(9, 3, 1));
+    tool.PutBackTakenUp();
+    ASSERT_EQ(Count(), 1);
+    EXPECT_EQ(Line(1), before);
+    tool.Release(Left(9, 9, 1));
+    EXPECT_EQ(Count(), 1) << "its drag has ended";
+    Click(12, 12);
+    tool.PutBackTakenUp();
+    Click(15, 12);
+    EXPECT_EQ(Count(), 2) << "a line with one end goes on";
+}
+
 TEST_F(LineToolTest, APressBesideTheHandlesStartsANewLine) {
     AddLine(3, 3, 1, 9, 3, 1, 2);
     RightClick(5, 3, 2);
