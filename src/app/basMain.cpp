@@ -8,9 +8,12 @@
 #include <QScreen>
 #include <QSplashScreen>
 
+#include <new>
+
 #include "app/Splash.h"
 #include "files/CommandLineFile.h"
 #include "grid/windows/frmDesignGrid.h"
+#include "model/RunTimeError.h"
 #include "model/SafeFile.h"
 
 namespace zol {
@@ -91,6 +94,23 @@ void basMain::OpenWhatWasAskedFor() {
     if (!m_window->OfferRecovery() && !m_commandLine.empty()) {
         m_window->OpenCommandLine(m_commandLine);
     }
+}
+
+void basMain::KeepWork() {
+    if (m_window != nullptr) {
+        m_window->KeepForRecovery();
+    }
+}
+
+void basMain::TellFault(const std::exception& fault) {
+    // The next fault may be one that nothing can catch.
+    m_program.GetWorkshop().AutoSave.AutoSaveTick(true, true);
+    const bool noMemory = dynamic_cast<const std::bad_alloc*>(&fault) != nullptr;
+    m_program.Doors().Messages.TellMore(
+        noMemory ? RunTimeErrorText(ErrOutOfMemory) : fault.what(),
+        "What was begun could not be finished. Your work is still open, as it stands on the grid; "
+        "Save As puts it into another place.",
+        MessageIcon::Exclamation, {});
 }
 
 void basMain::End() {

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <exception>
 #include <functional>
 #include <memory>
 
@@ -27,6 +28,11 @@ public:
     [[nodiscard]] int ExitCode() const { return m_exitCode; }
     /// After the main window has been closed.
     void End();
+
+    /// Keeps the work for recovery, as the end may come without any more questions.
+    void KeepWork();
+    /// Tells a fault that no command has caught. The design stays as it is, and is kept first.
+    void TellFault(const std::exception& fault);
 
     [[nodiscard]] frmDesignGrid& MainWindow() { return *m_window; }
     [[nodiscard]] Program& Parts() { return m_program; }

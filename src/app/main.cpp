@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 Korvanta contributors
 // SPDX-License-Identifier: MIT
 
-#include <QApplication>
-
 #include <iostream>
 #include <string>
 #include <vector>
 
 #include "app/Arguments.h"
+#include "app/GuardedApplication.h"
+#include "app/SessionEnd.h"
 #include "app/basMain.h"
 #include "grid/windows/frmDesignGrid.h"
 #include "import/scan/SaneScanner.h"
@@ -19,16 +19,13 @@
 
 namespace {
 
-zol::Arguments ArgumentsLeft() {
-    std::vector<std::string> words;
-    for (const QString& word : QCoreApplication::arguments().mid(1)) {
-        words.push_back(word.toStdString());
-    }
-    return zol::ReadArguments(words);
+/// Byte for byte: names of files need not be text.
+zol::Arguments ArgumentsIn(int argc, char** argv) {
+    return zol::ReadArguments(std::vector<std::string>(argv + 1, argv + argc));
 }
 
 int Run(int argc, char** argv) {
-    zol::Arguments arguments = zol::ReadArguments(std::vector<std::string>(argv + 1, argv + argc));
+    zol::Arguments arguments = ArgumentsIn(argc, argv);
     // What needs no window needs no display either.
     if (!arguments.Fault.empty()) {
         std::cerr << "korvanta: " << arguments.Fault << '\n';
@@ -42,9 +39,9 @@ int Run(int argc, char** argv) {
         std::cout << "korvanta " KORVANTA_VERSION "\n";
         return 0;
     }
-    QApplication app(argc, argv);
-    // Without those that Qt itself understands.
-    arguments = ArgumentsLeft();
+    zol::GuardedApplication app(argc, argv);
+    // Without those that Qt itself understands, which it has taken out of the list.
+    arguments = ArgumentsIn(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Korvanta"));
     QApplication::setDesktopFileName(QStringLiteral("korvanta"));
     QApplication::setWindowIcon(zol::IconFamily::ProgramIcon());
@@ -54,6 +51,8 @@ int Run(int argc, char** argv) {
     zol::SystemPrinter printers;
     zol::SaneScanner scanners;
     zol::basMain program(arguments, {user, user, printers, scanners});
+    app.SetFaultTeller([&program](const std::exception& fault) { program.TellFault(fault); });
+    const zol::SessionEnd sessionEnd(app, [&program] { program.KeepWork(); });
     if (!program.Start()) {
         return program.ExitCode();
     }

@@ -96,6 +96,7 @@ public:
     [[nodiscard]] bool HasEnded() const { return m_ended; }
     [[nodiscard]] int ExitCode() const { return m_main->ExitCode(); }
 
+    [[nodiscard]] basMain& Main() { return *m_main; }
     [[nodiscard]] frmDesignGrid& Window() { return m_main->MainWindow(); }
     [[nodiscard]] Pattern& Design() { return m_main->Parts().GetWorkshop().Open.Design(); }
     [[nodiscard]] Workshop Parts() { return m_main->Parts().GetWorkshop(); }
