@@ -27,6 +27,7 @@ private Q_SLOTS:
     void APasteThatFloatsLandsBeforeTheImport();
     void AnotherDesignEndsTheImportThatWasLeft_data();
     void AnotherDesignEndsTheImportThatWasLeft();
+    void AnImportOfAWholeDesignIsResumedOverAnother();
     void AResumedImportTakesTheCurrentPaletteAsItIsNow();
     void ThePaletteStaysSortedAndUndoLeavesItSo();
 
@@ -166,6 +167,26 @@ void ImportIntoDesignTest::AnotherDesignEndsTheImportThatWasLeft() {
     });
     QVERIFY(program.User.asked.empty());
     QCOMPARE(BytesOf(program.Parts().Open.Get()), before);
+}
+
+void ImportIntoDesignTest::AnImportOfAWholeDesignIsResumedOverAnother() {
+    OpenedProgram program;
+    program.Take(20, 12, 300);
+    Import(program, [&program](frmImportWizard& wizard) {
+        TakeFile(program, wizard, "cat.png");
+        SetWidth(wizard, QStringLiteral("10"));
+        wizard.reject();
+    });
+    program.Design().SetChanged(false);
+    program.NewPatternByMenu();
+    program.User.answers = {MessageAnswer::Yes};
+    Import(program, [](frmImportWizard& wizard) {
+        GoToMapping(wizard);
+        ChooseFamily(wizard, QStringLiteral("150"));
+        Next(wizard);
+        QVERIFY(!wizard.isVisible());
+    });
+    QCOMPARE(program.Design().GetPatternWidth(), 10);
 }
 
 void ImportIntoDesignTest::AResumedImportTakesTheCurrentPaletteAsItIsNow() {

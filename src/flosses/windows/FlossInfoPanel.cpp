@@ -3,37 +3,18 @@
 
 #include "flosses/windows/FlossInfoPanel.h"
 
-#include <QKeyEvent>
-
 #include "flosses/editing/PaletteEditor.h"
 #include "flosses/windows/NonRepColors.h"
 #include "flosses/windows/frmColorList.h"
 #include "flosses/windows/ui_FlossInfoPanel.h"
 #include "grid/painting/SymbolText.h"
+#include "windowkit/EnterTakes.h"
 
 namespace zol {
 
 namespace {
 
 constexpr int MostStrands = 12; ///< two lengths of six; a floss that has more shows it all the same
-
-/// Enter takes a text as leaving its field does, and does not close the window.
-class EnterTakes : public QObject {
-public:
-    using QObject::QObject;
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::KeyPress) {
-            const int key = static_cast<QKeyEvent*>(event)->key();
-            if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-                auto* field = static_cast<QLineEdit*>(watched);
-                Q_EMIT field->editingFinished();
-                field->selectAll();
-                return true;
-            }
-        }
-        return QObject::eventFilter(watched, event);
-    }
-};
 
 QString Colon(const std::string& name) {
     return QString::fromStdString(name) + QLatin1Char(':');
@@ -79,9 +60,13 @@ void FlossInfoPanel::SayIf(bool edited) {
 }
 
 void FlossInfoPanel::ConnectFields(QObject& whole) {
-    auto* enter = new EnterTakes(this);
-    m_ui->txtFlossID->installEventFilter(enter);
-    m_ui->txtFlossDescription->installEventFilter(enter);
+    for (QLineEdit* field : {m_ui->txtFlossID, m_ui->txtFlossDescription}) {
+        // As leaving the field does.
+        new EnterTakes(*field, [field] {
+            Q_EMIT field->editingFinished();
+            field->selectAll();
+        });
+    }
     connect(m_ui->txtFlossID, &QLineEdit::editingFinished, &whole,
             [this] { SayIf(m_editor->SetFlossID(m_ui->txtFlossID->text().toStdString())); });
     connect(m_ui->txtFlossDescription, &QLineEdit::editingFinished, &whole, [this] {

@@ -26,8 +26,11 @@ ImportCommands::ImportCommands(MainCommands& commands, const Workshop& workshop,
 
 ImportCommands::~ImportCommands() = default;
 
-void ImportCommands::ForgetImport() {
-    m_wizard.reset();
+void ImportCommands::ForgetEditBox() {
+    // New and Open refill one and the same pattern.
+    if (m_wizard != nullptr && !m_wizard->CanGoOnOver(m_workshop.Open.Design())) {
+        m_wizard.reset();
+    }
 }
 
 void ImportCommands::Import() {

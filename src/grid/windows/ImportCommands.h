@@ -22,7 +22,7 @@ class MainCommands;
 struct ImportWork;
 
 /// The command that makes a design of a picture. Keeps the wizard that was left, so that its import
-/// can be resumed for as long as its design stands on the grid.
+/// can be resumed, over another design too unless it is one into an edit box.
 class ImportCommands {
 public:
     /// What the window does about an import.
@@ -39,9 +39,9 @@ public:
 
     /// A picture file that was dropped onto the window: a new import of it.
     void ImportFile(const std::filesystem::path& file);
-    /// Another design stands on the grid. The import that was left is of the one before: its edit
-    /// box and its flosses would be wrong here, so it cannot be resumed.
-    void ForgetImport();
+    /// Another design stands on the grid. An import that was left with an edit box of the one
+    /// before would go into squares that nobody chose here, so it cannot be resumed; any other can.
+    void ForgetEditBox();
 
 private:
     void Import();

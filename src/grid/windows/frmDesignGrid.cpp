@@ -175,7 +175,7 @@ void frmDesignGrid::ShowDesign() {
     FollowCurrentColor();
     FollowTool();
     m_design->EnableForNewDesign();
-    m_import->ForgetImport();
+    m_import->ForgetEditBox();
     m_edit->UpdateEditMenus();
 }
 

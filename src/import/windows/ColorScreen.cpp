@@ -11,6 +11,7 @@
 #include "import/ImportMessages.h"
 #include "import/windows/WizardProgress.h"
 #include "import/windows/ui_ColorScreen.h"
+#include "windowkit/EnterTakes.h"
 #include "windowkit/JobStatus.h"
 #include "windowkit/Spelling.h"
 
@@ -52,6 +53,11 @@ void ColorScreen::ConnectControls() {
     connect(m_ui->sliAdjuster, &QSlider::valueChanged, m_ui->txtAdjuster, &QSpinBox::setValue);
     connect(m_ui->txtAdjuster, &QSpinBox::valueChanged, m_ui->sliAdjuster, &QSlider::setValue);
     connect(m_ui->sliAdjuster, &QSlider::valueChanged, this, &ColorScreen::Adjust);
+    // On the way to the next screen what is tried goes.
+    new EnterTakes(*m_ui->txtAdjuster, [this] {
+        m_ui->txtAdjuster->interpretText();
+        m_ui->txtAdjuster->selectAll();
+    });
     connect(m_ui->cmdApplyColor, &QPushButton::clicked, this, &ColorScreen::ApplyColor);
     connect(m_ui->cmdUndoColor, &QPushButton::clicked, this, &ColorScreen::UndoColor);
     connect(m_ui->cmdResetColor, &QPushButton::clicked, this, &ColorScreen::ResetColor);

@@ -19,6 +19,7 @@
 #include "model/Pattern.h"
 #include "model/Rounding.h"
 #include "settings/basCommonFunctions.h"
+#include "windowkit/EnterTakes.h"
 #include "windowkit/JobStatus.h"
 #include "windowkit/NumericFilter.h"
 #include "windowkit/Spelling.h"
@@ -89,6 +90,8 @@ void MappingScreen::ConnectControls() {
             &QWidget::setToolTip);
     connect(m_ui->cmbFlossFamily, &QComboBox::activated, this, &MappingScreen::ChooseFlosses);
     connect(m_ui->txtMaxColors, &QLineEdit::textEdited, this, &MappingScreen::PreviewSoon);
+    // Not yet the end, which replaces the design.
+    new EnterTakes(*m_ui->txtMaxColors, [this] { m_ui->cmdPreviewPattern->click(); });
     connect(m_ui->cmdPreviewPattern, &QPushButton::clicked, this, &MappingScreen::PreviewPattern);
     connect(&m_job, &LatestJob::Failed, this,
             [this](const QString& text) { Warn(text.toStdString()); });

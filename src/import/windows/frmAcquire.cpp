@@ -3,9 +3,12 @@
 
 #include "import/windows/frmAcquire.h"
 
+#include <QAbstractSpinBox>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <initializer_list>
 #include <string>
 #include <utility>
 
@@ -13,6 +16,7 @@
 #include "import/windows/ScanJob.h"
 #include "import/windows/ui_frmAcquire.h"
 #include "windowkit/DialogSize.h"
+#include "windowkit/EnterTakes.h"
 #include "windowkit/Spelling.h"
 
 namespace zol {
@@ -37,6 +41,7 @@ frmAcquire::frmAcquire(ScannerDoor& scanners, SettingsDoor& store, const Program
       m_source(std::move(source)),
       m_ui(std::make_unique<Ui::frmAcquire>()) {
     m_ui->setupUi(this);
+    Spell(*this, context); // before the scanner's name stands there
     m_ui->lblSource->setText(QtText(m_source.Words));
     m_ui->picScan->SetEmpty(PictureLevels::Empty::Transparent);
     m_ui->picScan->ZoomToFit();
@@ -45,7 +50,6 @@ frmAcquire::frmAcquire(ScannerDoor& scanners, SettingsDoor& store, const Program
     QSizePolicy stays = m_ui->barProgress->sizePolicy();
     stays.setRetainSizeWhenHidden(true);
     m_ui->barProgress->setSizePolicy(stays);
-    Spell(*this, context);
     ConnectFields();
     RememberSize(*this, m_store);
     AskAbilities();
@@ -58,6 +62,14 @@ void frmAcquire::ConnectFields() {
     connect(m_ui->cmdScan, &QPushButton::clicked, this, &frmAcquire::Scan);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &frmAcquire::reject);
     ConnectChoices();
+    for (QAbstractSpinBox* field : std::initializer_list<QAbstractSpinBox*>{
+             m_ui->spnLeft, m_ui->spnTop, m_ui->spnWidth, m_ui->spnHeight}) {
+        // Not yet the scan.
+        new EnterTakes(*field, [field] {
+            field->interpretText();
+            field->selectAll();
+        });
+    }
     connect(this, &frmAcquire::RowsCame, this, &frmAcquire::TakeRows, Qt::QueuedConnection);
     connect(&m_job, &LatestJob::Failed, this, [this](const QString& text) {
         Become(Doing::Nothing);

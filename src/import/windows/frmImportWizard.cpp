@@ -37,6 +37,7 @@ frmImportWizard::frmImportWizard(const Outside& outside, std::optional<SquareRec
              outside.Settings, outside.Messages, outside.Files,  outside.Scanners},
       m_ui(std::make_unique<Ui::frmImportWizard>()) {
     m_ui->setupUi(this);
+    Spell(*this, m_desk.Context); // the screens, which show names of flosses too, see to themselves
     setAcceptDrops(true);
     m_status = new JobStatus(this);
     SetupVariables(editBox);
@@ -50,7 +51,6 @@ frmImportWizard::frmImportWizard(const Outside& outside, std::optional<SquareRec
         [this](const QString& file) { TakeFile(PathOf(file.toStdString())); },
         Qt::QueuedConnection);
     DisplayScreen(m_flow.CurrentScreen(), false);
-    Spell(*this, m_desk.Context);
     RememberSize(*this, m_desk.Store);
 }
 

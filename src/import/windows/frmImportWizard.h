@@ -53,8 +53,13 @@ public:
     [[nodiscard]] int CurrentScreen() const { return m_flow.CurrentScreen(); }
     /// Whether there is anything that could be resumed.
     [[nodiscard]] bool HasWork() const;
+    /// Whether it can be resumed over that design. With an edit box, which lies in the design that
+    /// it was opened over, it cannot be over another.
+    [[nodiscard]] bool CanGoOnOver(const Pattern& another) const {
+        return !m_work.EditBox && &m_desk.Design == &another;
+    }
     /// To be called before a wizard that was left is shown again: the design's palette may have
-    /// changed. It is still the design that the wizard was made for.
+    /// changed.
     void Resume();
     /// Only on the first screen: a file as the source.
     void TakeFile(const std::filesystem::path& file);

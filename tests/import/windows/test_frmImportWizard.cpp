@@ -6,6 +6,7 @@
 #include <QKeySequence>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QSlider>
 
 #include <sys/stat.h>
 
@@ -36,6 +37,7 @@ private Q_SLOTS:
     void finishSaysBeforehandWhatItReplaces();
     void finishWorksWithoutAPreview();
     void finishStaysWhileTheNumberOfColorsIsWrong();
+    void enterInAFieldIsForTheField();
     void cancelDuringFinishLeavesDesignAndWizard_data();
     void cancelDuringFinishLeavesDesignAndWizard();
     void aFailureIsToldAndTheWizardStays();
@@ -184,6 +186,22 @@ void test_frmImportWizard::finishWorksWithoutAPreview() {
     QCOMPARE(kit.Design.GetPalette().GetEntriesCount(), 2);
     QCOMPARE(kit.Design.GetStitchCount(29, 10), 1);
     QVERIFY(kit.User.told.empty());
+}
+
+void test_frmImportWizard::enterInAFieldIsForTheField() {
+    WizardKit kit;
+    kit.GoTo(4);
+    TypeIn(*kit.Wizard, "txtAdjuster", QStringLiteral("40"));
+    QTest::keyClick(&kit.Part("txtAdjuster"), Qt::Key_Return);
+    QCOMPARE(kit.Wizard->CurrentScreen(), 4);
+    QCOMPARE(PartOf<QSlider>(*kit.Wizard, "sliAdjuster").value(), 40);
+    kit.GoTo(5);
+    kit.ChooseFamily();
+    TypeIn(*kit.Wizard, "txtMaxColors", QStringLiteral("1"));
+    QTest::keyClick(&kit.Part("txtMaxColors"), Qt::Key_Return);
+    QVERIFY(kit.Wizard->isVisible());
+    QCOMPARE(kit.Created, 0);
+    QTRY_VERIFY(PartOf<PictureView>(*kit.Wizard, "lpicPreviewPattern").Shown() != nullptr);
 }
 
 void test_frmImportWizard::finishStaysWhileTheNumberOfColorsIsWrong() {
