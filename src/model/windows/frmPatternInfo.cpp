@@ -83,6 +83,8 @@ void frmPatternInfo::SetUpFields() {
                                       m_ui->picInfo1);
     m_ui->instructionsLayout->addWidget(m_editor);
     MoveBehindInTabOrder(*m_ui->buttonBox);
+    // Whoever comes to that page wants to write, so its text has the keys before its bar.
+    m_editor->setFocus();
 }
 
 void frmPatternInfo::FillFields() {
