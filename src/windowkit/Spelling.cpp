@@ -41,7 +41,7 @@ QString Spelled(QString words, const ProgramContext& context) {
     if (context.BritishSpelling) {
         for (const auto& [american, british] :
              {std::pair("Color", "Colour"), std::pair("color", "colour"),
-              std::pair("Customiz", "Customis")}) {
+              std::pair("mize", "mise")}) {
             words.replace(QLatin1String(american), QLatin1String(british));
         }
     }

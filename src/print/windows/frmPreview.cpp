@@ -4,6 +4,7 @@
 #include "print/windows/frmPreview.h"
 
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QShortcut>
 
 #include <algorithm>
@@ -84,8 +85,8 @@ void frmPreview::SetUpKeys() {
     const auto onKey = [this](const QKeySequence& key, auto run) {
         connect(new QShortcut(key, this), &QShortcut::activated, this, run);
     };
-    onKey(Qt::Key_PageUp, [this] { ShowPage(m_page - 1); });
-    onKey(Qt::Key_PageDown, [this] { ShowPage(m_page + 1); });
+    onKey(Qt::Key_PageUp, [this] { TurnOver(-1); });
+    onKey(Qt::Key_PageDown, [this] { TurnOver(1); });
     onKey(Qt::CTRL | Qt::Key_Home, [this] { ShowPage(m_job.PrintFromPage()); });
     onKey(Qt::CTRL | Qt::Key_End, [this] { ShowPage(m_job.PrintToPage()); });
     onKey(QKeySequence::ZoomIn, [this] { StepZoom(1, std::nullopt); });
@@ -118,6 +119,17 @@ void frmPreview::ShowPage(int page) {
         }
     }
     ShowNumbers();
+}
+
+void frmPreview::TurnOver(int pages) {
+    QScrollBar& bar = *m_ui->Picture2->verticalScrollBar();
+    const int end = pages > 0 ? bar.maximum() : bar.minimum();
+    if (bar.value() != end) {
+        bar.triggerAction(pages > 0 ? QAbstractSlider::SliderPageStepAdd
+                                    : QAbstractSlider::SliderPageStepSub);
+    } else {
+        ShowPage(m_page + pages);
+    }
 }
 
 void frmPreview::ShowTypedPage() {

@@ -48,6 +48,8 @@ private:
     void ConnectControls();
 
     void ShowPage(int page);
+    /// On through the shown page, and at its end to the next one; -1 goes back.
+    void TurnOver(int pages);
     void ShowTypedPage();
     void ShowNumbers();
     void TakeZoom(const QString& text);

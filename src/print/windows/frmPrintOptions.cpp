@@ -155,6 +155,8 @@ void frmPrintOptions::ShowPrinter() {
     m_ui->lblPrinter->setText(isThere ? m_desk.Printers.DeviceName() + QLatin1Char(' ')
                                       : QStringLiteral("No printer"));
     m_ui->cmdPrint->setEnabled(isThere);
+    m_ui->cmdPrint->setToolTip(isThere ? QString()
+                                       : tr("There is no printer; a PDF can be saved without one"));
     m_ui->cmdPrinterSetup->setEnabled(isThere);
 }
 

@@ -79,6 +79,7 @@ private Q_SLOTS:
     void FirstPageIsThePictureOfThatPage();
     void ButtonsStepWithinTheRange();
     void KeysStepAndJump();
+    void PageKeysGoThroughALargePageFirst();
     void PagesAreTypedToo();
     void KeyAloneCountsFromItsFirstPage();
     void EveryZoomIsPaintedAnew_data();
@@ -205,6 +206,26 @@ void PreviewTest::KeysStepAndJump() {
     QTest::keyClick(m_window.get(), Qt::Key_PageUp);
     QVERIFY(Shows(4));
     QTest::keyClick(m_window.get(), Qt::Key_Home, Qt::ControlModifier);
+    QVERIFY(Shows(1));
+}
+
+void PreviewTest::PageKeysGoThroughALargePageFirst() {
+    Show(1, 5);
+    TypeIn(*m_window, "cmbZoom", QStringLiteral("100"));
+    QTest::keyClick(&PartOf<QComboBox>(*m_window, "cmbZoom"), Qt::Key_Return);
+    QScrollBar& bar = *PartOf<PageView>(*m_window, "Picture2").verticalScrollBar();
+    QTRY_VERIFY(bar.maximum() > 0);
+    int keys = 0;
+    while (bar.value() < bar.maximum() && keys < 20) {
+        QTest::keyClick(m_window.get(), Qt::Key_PageDown);
+        ++keys;
+        QVERIFY(Shows(1));
+    }
+    QVERIFY(keys > 0);
+    QTest::keyClick(m_window.get(), Qt::Key_PageDown);
+    QVERIFY(Shows(2));
+    QCOMPARE(bar.value(), 0);
+    QTest::keyClick(m_window.get(), Qt::Key_PageUp);
     QVERIFY(Shows(1));
 }
 
