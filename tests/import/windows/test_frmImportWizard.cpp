@@ -10,6 +10,7 @@
 
 #include <sys/stat.h>
 
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <set>
@@ -397,6 +398,8 @@ void test_frmImportWizard::aFailureBehindTheHiddenWizardSaysNothing() {
     QTRY_COMPARE(arrivals.Count(), 1);
     kit.Click("cmdCancel");
     QVERIFY(!kit.Wizard->isVisible());
+    // It may have been called off before it reads, which must not end the test.
+    std::signal(SIGPIPE, SIG_IGN);
     std::ofstream(pipe) << "no picture";
     QTRY_COMPARE(arrivals.Count(), 2);
     QVERIFY(kit.User.told.empty());
