@@ -58,7 +58,8 @@ int OfLetters(std::string_view letters) {
 int OfRoman(std::string_view letters) {
     int number = 0;
     for (const auto& [value, sign] : RomanSigns) {
-        while (letters.starts_with(sign)) {
+        // A run of letters may be as long as the text; none of them is a number from here on.
+        while (letters.starts_with(sign) && number <= MostRoman) {
             number += value;
             letters.remove_prefix(sign.size());
         }

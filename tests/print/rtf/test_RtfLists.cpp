@@ -219,6 +219,9 @@ TEST(RtfListsTest, NumbersAreFoundInReadyMadeTexts) {
     EXPECT_EQ(RtfNumbering::OfText(ListLowerRoman, "iix."), std::nullopt);
     EXPECT_EQ(RtfNumbering::OfText(ListUpperRoman, "iv."), std::nullopt);
     EXPECT_EQ(RtfNumbering::OfText(ListUpperAlpha, ""), std::nullopt);
+    // More letters than any number has, summed beyond 32 bits.
+    EXPECT_EQ(RtfNumbering::OfText(ListLowerRoman, std::string(3'000'000, 'm')), std::nullopt);
+    EXPECT_EQ(RtfNumbering::OfText(ListLowerAlpha, std::string(3'000'000, 'm')), std::nullopt);
 }
 
 } // namespace zol::test
